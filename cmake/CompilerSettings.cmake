@@ -1,0 +1,36 @@
+# How everything of ours is compiled. Those who build us get our warnings only when they ask for them.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+add_library(kelvane_settings INTERFACE)
+# A product and a sum are rounded one by one, or pages would differ between processors.
+target_compile_options(kelvane_settings INTERFACE -ffp-contract=off)
+if(KELVANE_WARNINGS_AS_ERRORS)
+  target_compile_options(kelvane_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+if(KELVANE_SANITIZE)
+  target_compile_options(kelvane_settings INTERFACE
+    -fsanitize=${KELVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(kelvane_settings INTERFACE -fsanitize=${KELVANE_SANITIZE})
+endif()
+if(KELVANE_COVERAGE)
+  target_compile_options(kelvane_settings INTERFACE --coverage)
+  target_link_options(kelvane_settings INTERFACE --coverage)
+endif()
+
+find_program(KELVANE_CCACHE ccache)
+if(KELVANE_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${KELVANE_CCACHE})
+endif()

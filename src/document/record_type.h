@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+
+namespace kelvane {
+
+/// Record types that playback tells apart ([MS-EMF] 2.1.1).
+enum class RecordType : std::uint32_t {
+  EMR_HEADER = 1,
+  EMR_POLYBEZIER = 2,
+  EMR_POLYGON = 3,
+  EMR_POLYLINE = 4,
+  EMR_POLYBEZIERTO = 5,
+  EMR_POLYLINETO = 6,
+  EMR_POLYPOLYLINE = 7,
+  EMR_POLYPOLYGON = 8,
+  EMR_EOF = 14,
+  EMR_MOVETOEX = 27,
+  EMR_SETMETARGN = 28,
+  EMR_ANGLEARC = 41,
+  EMR_ELLIPSE = 42,
+  EMR_RECTANGLE = 43,
+  EMR_ROUNDRECT = 44,
+  EMR_ARC = 45,
+  EMR_CHORD = 46,
+  EMR_PIE = 47,
+  EMR_LINETO = 54,
+  EMR_ARCTO = 55,
+  EMR_POLYDRAW = 56,
+  EMR_POLYBEZIER16 = 85,
+  EMR_POLYGON16 = 86,
+  EMR_POLYLINE16 = 87,
+  EMR_POLYBEZIERTO16 = 88,
+  EMR_POLYLINETO16 = 89,
+  EMR_POLYPOLYLINE16 = 90,
+  EMR_POLYPOLYGON16 = 91,
+  EMR_POLYDRAW16 = 92,
+};
+
+}  // namespace kelvane

@@ -1,0 +1,155 @@
+#include "platform/quartz/cg_context.h"
+
+#include <cmath>
+#include <utility>
+
+#include "platform/quartz/cg_arcs.h"
+
+namespace kelvane {
+
+void CGContext::BeginPage(const CGRect& mediaBox) {
+  if (inPage_) EndPage();
+  ResetPage();
+  inPage_ = true;
+  PageBegins(mediaBox);
+}
+
+void CGContext::EndPage() {
+  if (!inPage_) return;
+  ResetPage();
+  inPage_ = false;
+  PageEnds();
+}
+
+void CGContext::ResetPage() {
+  state_ = {};
+  saved_.clear();
+  clips_.clear();
+  path_.Clear();
+  textMatrix_ = {};
+}
+
+void CGContext::SaveGState() { saved_.push_back(state_); }
+
+void CGContext::RestoreGState() {
+  if (saved_.empty()) return;
+  state_ = saved_.back();
+  saved_.pop_back();
+  clips_.resize(state_.clipCount);
+}
+
+void CGContext::ConcatCTM(const CGAffineTransform& transform) {
+  state_.ctm = CGAffineTransformConcat(transform, state_.ctm);
+}
+
+void CGContext::AddRect(const CGRect& rect) {
+  const CGAffineTransform& m = state_.ctm;
+  if (m.b == 0 && m.c == 0) {
+    path_.AddRectangle(ToPage(rect.origin), {rect.size.width * m.a, rect.size.height * m.d});
+    return;
+  }
+  const CGFloat right = rect.origin.x + rect.size.width;
+  const CGFloat top = rect.origin.y + rect.size.height;
+  path_.MoveTo(ToPage(rect.origin));
+  path_.LineTo(ToPage({right, rect.origin.y}));
+  path_.LineTo(ToPage({right, top}));
+  path_.LineTo(ToPage({rect.origin.x, top}));
+  path_.Close();
+}
+
+void CGContext::AddEllipseInRect(const CGRect& rect) { AddEllipse(path_, state_.ctm, rect); }
+
+void CGContext::AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFloat endAngle,
+                       bool clockwise) {
+  kelvane::AddArc(path_, state_.ctm, center, radius, startAngle, endAngle, clockwise);
+}
+
+CGPoint CGContext::PathCurrentPoint() const { return ToUserSpace(path_.CurrentPoint()); }
+
+void CGContext::DrawPath(CGPathDrawingMode mode) {
+  const bool finite = path_.IsFinite() && (!Strokes(mode) || std::isfinite(state_.lineWidth));
+  if (Shows() && path_.HasSegments() && finite) PathPainted(path_, mode);
+  path_.Clear();
+}
+
+void CGContext::Clip() {
+  if (path_.HasSegments() && path_.IsFinite()) {
+    clips_.push_back({std::exchange(path_, {}), nextClipSerial_++, saved_.size()});
+    state_.clipCount = clips_.size();
+  } else if (!path_.IsEmpty() && path_.IsFinite()) {
+    state_.hidesAll = true;
+  }
+  path_.Clear();
+}
+
+void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
+  const CGAffineTransform unitSquareToRect = {rect.size.width, 0,            0,
+                                              rect.size.height, rect.origin.x, rect.origin.y};
+  const CGAffineTransform matrix = CGAffineTransformConcat(unitSquareToRect, state_.ctm);
+  if (Shows() && IsFinite(matrix)) ImageDrawn(*image, matrix);
+}
+
+void CGContext::DrawPDFPage(const CGRect& rect, CGPDFPageRef page) {
+  const CGRect box = CGPDFPageGetBoxRect(page, kCGPDFMediaBox);
+  if (!(box.size.width > 0 && box.size.height > 0)) return;
+  const CGFloat xScale = rect.size.width / box.size.width;
+  const CGFloat yScale = rect.size.height / box.size.height;
+  const CGAffineTransform boxToRect = {
+      xScale, 0, 0, yScale, rect.origin.x - box.origin.x * xScale,
+      rect.origin.y - box.origin.y * yScale};
+  const CGAffineTransform matrix = CGAffineTransformConcat(boxToRect, state_.ctm);
+  if (Shows() && IsFinite(matrix)) PDFPageDrawn(*page, matrix);
+}
+
+void CGContext::DrawTextRun(const CGTextRun& run) {
+  CGTextRun onPage = run;
+  onPage.matrix = CGAffineTransformConcat(run.matrix, state_.ctm);
+  if (Shows() && run.size > 0 && std::isfinite(run.size) && IsFinite(onPage.matrix)) {
+    TextDrawn(onPage);
+  }
+}
+
+CGPoint CGContext::ToUserSpace(CGPoint pagePoint) const {
+  return CGPointApplyAffineTransform(pagePoint, CGAffineTransformInvert(state_.ctm));
+}
+
+CGRect CGContext::ToUserSpace(const CGRect& pageRect) const {
+  return CGRectApplyAffineTransform(pageRect, CGAffineTransformInvert(state_.ctm));
+}
+
+void CGContextClipToRect(CGContextRef c, const CGRect& rect) {
+  c->BeginPath();
+  c->AddRect(rect);
+  c->Clip();
+}
+
+void CGContextSetFillColorSpace(CGContextRef c, CGColorSpaceRef space) {
+  c->State().fillComponents = static_cast<std::uint8_t>(space->components);
+  c->State().fillColor = {};
+}
+
+void CGContextSetStrokeColorSpace(CGContextRef c, CGColorSpaceRef space) {
+  c->State().strokeComponents = static_cast<std::uint8_t>(space->components);
+  c->State().strokeColor = {};
+}
+
+void CGContextSetFillColor(CGContextRef c, const CGFloat* components) {
+  c->State().fillColor = MakeColor(components, c->State().fillComponents);
+}
+
+void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components) {
+  c->State().strokeColor = MakeColor(components, c->State().strokeComponents);
+}
+
+void CGContextSetLineWidth(CGContextRef c, CGFloat width) { c->State().lineWidth = width; }
+
+void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) { c->State().miterLimit = limit; }
+
+void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
+                              int page) {
+  if (document == nullptr || page < 1) return;
+  const CGPDFPageRef found = CGPDFDocumentGetPage(document, static_cast<std::size_t>(page));
+  if (found != nullptr) c->DrawPDFPage(rect, found);
+}
+
+}  // namespace kelvane

@@ -1,0 +1,16 @@
+#include "platform/quartz/cg_data_provider.h"
+
+namespace kelvane {
+
+CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data) {
+  return data != nullptr ? new CGDataProvider(data) : nullptr;
+}
+
+CGDataProviderRef CGDataProviderCreateWithData(void* info, const void* data, std::size_t size,
+                                               CGDataProvider::ReleaseCallback release) {
+  return new CGDataProvider(info, {static_cast<const unsigned char*>(data), size}, release);
+}
+
+void CGDataProviderRelease(CGDataProviderRef provider) noexcept { CFRelease(provider); }
+
+}  // namespace kelvane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "platform/quartz/cg_color_space.h"
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_path.h"
+
+namespace kelvane {
+
+/// The numbers are part of the platform's interface.
+enum CGPathDrawingMode : std::uint8_t {
+  kCGPathFill = 0,          // non-zero winding
+  kCGPathEOFill = 1,        // even-odd
+  kCGPathStroke = 2,
+  kCGPathFillStroke = 3,    // non-zero winding
+  kCGPathEOFillStroke = 4,  // even-odd
+};
+
+/// The numbers are PDF's text rendering modes, too (ISO 32000-1, table 106).
+enum CGTextDrawingMode : std::uint8_t {
+  kCGTextFill = 0,
+  kCGTextStroke = 1,
+  kCGTextFillStroke = 2,
+  kCGTextInvisible = 3,
+};
+
+/// What SaveGState keeps and RestoreGState brings back. The path and the text matrix are not part of it.
+struct CGGraphicsState {
+  CGAffineTransform ctm;
+  CGColor fillColor;
+  CGColor strokeColor;
+  std::uint8_t fillComponents = 1;    // of the fill colour space, alpha not counted
+  std::uint8_t strokeComponents = 1;  // of the stroke colour space
+  CGTextDrawingMode textMode = kCGTextFill;
+  bool hidesAll = false;  // clipped to nothing
+  CGFloat lineWidth = 1;  // user space
+  CGFloat miterLimit = 10;
+  std::size_t clipCount = 0;  // how many of the page's clips are in effect, oldest first
+};
+
+/// One clip in effect: the area all later marks are cut to, together with the clips before it.
+struct CGClip {
+  CGPath area;           // page space, non-zero winding
+  std::uint64_t serial;  // never used twice on a surface
+  std::size_t saveDepth; // how many states were saved when it was set
+};
+
+/// How a stroke is written for the CTM in force. Under an even scale only the width changes; under an uneven
+/// one the pen itself is deformed, so the stroke is drawn in user space through `transform`.
+struct CGStrokeGeometry {
+  CGFloat width;                     // in the space the stroke is drawn in
+  bool throughTransform;             // draw under `transform`, points mapped back by `inverse`
+  CGAffineTransform transform = {};  // user space to page
+  CGAffineTransform inverse = {};    // page to user space
+};
+
+/// @return the geometry of a stroke in `state`. Under a singular transform the stroke is of width 0.
+CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
+
+constexpr bool Fills(CGPathDrawingMode mode) { return mode != kCGPathStroke; }
+constexpr bool Strokes(CGPathDrawingMode mode) { return mode >= kCGPathStroke; }
+
+}  // namespace kelvane

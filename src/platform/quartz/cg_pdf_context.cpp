@@ -1,0 +1,175 @@
+#include "platform/quartz/cg_pdf_context.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/quartz/cg_state_writer.h"
+#include "platform/quartz/pdf_content.h"
+#include "platform/quartz/pdf_writer.h"
+
+namespace kelvane {
+namespace {
+
+/// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an uneven transform
+/// is wrapped in that transform.
+class CGPDFContext final : public CGContext, private CGStateWriter {
+ public:
+  explicit CGPDFContext(CGDataConsumerRef consumer)
+      : consumer_(CFShare(consumer)),
+        content_([this](std::string_view piece) { contents_.push_back(writer_.AddStream(piece)); }) {
+  }
+
+  void Close() override {
+    EndPage();
+    writer_.Write(*consumer_);
+  }
+
+ private:
+  /// A page drawn over the whole of this one, before anything else.
+  struct PendingPage {
+    CFOwned<CGPDFDocument> document;
+    const CGPDFPage* page;
+  };
+
+  ~CGPDFContext() override = default;
+
+  void PageBegins(const CGRect& mediaBox) override {
+    mediaBox_ = mediaBox;
+    page_ = writer_.AddPage(mediaBox);
+    xobjects_ = {};
+    fonts_ = {};
+    StartPage();
+  }
+
+  void PageEnds() override {
+    if (pending_) {
+      PdfWriter::AdoptContent(page_, *pending_->page);
+      pending_.reset();
+      return;
+    }
+    FinishPage();
+    content_.Finish();
+    page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
+                                                        : QPDFObjectHandle::newArray(contents_));
+    contents_.clear();
+  }
+
+  void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
+    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)});
+    const CGStrokeGeometry stroke = StrokeGeometry(State());
+    if (!Strokes(mode) || !stroke.throughTransform) {
+      content_.Path(path);
+      content_.Paint(mode);
+      return;
+    }
+    content_.Save();
+    content_.Concat(stroke.transform);
+    content_.Path(path, stroke.inverse);
+    content_.Paint(mode);
+    content_.Restore();
+  }
+
+  void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
+    QPDFObjectHandle stream = writer_.AddImage(image);
+    if (stream.isNull()) return;
+    BeginMark({});
+    DrawXObject(NameOf(stream, "/XObject", "/Im", xobjects_), matrix);
+  }
+
+  void PDFPageDrawn(const CGPDFPage& page, const CGAffineTransform& matrix) override {
+    if (!pending_ && IsUntouched() && matrix == CGAffineTransformIdentity &&
+        CGPDFPageGetBoxRect(&page, kCGPDFMediaBox) == mediaBox_) {
+      pending_ = PendingPage{CFShare(page.document), &page};
+      return;
+    }
+    BeginMark({});
+    DrawForm(page, matrix);
+  }
+
+  void TextDrawn(const CGTextRun& run) override {
+    BeginMark({.text = true});
+    content_.ShowText(NameOf(writer_.Helvetica(), "/Font", "/F", fonts_), run);
+  }
+
+  [[nodiscard]] bool IsUntouched() const {
+    return contents_.empty() && content_.IsEmpty() && Clips().empty();
+  }
+
+  // A page that does not stay alone becomes a form, drawn before what follows.
+  void BeginMark(CGStateNeeds needs) {
+    if (pending_) {
+      const PendingPage first = *std::exchange(pending_, std::nullopt);
+      DrawForm(*first.page, {});
+    }
+    Prepare(State(), Clips(), needs);
+  }
+
+  void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
+    DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
+  }
+
+  void DrawXObject(const std::string& name, const CGAffineTransform& matrix) {
+    content_.Save();
+    content_.Concat(matrix);
+    content_.DrawXObject(name);
+    content_.Restore();
+  }
+
+  /// The page's names for its resources of one category, by object.
+  using Names = std::map<QPDFObjGen, std::string>;
+
+  const std::string& NameOf(const QPDFObjectHandle& object, const char* category,
+                            const char* prefix, Names& names) {
+    const auto [entry, isNew] = names.try_emplace(object.getObjGen());
+    if (isNew) {
+      entry->second = prefix + std::to_string(names.size());
+      auto resources = page_.getKey("/Resources");
+      if (!resources.hasKey(category)) {
+        resources.replaceKey(category, QPDFObjectHandle::newDictionary());
+      }
+      resources.getKey(category).replaceKey(entry->second, object);
+    }
+    return entry->second;
+  }
+
+  void WriteSave() override { content_.Save(); }
+  void WriteRestore() override { content_.Restore(); }
+  void WriteClip(const CGPath& area) override {
+    content_.Path(area);
+    content_.Clip();
+  }
+  void WriteFillColor(const CGColor& color) override { content_.FillColor(color); }
+  void WriteStrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
+  void WriteLineWidth(CGFloat width) override { content_.LineWidth(width); }
+  void WriteMiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
+  void WriteTextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
+
+  CFOwned<CGDataConsumer> consumer_;
+  PdfWriter writer_;
+  CGRect mediaBox_;
+  QPDFObjectHandle page_;
+  std::vector<QPDFObjectHandle> contents_;  // the pieces of the page's content, in order
+  PdfContent content_;
+  Names xobjects_;
+  Names fonts_;
+  std::optional<PendingPage> pending_;
+};
+
+bool IsUsable(const CGRect& box) {
+  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
+}
+
+}  // namespace
+
+CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
+                                CFDictionaryRef /*auxiliaryInfo*/) {
+  if (consumer == nullptr || mediaBox == nullptr || !IsUsable(*mediaBox)) return nullptr;
+  return new CGPDFContext(consumer);
+}
+
+void CGPDFContextClose(CGContextRef context) { context->Close(); }
+
+}  // namespace kelvane

@@ -1,0 +1,172 @@
+#include "platform/quartz/pdf_writer.h"
+
+#include <libdeflate.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <new>
+#include <qpdf/Buffer.hh>
+#include <qpdf/Pipeline.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+#include <string>
+
+
+namespace kelvane {
+namespace {
+
+constexpr int kDeflateLevel = 6;
+
+class ConsumerPipeline final : public Pipeline {
+ public:
+  explicit ConsumerPipeline(CGDataConsumer& consumer)
+      : Pipeline("consumer", nullptr), consumer_(consumer) {}
+
+  void write(const unsigned char* data, std::size_t length) override {
+    consumer_.Write({data, length});
+  }
+  void finish() override {}
+
+ private:
+  CGDataConsumer& consumer_;
+};
+
+/// The far corner of a box may need more digits than its origin and size, hence the double.
+QPDFObjectHandle Number(double value) {
+  std::array<char, 400> text;
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
+  return QPDFObjectHandle::parse(std::string(text.data(), end));
+}
+
+QPDFObjectHandle BoxArray(const CGRect& box) {
+  const double x = box.origin.x;
+  const double y = box.origin.y;
+  return QPDFObjectHandle::newArray(
+      {Number(x), Number(y), Number(x + box.size.width), Number(y + box.size.height)});
+}
+
+}  // namespace
+
+void PdfWriter::CompressorDeleter::operator()(libdeflate_compressor* compressor) const {
+  libdeflate_free_compressor(compressor);
+}
+
+PdfWriter::PdfWriter() : compressor_(libdeflate_alloc_compressor(kDeflateLevel)) {
+  if (!compressor_) throw std::bad_alloc();
+  pdf_.emptyPDF();
+  auto information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Producer", QPDFObjectHandle::newString("kelvane " KELVANE_VERSION));
+  pdf_.getTrailer().replaceKey("/Info", pdf_.makeIndirectObject(information));
+}
+
+PdfWriter::~PdfWriter() = default;
+
+std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
+  std::string room(libdeflate_zlib_compress_bound(compressor_.get(), data.size()), '\0');
+  const std::size_t size = libdeflate_zlib_compress(compressor_.get(), data.data(), data.size(),
+                                                    room.data(), room.size());
+  auto deflated = std::make_shared<Buffer>(size);
+  std::copy_n(room.data(), size, deflated->getBuffer());
+  return deflated;
+}
+
+QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
+  auto stream = pdf_.newStream();
+  stream.replaceStreamData(
+      Deflate({reinterpret_cast<const unsigned char*>(data.data()), data.size()}),
+      QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  return stream;
+}
+
+QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
+  const auto pixels = PackRows(image.provider->Bytes(), image.width * image.components,
+                               image.height, image.bytesPerRow);
+  if (!pixels) return QPDFObjectHandle::newNull();
+
+  auto dictionary = QPDFObjectHandle::newDictionary();
+  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
+  dictionary.replaceKey("/Width", QPDFObjectHandle::newInteger(static_cast<long long>(image.width)));
+  dictionary.replaceKey("/Height",
+                        QPDFObjectHandle::newInteger(static_cast<long long>(image.height)));
+  dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::newName(
+                                           image.components == 1 ? "/DeviceGray" : "/DeviceRGB"));
+  dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
+  if (image.interpolate) dictionary.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
+  return SharedImage(dictionary, Deflate(*pixels));
+}
+
+// Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is new.
+QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
+                                        const std::shared_ptr<Buffer>& deflated) {
+  const auto bytesOf = [](Buffer& buffer) {
+    return std::string_view(reinterpret_cast<const char*>(buffer.getBuffer()), buffer.getSize());
+  };
+  const std::string layout = dictionary.unparse();
+  const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*deflated));
+  const auto [first, last] = images_.equal_range(hash);
+  for (auto known = first; known != last; ++known) {
+    if (known->second.layout == layout && bytesOf(*known->second.deflated) == bytesOf(*deflated)) {
+      return known->second.stream;
+    }
+  }
+  auto stream = pdf_.newStream();
+  stream.replaceDict(dictionary);
+  stream.replaceStreamData(deflated, QPDFObjectHandle::newName("/FlateDecode"),
+                           QPDFObjectHandle::newNull());
+  images_.emplace(hash, StoredImage{layout, deflated, stream});
+  return stream;
+}
+
+QPDFObjectHandle PdfWriter::Helvetica() {
+  if (!helvetica_.isInitialized()) {
+    helvetica_ = pdf_.makeIndirectObject(QPDFObjectHandle::parse(
+        "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Encoding /WinAnsiEncoding >>"));
+  }
+  return helvetica_;
+}
+
+QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
+  const QPDFObjectHandle source = page.document->pdf->getAllPages()[page.index];
+  constexpr bool kApplyRotation = false;
+  auto form = QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation);
+  return pdf_.copyForeignObject(form);
+}
+
+void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
+  // Only indirect objects can be copied between documents, and these two may be direct or inherited.
+  QPDF& document = *page.getOwningQPDF();
+  QPDF& sourceDocument = *source.document->pdf;
+  QPDFPageObjectHelper helper(sourceDocument.getAllPages()[source.index]);
+  auto parts = QPDFObjectHandle::newDictionary();
+  for (const char* key : {"/Contents", "/Resources"}) {
+    parts.replaceKey(key, helper.getAttribute(key, false));
+  }
+  auto copy = document.copyForeignObject(sourceDocument.makeIndirectObject(parts));
+  for (const std::string& key : copy.getKeys()) page.replaceKey(key, copy.getKey(key));
+}
+
+QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
+  auto page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  page.replaceKey("/MediaBox", BoxArray(mediaBox));
+  page.replaceKey("/Resources", QPDFObjectHandle::newDictionary());
+  pdf_.addPage(pdf_.makeIndirectObject(page), false);
+  return pdf_.getAllPages().back();
+}
+
+void PdfWriter::Write(CGDataConsumer& consumer) {
+  ConsumerPipeline pipeline(consumer);
+  QPDFWriter writer(pdf_);
+  writer.setOutputPipeline(&pipeline);
+  writer.forcePDFVersion("1.4");
+  writer.setObjectStreamMode(qpdf_o_disable);
+  writer.setStreamDataMode(qpdf_s_preserve);
+  writer.setDeterministicID(true);
+  writer.write();
+  consumer.Commit();
+}
+
+}  // namespace kelvane

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include "platform/quartz/cg_data_consumer.h"
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_image.h"
+#include "platform/quartz/cg_pdf_document.h"
+
+struct libdeflate_compressor;
+
+namespace kelvane {
+
+/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic cross-reference and nothing
+/// in it that differs between two runs. Any call may throw std::bad_alloc or what the PDF library throws.
+class PdfWriter {
+ public:
+  PdfWriter();
+  ~PdfWriter();
+  PdfWriter(const PdfWriter&) = delete;
+  PdfWriter& operator=(const PdfWriter&) = delete;
+
+  /// @param data  copied, deflated. @return the new stream.
+  QPDFObjectHandle AddStream(std::string_view data);
+
+  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell short.
+  QPDFObjectHandle AddImage(const CGImage& image);
+
+  /// @return the standard Helvetica, not embedded.
+  QPDFObjectHandle Helvetica();
+
+  /// @return the page of another document as a form XObject in that page's own space.
+  QPDFObjectHandle AddForm(const CGPDFPage& page);
+
+  /// Gives `page` the other document's page's own content and resources.
+  static void AdoptContent(QPDFObjectHandle page, const CGPDFPage& source);
+
+  /// @return a new last page, still without content, its resources empty.
+  QPDFObjectHandle AddPage(const CGRect& mediaBox);
+
+  /// Writes and commits the document. Throws std::system_error when the consumer cannot take it.
+  void Write(CGDataConsumer& consumer);
+
+ private:
+  struct CompressorDeleter {
+    void operator()(libdeflate_compressor* compressor) const;
+  };
+
+  struct StoredImage {
+    std::string layout;  // its dictionary without the data's own entries
+    std::shared_ptr<Buffer> deflated;
+    QPDFObjectHandle stream;
+  };
+
+  [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
+  QPDFObjectHandle SharedImage(QPDFObjectHandle dictionary,
+                               const std::shared_ptr<Buffer>& deflated);
+
+  QPDF pdf_;
+  std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor_;
+  std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
+  QPDFObjectHandle helvetica_;
+};
+
+}  // namespace kelvane

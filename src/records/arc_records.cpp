@@ -1,0 +1,33 @@
+#include "records/arc_records.h"
+
+#include "context/abstract_context.h"
+#include "context/path_primitives.h"
+#include "reader/reader.h"
+
+namespace kelvane {
+
+void ArcRecord::drawToPDF(AbstractContext& context) const {
+  AddEllipseInRect(context, box);
+  if (context.inPath == 0) DrawPath(context, kCGPathStroke);
+  context.EmptyDraw("Ellipse was drawing instead of arc");
+}
+
+void ArcRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+
+void ArcToRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("ArcTo"); }
+
+void ChordRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("Chord"); }
+
+void ChordRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+
+void PieRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("Pie"); }
+
+void PieRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+
+void AngleArcRecord::drawToPDF(AbstractContext& context) const {
+  AddArc(context, centre, radius, startAngle, startAngle + sweepAngle);
+}
+
+void AngleArcRecord::read(Reader& reader) { reader.readAll(centre, radius, startAngle, sweepAngle); }
+
+}  // namespace kelvane
