@@ -1,0 +1,173 @@
+#include "support/metafile.h"
+
+#include "document/record_type.h"
+
+namespace kelvane::test {
+namespace {
+
+constexpr std::uint32_t kHeaderSize = 108;
+constexpr std::uint32_t kEndSize = 20;
+
+std::uint32_t Number(RecordType type) { return static_cast<std::uint32_t>(type); }
+
+void AppendPoints(Bytes& body, const Points& points, bool wide) {
+  for (const At& point : points) {
+    if (wide) {
+      body.PointL(point.x, point.y);
+    } else {
+      body.Point(point.x, point.y);
+    }
+  }
+}
+
+Bytes Box(const RectangleL& box) {
+  return Bytes().Rectangle(box.left, box.top, box.right, box.bottom);
+}
+
+}  // namespace
+
+Metafile& Metafile::Bounds(std::int32_t left, std::int32_t top, std::int32_t right,
+                           std::int32_t bottom) {
+  bounds_ = {left, top, right, bottom};
+  return *this;
+}
+
+Metafile& Metafile::Polyline(const Points& points, bool wide) {
+  return Poly(Number(RecordType::EMR_POLYLINE), Number(RecordType::EMR_POLYLINE16), points, wide);
+}
+
+Metafile& Metafile::Polygon(const Points& points, bool wide) {
+  return Poly(Number(RecordType::EMR_POLYGON), Number(RecordType::EMR_POLYGON16), points, wide);
+}
+
+Metafile& Metafile::Polybezier(const Points& points, bool wide) {
+  return Poly(Number(RecordType::EMR_POLYBEZIER), Number(RecordType::EMR_POLYBEZIER16), points,
+              wide);
+}
+
+Metafile& Metafile::PolylineTo(const Points& points, bool wide) {
+  return Poly(Number(RecordType::EMR_POLYLINETO), Number(RecordType::EMR_POLYLINETO16), points,
+              wide);
+}
+
+Metafile& Metafile::PolybezierTo(const Points& points, bool wide) {
+  return Poly(Number(RecordType::EMR_POLYBEZIERTO), Number(RecordType::EMR_POLYBEZIERTO16), points,
+              wide);
+}
+
+Metafile& Metafile::PolyPolyline(const std::vector<Points>& figures, bool wide) {
+  return PolyPoly(Number(RecordType::EMR_POLYPOLYLINE), Number(RecordType::EMR_POLYPOLYLINE16),
+                  figures, wide);
+}
+
+Metafile& Metafile::PolyPolygon(const std::vector<Points>& figures, bool wide) {
+  return PolyPoly(Number(RecordType::EMR_POLYPOLYGON), Number(RecordType::EMR_POLYPOLYGON16),
+                  figures, wide);
+}
+
+Metafile& Metafile::MoveTo(std::int32_t x, std::int32_t y) {
+  return Record(Number(RecordType::EMR_MOVETOEX), Bytes().PointL(x, y));
+}
+
+Metafile& Metafile::LineTo(std::int32_t x, std::int32_t y) {
+  return Record(Number(RecordType::EMR_LINETO), Bytes().PointL(x, y));
+}
+
+Metafile& Metafile::Rectangle(const RectangleL& box) {
+  return Record(Number(RecordType::EMR_RECTANGLE), Box(box));
+}
+
+Metafile& Metafile::RoundRectangle(const RectangleL& box, std::int32_t cornerWidth,
+                                   std::int32_t cornerHeight) {
+  return Record(Number(RecordType::EMR_ROUNDRECT), Box(box).PointL(cornerWidth, cornerHeight));
+}
+
+Metafile& Metafile::Ellipse(const RectangleL& box) {
+  return Record(Number(RecordType::EMR_ELLIPSE), Box(box));
+}
+
+Metafile& Metafile::Arc(const RectangleL& box, At start, At end) {
+  return ArcLike(Number(RecordType::EMR_ARC), box, start, end);
+}
+
+Metafile& Metafile::ArcTo(const RectangleL& box, At start, At end) {
+  return ArcLike(Number(RecordType::EMR_ARCTO), box, start, end);
+}
+
+Metafile& Metafile::Chord(const RectangleL& box, At start, At end) {
+  return ArcLike(Number(RecordType::EMR_CHORD), box, start, end);
+}
+
+Metafile& Metafile::Pie(const RectangleL& box, At start, At end) {
+  return ArcLike(Number(RecordType::EMR_PIE), box, start, end);
+}
+
+Metafile& Metafile::AngleArc(At centre, std::uint32_t radius, float startDegrees,
+                             float sweepDegrees) {
+  return Record(Number(RecordType::EMR_ANGLEARC), Bytes()
+                                                      .PointL(centre.x, centre.y)
+                                                      .U32(radius)
+                                                      .F32(startDegrees)
+                                                      .F32(sweepDegrees));
+}
+
+Metafile& Metafile::Record(std::uint32_t type, const Bytes& body) {
+  Bytes padded = body;
+  padded.Zeros((4 - body.Size() % 4) % 4);
+  return RecordOfSize(type, static_cast<std::uint32_t>(8 + padded.Size()), padded);
+}
+
+Metafile& Metafile::RecordOfSize(std::uint32_t type, std::uint32_t declaredSize,
+                                 const Bytes& body) {
+  records_.U32(type).U32(declaredSize).Append(body.Data());
+  ++recordCount_;
+  return *this;
+}
+
+std::vector<unsigned char> Metafile::Build() const {
+  Bytes file;
+  file.Append(BuildWithoutEnd());
+  file.U32(Number(RecordType::EMR_EOF)).U32(kEndSize).U32(0).U32(16).U32(kEndSize);
+  return file.Data();
+}
+
+std::vector<unsigned char> Metafile::BuildWithoutEnd() const {
+  constexpr std::uint32_t kSignature = 0x464D4520;  // " EMF"
+  constexpr std::uint32_t kVersion = 0x00010000;
+  const auto size = static_cast<std::uint32_t>(kHeaderSize + records_.Size() + kEndSize);
+  Bytes file;
+  file.U32(Number(RecordType::EMR_HEADER)).U32(kHeaderSize);
+  file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
+  file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
+  file.U32(kSignature).U32(kVersion).U32(size).U32(recordCount_ + 2).U16(1).U16(0);
+  file.U32(0).U32(0).U32(0);               // description, its offset, palette entries
+  file.PointL(1024, 768).PointL(320, 240);  // device in pixels and in millimetres
+  file.U32(0).U32(0).U32(0).PointL(320000, 240000);
+  return file.Append(records_.Data()).Data();
+}
+
+Metafile& Metafile::Poly(std::uint32_t type, std::uint32_t type16, const Points& points,
+                         bool wide) {
+  Bytes body;
+  body.Rectangle(0, 0, -1, -1).U32(static_cast<std::uint32_t>(points.size()));
+  AppendPoints(body, points, wide);
+  return Record(wide ? type : type16, body);
+}
+
+Metafile& Metafile::PolyPoly(std::uint32_t type, std::uint32_t type16,
+                             const std::vector<Points>& figures, bool wide) {
+  std::size_t total = 0;
+  for (const Points& figure : figures) total += figure.size();
+  Bytes body;
+  body.Rectangle(0, 0, -1, -1).U32(static_cast<std::uint32_t>(figures.size()));
+  body.U32(static_cast<std::uint32_t>(total));
+  for (const Points& figure : figures) body.U32(static_cast<std::uint32_t>(figure.size()));
+  for (const Points& figure : figures) AppendPoints(body, figure, wide);
+  return Record(wide ? type : type16, body);
+}
+
+Metafile& Metafile::ArcLike(std::uint32_t type, const RectangleL& box, At start, At end) {
+  return Record(type, Box(box).PointL(start.x, start.y).PointL(end.x, end.y));
+}
+
+}  // namespace kelvane::test

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "reader/geometry_types.h"
+#include "support/bytes.h"
+
+namespace kelvane::test {
+
+struct At {
+  std::int32_t x;
+  std::int32_t y;
+};
+
+using Points = std::vector<At>;
+
+/// A metafile put together record by record. Coordinates are logical units. Poly records are written with 16-bit
+/// points; `wide` asks for the 32-bit ones.
+class Metafile {
+ public:
+  /// The page is (0, 0, 100, 100) unless Bounds says otherwise.
+  Metafile() = default;
+
+  Metafile& Bounds(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom);
+
+  Metafile& Polyline(const Points& points, bool wide = false);
+  Metafile& Polygon(const Points& points, bool wide = false);
+  Metafile& Polybezier(const Points& points, bool wide = false);
+  Metafile& PolylineTo(const Points& points, bool wide = false);
+  Metafile& PolybezierTo(const Points& points, bool wide = false);
+  Metafile& PolyPolyline(const std::vector<Points>& figures, bool wide = false);
+  Metafile& PolyPolygon(const std::vector<Points>& figures, bool wide = false);
+
+  Metafile& MoveTo(std::int32_t x, std::int32_t y);
+  Metafile& LineTo(std::int32_t x, std::int32_t y);
+  Metafile& Rectangle(const RectangleL& box);
+  Metafile& RoundRectangle(const RectangleL& box, std::int32_t cornerWidth,
+                           std::int32_t cornerHeight);
+  Metafile& Ellipse(const RectangleL& box);
+  Metafile& Arc(const RectangleL& box, At start, At end);
+  Metafile& ArcTo(const RectangleL& box, At start, At end);
+  Metafile& Chord(const RectangleL& box, At start, At end);
+  Metafile& Pie(const RectangleL& box, At start, At end);
+  Metafile& AngleArc(At centre, std::uint32_t radius, float startDegrees, float sweepDegrees);
+
+  /// Any record: type, size and body. The body is padded to a multiple of four.
+  Metafile& Record(std::uint32_t type, const Bytes& body = {});
+
+  /// Any record with a size field of its own, whatever the body holds.
+  Metafile& RecordOfSize(std::uint32_t type, std::uint32_t declaredSize, const Bytes& body = {});
+
+  /// The file: a header of 108 bytes, the records, EMR_EOF.
+  [[nodiscard]] std::vector<unsigned char> Build() const;
+
+  /// The same without the EMR_EOF.
+  [[nodiscard]] std::vector<unsigned char> BuildWithoutEnd() const;
+
+ private:
+  Metafile& Poly(std::uint32_t type, std::uint32_t type16, const Points& points, bool wide);
+  Metafile& PolyPoly(std::uint32_t type, std::uint32_t type16, const std::vector<Points>& figures,
+                     bool wide);
+  Metafile& ArcLike(std::uint32_t type, const RectangleL& box, At start, At end);
+
+  RectangleL bounds_ = {0, 0, 100, 100};
+  Bytes records_;
+  std::uint32_t recordCount_ = 0;
+};
+
+}  // namespace kelvane::test

@@ -1,0 +1,35 @@
+#include "support/pdf.h"
+
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include "support/process.h"
+
+namespace kelvane::test {
+
+Pdf::Pdf(std::string bytes) : bytes_(std::move(bytes)), document_(std::make_unique<QPDF>()) {
+  document_->processMemoryFile("pdf", bytes_.data(), bytes_.size());
+}
+
+std::size_t Pdf::PageCount() const { return document_->getAllPages().size(); }
+
+QPDFObjectHandle Pdf::Page(std::size_t index) const { return document_->getAllPages().at(index); }
+
+std::string Pdf::MediaBox(std::size_t index) const {
+  return Page(index).getKey("/MediaBox").unparse();
+}
+
+std::string Pdf::Content(std::size_t index) const {
+  std::string content;
+  for (QPDFObjectHandle& stream : Page(index).getPageContents()) {
+    const auto data = stream.getStreamData(qpdf_dl_all);
+    content.append(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
+  }
+  return content;
+}
+
+std::string ComplaintsAbout(const std::string& pdfPath) {
+  const ProcessResult result = Run({"qpdf", "--check", pdfPath});
+  return result.status == 0 ? "" : result.output;
+}
+
+}  // namespace kelvane::test

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+namespace kelvane::test {
+
+/// A PDF read back by an independent library.
+class Pdf {
+ public:
+  /// Throws std::exception when the bytes are not a PDF.
+  explicit Pdf(std::string bytes);
+
+  [[nodiscard]] std::size_t PageCount() const;
+  [[nodiscard]] QPDFObjectHandle Page(std::size_t index = 0) const;
+
+  /// The page's media box, as it stands in the file: "[ 0 -50 100 0 ]".
+  [[nodiscard]] std::string MediaBox(std::size_t index = 0) const;
+
+  /// The page's content, decoded and joined.
+  [[nodiscard]] std::string Content(std::size_t index = 0) const;
+
+  [[nodiscard]] QPDF& Document() const { return *document_; }
+
+ private:
+  std::string bytes_;
+  std::unique_ptr<QPDF> document_;
+};
+
+/// Checks a PDF with the external checker. @return its complaints; empty when there are none.
+std::string ComplaintsAbout(const std::string& pdfPath);
+
+}  // namespace kelvane::test

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "document/emf_file.h"
+#include "reader/reader.h"
+#include "support/bytes.h"
+#include "support/metafile.h"
+
+namespace kelvane::test {
+
+/// A metafile's records, parsed from a block that lives as long.
+class ParsedMetafile {
+ public:
+  /// Parses as from a file: every byte can be read. Throws what parsing throws.
+  explicit ParsedMetafile(std::vector<unsigned char> bytes);
+
+  EMFFile* operator->() { return &file_; }
+
+ private:
+  std::vector<unsigned char> block_;
+  EMFFile file_;
+};
+
+/// @return the trace of the whole playback, page lines included.
+std::string FullTrace(const Metafile& metafile);
+
+/// @return the trace of the playback between the page's first line and its last.
+std::string Trace(const Metafile& metafile);
+
+/// Converts in memory as KELVANE does. Throws what the conversion throws.
+std::string ConvertToPdf(const std::vector<unsigned char>& metafile);
+
+/// @return the decoded content stream of the page that the metafile makes.
+std::string PageContent(const Metafile& metafile);
+
+/// Reads a record's body, the part behind type and size, which is all that `read` sees.
+template <class R, class... Arguments>
+std::unique_ptr<R> ReadRecord(const Bytes& body, Arguments&&... arguments) {
+  std::vector<unsigned char> block = body.Data();
+  block.push_back(0);  // so that every byte can be read
+  Reader reader(block.data(), static_cast<std::int32_t>(block.size()));
+  auto record = std::make_unique<R>(std::forward<Arguments>(arguments)...);
+  record->size = static_cast<std::uint32_t>(8 + body.Size());
+  record->read(reader);
+  return record;
+}
+
+}  // namespace kelvane::test
