@@ -8,7 +8,9 @@ namespace {
 constexpr std::uint32_t kHeaderSize = 108;
 constexpr std::uint32_t kEndSize = 20;
 
-std::uint32_t Number(RecordType type) { return static_cast<std::uint32_t>(type); }
+std::uint32_t Number(RecordType type) {
+  return static_cast<std::uint32_t>(type);
+}
 
 void AppendPoints(Bytes& body, const Points& points, bool wide) {
   for (const At& point : points) {
@@ -104,11 +106,8 @@ Metafile& Metafile::Pie(const RectangleL& box, At start, At end) {
 
 Metafile& Metafile::AngleArc(At centre, std::uint32_t radius, float startDegrees,
                              float sweepDegrees) {
-  return Record(Number(RecordType::EMR_ANGLEARC), Bytes()
-                                                      .PointL(centre.x, centre.y)
-                                                      .U32(radius)
-                                                      .F32(startDegrees)
-                                                      .F32(sweepDegrees));
+  return Record(Number(RecordType::EMR_ANGLEARC),
+                Bytes().PointL(centre.x, centre.y).U32(radius).F32(startDegrees).F32(sweepDegrees));
 }
 
 Metafile& Metafile::Record(std::uint32_t type, const Bytes& body) {
@@ -140,7 +139,7 @@ std::vector<unsigned char> Metafile::BuildWithoutEnd() const {
   file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
   file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
   file.U32(kSignature).U32(kVersion).U32(size).U32(recordCount_ + 2).U16(1).U16(0);
-  file.U32(0).U32(0).U32(0);               // description, its offset, palette entries
+  file.U32(0).U32(0).U32(0);                // description, its offset, palette entries
   file.PointL(1024, 768).PointL(320, 240);  // device in pixels and in millimetres
   file.U32(0).U32(0).U32(0).PointL(320000, 240000);
   return file.Append(records_.Data()).Data();
@@ -157,12 +156,15 @@ Metafile& Metafile::Poly(std::uint32_t type, std::uint32_t type16, const Points&
 Metafile& Metafile::PolyPoly(std::uint32_t type, std::uint32_t type16,
                              const std::vector<Points>& figures, bool wide) {
   std::size_t total = 0;
-  for (const Points& figure : figures) total += figure.size();
+  for (const Points& figure : figures)
+    total += figure.size();
   Bytes body;
   body.Rectangle(0, 0, -1, -1).U32(static_cast<std::uint32_t>(figures.size()));
   body.U32(static_cast<std::uint32_t>(total));
-  for (const Points& figure : figures) body.U32(static_cast<std::uint32_t>(figure.size()));
-  for (const Points& figure : figures) AppendPoints(body, figure, wide);
+  for (const Points& figure : figures)
+    body.U32(static_cast<std::uint32_t>(figure.size()));
+  for (const Points& figure : figures)
+    AppendPoints(body, figure, wide);
   return Record(wide ? type : type16, body);
 }
 

@@ -15,8 +15,8 @@ struct At {
 
 using Points = std::vector<At>;
 
-/// A metafile put together record by record. Coordinates are logical units. Poly records are written with 16-bit
-/// points; `wide` asks for the 32-bit ones.
+/// A metafile put together record by record. Coordinates are logical units. Poly records are
+/// written with 16-bit points; `wide` asks for the 32-bit ones.
 class Metafile {
  public:
   /// The page is (0, 0, 100, 100) unless Bounds says otherwise.

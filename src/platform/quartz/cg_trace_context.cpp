@@ -10,8 +10,8 @@
 namespace kelvane {
 namespace {
 
-constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke",
-                                                         "fill-stroke", "eo-fill-stroke"};
+constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke", "fill-stroke",
+                                                         "eo-fill-stroke"};
 
 class CGTraceContext final : public CGContext, private CGStateWriter {
  public:
@@ -117,6 +117,8 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
 
 }  // namespace
 
-CGContextRef CGTraceContextCreate(std::string& output) { return new CGTraceContext(output); }
+CGContextRef CGTraceContextCreate(std::string& output) {
+  return new CGTraceContext(output);
+}
 
 }  // namespace kelvane

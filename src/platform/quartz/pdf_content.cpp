@@ -22,8 +22,12 @@ char* WritePoint(char* out, CGPoint point) {
 
 }  // namespace
 
-void PdfContent::Save() { Write("q\n"); }
-void PdfContent::Restore() { Write("Q\n"); }
+void PdfContent::Save() {
+  Write("q\n");
+}
+void PdfContent::Restore() {
+  Write("Q\n");
+}
 
 void PdfContent::Concat(const CGAffineTransform& t) {
   Write({t.a, t.b, t.c, t.d, t.tx, t.ty}, "cm\n");
@@ -37,11 +41,17 @@ void PdfContent::StrokeColor(const CGColor& color) {
   Write({color.red, color.green, color.blue}, "RG\n");
 }
 
-void PdfContent::LineWidth(CGFloat width) { Write({width}, "w\n"); }
+void PdfContent::LineWidth(CGFloat width) {
+  Write({width}, "w\n");
+}
 
-void PdfContent::MiterLimit(CGFloat limit) { Write({std::max(limit, CGFloat{1})}, "M\n"); }
+void PdfContent::MiterLimit(CGFloat limit) {
+  Write({std::max(limit, CGFloat{1})}, "M\n");
+}
 
-void PdfContent::TextMode(CGTextDrawingMode mode) { Write({static_cast<CGFloat>(mode)}, "Tr\n"); }
+void PdfContent::TextMode(CGTextDrawingMode mode) {
+  Write({static_cast<CGFloat>(mode)}, "Tr\n");
+}
 
 void PdfContent::Path(const CGPath& path) {
   WritePath(path, [](CGPoint point) { return point; });
@@ -51,9 +61,13 @@ void PdfContent::Path(const CGPath& path, const CGAffineTransform& transform) {
   WritePath(path, [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); });
 }
 
-void PdfContent::Paint(CGPathDrawingMode mode) { Write(kPaintOperators[mode]); }
+void PdfContent::Paint(CGPathDrawingMode mode) {
+  Write(kPaintOperators[mode]);
+}
 
-void PdfContent::Clip() { Write("W n\n"); }
+void PdfContent::Clip() {
+  Write("W n\n");
+}
 
 void PdfContent::DrawXObject(std::string_view name) {
   Write(name);
@@ -99,8 +113,8 @@ void PdfContent::WritePath(const CGPath& path, const Map& map) {
         *out++ = 'l';
         break;
       case CGPath::Element::kCurve:
-        out = WritePoint(WritePoint(WritePoint(out, map(points[0])), map(points[1])),
-                         map(points[2]));
+        out =
+            WritePoint(WritePoint(WritePoint(out, map(points[0])), map(points[1])), map(points[2]));
         *out++ = 'c';
         break;
       case CGPath::Element::kRectangle:

@@ -19,8 +19,9 @@ struct libdeflate_compressor;
 
 namespace kelvane {
 
-/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic cross-reference and nothing
-/// in it that differs between two runs. Any call may throw std::bad_alloc or what the PDF library throws.
+/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic
+/// cross-reference and nothing in it that differs between two runs. Any call may throw
+/// std::bad_alloc or what the PDF library throws.
 class PdfWriter {
  public:
   PdfWriter();
@@ -31,7 +32,8 @@ class PdfWriter {
   /// @param data  copied, deflated. @return the new stream.
   QPDFObjectHandle AddStream(std::string_view data);
 
-  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell short.
+  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
+  /// short.
   QPDFObjectHandle AddImage(const CGImage& image);
 
   /// @return the standard Helvetica, not embedded.
