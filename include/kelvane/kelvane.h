@@ -20,6 +20,8 @@
 extern "C" {
 #endif
 
+/* NOLINTBEGIN(modernize-use-using): C has only typedef. */
+
 /* A reference to any of the objects below. */
 typedef const void* CFTypeRef;
 
@@ -32,6 +34,8 @@ typedef const struct KelvaneAllocator* CFAllocatorRef;
 /* A growable block of bytes. */
 typedef const struct KelvaneData* CFDataRef;
 typedef struct KelvaneData* CFMutableDataRef;
+
+/* NOLINTEND(modernize-use-using) */
 
 /*
  * Creates an empty data object with one reference, the caller's.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 #include "objects/object.h"
 #include "reader/gdi_structures.h"
@@ -11,8 +12,8 @@ namespace kelvane {
 /// A font. It carries no colour: text is drawn in the context's text colour.
 class ExtFontObject final : public Object {
  public:
-  explicit ExtFontObject(const ExtLogFontW& logicalFont)
-      : Object(ObjectType::kFont), font(logicalFont) {}
+  explicit ExtFontObject(ExtLogFontW logicalFont)
+      : Object(ObjectType::kFont), font(std::move(logicalFont)) {}
 
   [[nodiscard]] std::uint32_t getColor() const override { return 0; }
   [[nodiscard]] std::uint32_t getBrushStyle() const override { return 0; }

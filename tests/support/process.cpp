@@ -6,8 +6,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace kelvane::test {
 
 ProcessResult Run(const std::vector<std::string>& command) {
@@ -21,6 +19,7 @@ ProcessResult Run(const std::vector<std::string>& command) {
   posix_spawn_file_actions_addclose(&actions, ends[1]);
 
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& word : command)
     arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
