@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <type_traits>
 
 #include "platform/quartz/pdf_number.h"
 
@@ -17,6 +19,23 @@ char* WritePoint(char* out, CGPoint point) {
   *out++ = ' ';
   out = WriteNumber(out, point.y);
   *out++ = ' ';
+  return out;
+}
+
+// Any transform may have turned the rectangle, so it is spelled out as the figure that `re` stands for.
+template <class Map>
+char* WriteMappedRectangle(char* out, CGPoint corner, CGPoint size, const Map& map) {
+  const CGFloat right = corner.x + size.x;
+  const CGFloat top = corner.y + size.y;
+  out = WritePoint(out, map(corner));
+  *out++ = 'm';
+  for (const CGPoint next : {CGPoint{right, corner.y}, {right, top}, {corner.x, top}}) {
+    *out++ = '\n';
+    out = WritePoint(out, map(next));
+    *out++ = 'l';
+  }
+  *out++ = '\n';
+  *out++ = 'h';
   return out;
 }
 
@@ -54,7 +73,7 @@ void PdfContent::TextMode(CGTextDrawingMode mode) {
 }
 
 void PdfContent::Path(const CGPath& path) {
-  WritePath(path, [](CGPoint point) { return point; });
+  WritePath(path, std::identity());
 }
 
 void PdfContent::Path(const CGPath& path, const CGAffineTransform& transform) {
@@ -101,7 +120,7 @@ void PdfContent::Finish() {
 template <class Map>
 void PdfContent::WritePath(const CGPath& path, const Map& map) {
   path.ForEach([&](CGPath::Element element, const CGPoint* points) {
-    std::array<char, 6 * kNumberRoom> text;
+    std::array<char, 8 * kNumberRoom> text;
     char* out = text.data();
     switch (element) {
       case CGPath::Element::kMove:
@@ -118,9 +137,13 @@ void PdfContent::WritePath(const CGPath& path, const Map& map) {
         *out++ = 'c';
         break;
       case CGPath::Element::kRectangle:
-        out = WritePoint(WritePoint(out, points[0]), points[1]);
-        *out++ = 'r';
-        *out++ = 'e';
+        if constexpr (std::is_same_v<Map, std::identity>) {
+          out = WritePoint(WritePoint(out, points[0]), points[1]);
+          *out++ = 'r';
+          *out++ = 'e';
+        } else {
+          out = WriteMappedRectangle(out, points[0], points[1], map);
+        }
         break;
       case CGPath::Element::kClose:
         *out++ = 'h';
