@@ -1,9 +1,9 @@
 #include "context/abstract_context.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace kelvane {
 namespace {
@@ -92,9 +92,8 @@ struct Modification {
 
 TEST(AbstractContext, ModifiesTheWorldTransformByMode) {
   const Modification modifications[] = {
-      {1, kIdentityTransform}, {2, {2, 0, 0, 2, 10, 0}}, {3, {2, 0, 0, 2, 20, 0}},
-      {4, kScaleByTwo},        {5, kShiftByTen},         {0, kShiftByTen},
-      {-1, kShiftByTen},
+      {1, kIdentityTransform}, {2, {2, 0, 0, 2, 10, 0}}, {3, {2, 0, 0, 2, 20, 0}}, {4, kScaleByTwo},
+      {5, kShiftByTen},        {0, kShiftByTen},         {-1, kShiftByTen},
   };
   for (const auto& [mode, expected] : modifications) {
     SCOPED_TRACE(mode);
@@ -207,7 +206,8 @@ TEST(ObjectTable, IsCleanedInOrderOfIndexAndOnlyOnce) {
     context.CleanContext();
     EXPECT_EQ(destroyed, (std::vector<int>{3, 6, 9}));
     EXPECT_EQ(context.objects.size(), 3U);
-    for (const auto& [index, object] : context.objects) EXPECT_EQ(object, nullptr);
+    for (const auto& [index, object] : context.objects)
+      EXPECT_EQ(object, nullptr);
   }
   EXPECT_EQ(destroyed.size(), 3U);
 }

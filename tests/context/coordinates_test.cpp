@@ -1,9 +1,9 @@
 #include "context/coordinates.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 #include <numbers>
+
+#include <gtest/gtest.h>
 
 #include "platform/quartz/cg_trace_context.h"
 
@@ -74,8 +74,8 @@ TEST(ChangeXY, SaturatesScaledCoordinates) {
 }
 
 TEST(ChangeXY, RoundsTheProductAndSumOnce) {
-  // The ratio is a little below a third, so six of them are a little below 2: rounded on its own, the product would
-  // be 2 and the result 1.
+  // The ratio is a little below a third, so six of them are a little below 2: rounded on its own,
+  // the product would be 2 and the result 1.
   const Anisotropic context({3, 1}, {1, 1}, {}, {-1, 0});
   EXPECT_EQ(Map(context, 6, 0).x, 0);
 }
@@ -91,8 +91,7 @@ TEST(ChangeXY, WrapsTheNegationOfTheLowestCoordinate) {
 
 TEST(GetImageBox, TakesTheBoundsAsTheyAre) {
   EXPECT_EQ(GetImageBox(AbstractContext(), {0, 0, 100, 50}), CGRectMake(0, -50, 100, 50));
-  EXPECT_EQ(GetImageBox(Anisotropic({2, 2}, {1, 1}), {0, 0, 100, 50}),
-            CGRectMake(0, -50, 100, 50));
+  EXPECT_EQ(GetImageBox(Anisotropic({2, 2}, {1, 1}), {0, 0, 100, 50}), CGRectMake(0, -50, 100, 50));
 }
 
 TEST(GetImageBox, PutsTheEdgesInOrder) {

@@ -1,8 +1,8 @@
 #include "context/path_primitives.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
+
+#include <gtest/gtest.h>
 
 #include "platform/quartz/cg_trace_context.h"
 

@@ -1,8 +1,8 @@
 #include "context/truncate.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
+
+#include <gtest/gtest.h>
 
 namespace kelvane {
 namespace {

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <limits>
+
+#include <gtest/gtest.h>
 
 #include "objects/brush_objects.h"
 #include "objects/font_object.h"

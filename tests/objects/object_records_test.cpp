@@ -132,8 +132,7 @@ TEST_F(ObjectRecords, AMirroredViewportKeepsTheNegativeWidthsBitPattern) {
 }
 
 TEST_F(ObjectRecords, AnExtendedPenKeepsItsWidthAndColour) {
-  Play<ExtCreatePenRecord>(
-      Bytes().U32(1).Zeros(16).U32(0).U32(4).U32(1).U32(0x000000FF).Zeros(12));
+  Play<ExtCreatePenRecord>(Bytes().U32(1).Zeros(16).U32(0).U32(4).U32(1).U32(0x000000FF).Zeros(12));
   Select(1);
   EXPECT_EQ(State().lineWidth, 4);
   EXPECT_EQ(State().strokeColor, kFullRed);

@@ -38,9 +38,9 @@ TEST(MoveToExRecord, PaintsNothing) {
 }
 
 TEST(MoveToExRecord, LeavesThePendingPathPending) {
-  EXPECT_EQ(Trace(Metafile().BeginPath().MoveTo(0, 0).LineTo(1, 1).EndPath().MoveTo(5, 5).LineTo(
-                6, 6)),
-            "move 0 0\nline 1 -1\nmove 5 -5\nline 6 -6\nstroke\n");
+  EXPECT_EQ(
+      Trace(Metafile().BeginPath().MoveTo(0, 0).LineTo(1, 1).EndPath().MoveTo(5, 5).LineTo(6, 6)),
+      "move 0 0\nline 1 -1\nmove 5 -5\nline 6 -6\nstroke\n");
 }
 
 }  // namespace

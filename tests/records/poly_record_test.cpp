@@ -53,15 +53,14 @@ TEST_P(PolyRecords, ABezierOfSevenPointsIsTwoCurves) {
 }
 
 TEST_P(PolyRecords, AnIncompleteGroupOfABezierIsDropped) {
-  EXPECT_EQ(Trace(Metafile().Polybezier({{0, 1}, {2, 3}, {4, 5}, {6, 7}, {8, 9}, {10, 11}},
-                                        GetParam())),
-            "move 0 -1\ncurve 2 -3 4 -5 6 -7\nstroke\n");
+  EXPECT_EQ(
+      Trace(Metafile().Polybezier({{0, 1}, {2, 3}, {4, 5}, {6, 7}, {8, 9}, {10, 11}}, GetParam())),
+      "move 0 -1\ncurve 2 -3 4 -5 6 -7\nstroke\n");
 }
 
 TEST_P(PolyRecords, APolyPolygonIsOneFigureThroughAllPoints) {
-  EXPECT_EQ(Trace(Metafile().PolyPolygon({{{0, 0}, {1, 0}, {1, 1}, {0, 1}},
-                                          {{5, 5}, {6, 5}, {6, 6}, {5, 6}}},
-                                         GetParam())),
+  EXPECT_EQ(Trace(Metafile().PolyPolygon(
+                {{{0, 0}, {1, 0}, {1, 1}, {0, 1}}, {{5, 5}, {6, 5}, {6, 6}, {5, 6}}}, GetParam())),
             "fill-color 1 1 1\nmove 0 0\nline 1 0\nline 1 -1\nline 0 -1\n"
             "line 5 -5\nline 6 -5\nline 6 -6\nline 5 -6\neo-fill-stroke\n");
 }
@@ -127,9 +126,9 @@ TEST(PolylineRecord, KeepsThePointsReadBeforeTheDataEnds) {
 }
 
 TEST(PolylineRecord, TakesItsMemoryFromTheDataNotFromTheCount) {
-  const auto record = ReadRecord<PolylineRecord<PointL>>(
-      Bytes().Rectangle(0, 0, 9, 9).U32(0x40000000).PointL(1, 2), FigureMode::kPolyline,
-      DrawFromPointMode::kMoveToFirst);
+  const auto record =
+      ReadRecord<PolylineRecord<PointL>>(Bytes().Rectangle(0, 0, 9, 9).U32(0x40000000).PointL(1, 2),
+                                         FigureMode::kPolyline, DrawFromPointMode::kMoveToFirst);
   EXPECT_EQ(record->points.size(), 1U);
   EXPECT_LE(record->points.capacity(), 2U);
 }

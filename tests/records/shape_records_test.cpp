@@ -16,7 +16,9 @@ constexpr RectangleL kBox = {10, 20, 30, 60};
 constexpr std::uint32_t kStockNullBrush = 0x80000005;
 
 /// The trace without its last line, which says how the path is painted.
-std::string PathOf(const std::string& trace) { return trace.substr(0, trace.rfind('\n', trace.size() - 2) + 1); }
+std::string PathOf(const std::string& trace) {
+  return trace.substr(0, trace.rfind('\n', trace.size() - 2) + 1);
+}
 
 /// The trace's last line.
 std::string PaintingOf(const std::string& trace) {
@@ -30,7 +32,8 @@ Metafile Hollow() {
 }
 
 TEST(RectangleRecord, IsFilledAndStroked) {
-  EXPECT_EQ(Trace(Metafile().Rectangle(kBox)), "fill-color 1 1 1\nrect 10 -60 20 40\nfill-stroke\n");
+  EXPECT_EQ(Trace(Metafile().Rectangle(kBox)),
+            "fill-color 1 1 1\nrect 10 -60 20 40\nfill-stroke\n");
 }
 
 TEST(RectangleRecord, IsWrittenInPageCoordinates) {

@@ -14,6 +14,8 @@ SurfaceFixture::SurfaceFixture() {
   TakeTrace();
 }
 
-std::string SurfaceFixture::TakeTrace() { return std::exchange(trace_, {}); }
+std::string SurfaceFixture::TakeTrace() {
+  return std::exchange(trace_, {});
+}
 
 }  // namespace kelvane::test

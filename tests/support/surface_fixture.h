@@ -1,15 +1,16 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "context/abstract_context.h"
 #include "platform/quartz/cg_trace_context.h"
 
 namespace kelvane::test {
 
-/// A playback context on a trace surface in the middle of a page, for records that change more than they draw.
+/// A playback context on a trace surface in the middle of a page, for records that change more than
+/// they draw.
 class SurfaceFixture : public testing::Test {
  protected:
   SurfaceFixture();
