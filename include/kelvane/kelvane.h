@@ -43,8 +43,10 @@ KELVANE_EXPORT CFMutableDataRef CFDataCreateMutable(CFAllocatorRef allocator, CF
 /* Returns the number of bytes held. data: not NULL. */
 KELVANE_EXPORT CFIndex CFDataGetLength(CFDataRef data);
 
-/* Returns the bytes, borrowed until the object changes or goes; of none, maybe NULL. data: not
- * NULL. */
+/*
+ * Returns the bytes, borrowed until the object changes or goes; may be NULL when there are none.
+ * data: not NULL.
+ */
 KELVANE_EXPORT const unsigned char* CFDataGetBytePtr(CFDataRef data);
 
 /* Takes one more reference and returns the object. NULL is allowed. */
