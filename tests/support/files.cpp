@@ -1,10 +1,11 @@
 #include "support/files.h"
 
-#include <unistd.h>
-
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+
+#include <unistd.h>
 
 namespace kelvane::test {
 
@@ -17,6 +18,15 @@ TemporaryFolder::TemporaryFolder() {
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
   std::filesystem::remove_all(path_, ignored);
+}
+
+std::vector<std::string> NamesIn(const TemporaryFolder& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 std::string ReadFile(const std::filesystem::path& path) {

@@ -1,14 +1,22 @@
 #include "support/process.h"
 
+#include <array>
+
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <array>
 
 extern char** environ;
 
 namespace kelvane::test {
+namespace {
+
+double Seconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+}  // namespace
 
 ProcessResult Run(const std::vector<std::string>& command) {
   std::array<int, 2> ends{};
@@ -21,7 +29,8 @@ ProcessResult Run(const std::vector<std::string>& command) {
   posix_spawn_file_actions_addclose(&actions, ends[1]);
 
   std::vector<char*> arguments;
-  for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
+  for (const std::string& word : command)
+    arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
   pid_t child = 0;
   const int error =
@@ -36,10 +45,12 @@ ProcessResult Run(const std::vector<std::string>& command) {
     result.output.append(part.data(), static_cast<std::size_t>(count));
   }
   close(ends[0]);
+  if (error != 0) return result;
   int status = 0;
-  if (error == 0 && waitpid(child, &status, 0) == child && WIFEXITED(status)) {
-    result.status = WEXITSTATUS(status);
-  }
+  rusage usage{};
+  if (wait4(child, &status, 0, &usage) != child) return result;
+  if (WIFEXITED(status)) result.status = WEXITSTATUS(status);
+  result.processorSeconds = Seconds(usage.ru_utime) + Seconds(usage.ru_stime);
   return result;
 }
 
