@@ -22,7 +22,8 @@ char* WritePoint(char* out, CGPoint point) {
   return out;
 }
 
-// Any transform may have turned the rectangle, so it is spelled out as the figure that `re` stands for.
+// Any transform may have turned the rectangle, so it is spelled out as the figure that `re` stands
+// for.
 template <class Map>
 char* WriteMappedRectangle(char* out, CGPoint corner, CGPoint size, const Map& map) {
   const CGFloat right = corner.x + size.x;
