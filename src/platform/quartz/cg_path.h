@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include "platform/quartz/cg_geometry.h"
@@ -80,8 +81,7 @@ class CGPath {
   }
 
  private:
-  void Append(Element element);
-  void Append(CGPoint point);
+  void Append(Element element, std::initializer_list<CGPoint> points);
   void ReopenSubpath();
   [[nodiscard]] bool OpenMoveAtEnd() const {
     return !elements_.empty() && elements_.back() == Element::kMove;
