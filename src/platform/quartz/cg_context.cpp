@@ -64,7 +64,9 @@ void CGContext::AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFlo
   kelvane::AddArc(path_, state_.ctm, center, radius, startAngle, endAngle, clockwise);
 }
 
-CGPoint CGContext::PathCurrentPoint() const { return ToUserSpace(path_.CurrentPoint()); }
+CGPoint CGContext::PathCurrentPoint() const {
+  return path_.IsEmpty() ? CGPoint{} : ToUserSpace(path_.CurrentPoint());
+}
 
 void CGContext::DrawPath(CGPathDrawingMode mode) {
   const bool finite = path_.IsFinite() && (!Strokes(mode) || std::isfinite(state_.lineWidth));
@@ -141,9 +143,13 @@ void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components) {
   c->State().strokeColor = MakeColor(components, c->State().strokeComponents);
 }
 
-void CGContextSetLineWidth(CGContextRef c, CGFloat width) { c->State().lineWidth = width; }
+void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
+  c->State().lineWidth = width < 0 ? 0 : width;
+}
 
-void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) { c->State().miterLimit = limit; }
+void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
+  if (!std::isnan(limit)) c->State().miterLimit = limit;
+}
 
 void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
                               int page) {
