@@ -63,4 +63,11 @@ CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
 constexpr bool Fills(CGPathDrawingMode mode) { return mode != kCGPathStroke; }
 constexpr bool Strokes(CGPathDrawingMode mode) { return mode >= kCGPathStroke; }
 
+constexpr bool Fills(CGTextDrawingMode mode) {
+  return mode == kCGTextFill || mode == kCGTextFillStroke;
+}
+constexpr bool Strokes(CGTextDrawingMode mode) {
+  return mode == kCGTextStroke || mode == kCGTextFillStroke;
+}
+
 }  // namespace kelvane
