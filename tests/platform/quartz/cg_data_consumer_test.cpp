@@ -1,10 +1,12 @@
 #include "platform/quartz/cg_data_consumer.h"
 
+#include <csignal>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "support/files.h"
@@ -159,6 +161,49 @@ TEST(FileConsumer, ThrowsAndLeavesNothingWhenItsPlaceIsAFolder) {
     EXPECT_THROW(consumer->Commit(), std::system_error);
   }
   EXPECT_EQ(EntriesIn(folder), 1);
+}
+
+/// No file of this process may grow past `size` bytes while this lives: a disk that is full.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit = {size, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    (void)std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  void (*handler_)(int);
+  rlimit before_{};
+};
+
+TEST(FileConsumer, ThrowsAndKeepsTheExistingFileWhenTheDiskIsFull) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.pdf", "old");
+  {
+    const auto consumer = ConsumerAt(folder / "a.pdf");
+    const FileSizeLimit limit(1000);
+    EXPECT_THROW(Write(consumer.get(), std::string(1 << 20, 'x')), std::system_error);
+  }
+  EXPECT_EQ(EntriesIn(folder), 1);
+  EXPECT_EQ(ReadFile(folder / "a.pdf"), "old");
+}
+
+TEST(FileConsumer, ThrowsWhenTheLastBytesFindNoRoom) {
+  const TemporaryFolder folder;
+  {
+    const auto consumer = ConsumerAt(folder / "a.pdf");
+    Write(consumer.get(), "held back in memory");
+    const FileSizeLimit limit(5);
+    EXPECT_THROW(consumer->Commit(), std::system_error);
+  }
+  EXPECT_EQ(EntriesIn(folder), 0);
 }
 
 TEST(FileConsumer, ReplacesALinkInsteadOfFollowingIt) {
