@@ -42,20 +42,7 @@ void CGContext::ConcatCTM(const CGAffineTransform& transform) {
   state_.ctm = CGAffineTransformConcat(transform, state_.ctm);
 }
 
-void CGContext::AddRect(const CGRect& rect) {
-  const CGAffineTransform& m = state_.ctm;
-  if (m.b == 0 && m.c == 0) {
-    path_.AddRectangle(ToPage(rect.origin), {rect.size.width * m.a, rect.size.height * m.d});
-    return;
-  }
-  const CGFloat right = rect.origin.x + rect.size.width;
-  const CGFloat top = rect.origin.y + rect.size.height;
-  path_.MoveTo(ToPage(rect.origin));
-  path_.LineTo(ToPage({right, rect.origin.y}));
-  path_.LineTo(ToPage({right, top}));
-  path_.LineTo(ToPage({rect.origin.x, top}));
-  path_.Close();
-}
+void CGContext::AddRect(const CGRect& rect) { path_.AddMappedRectangle(rect, state_.ctm); }
 
 void CGContext::AddEllipseInRect(const CGRect& rect) { AddEllipse(path_, state_.ctm, rect); }
 

@@ -45,6 +45,42 @@ void CGPath::AddRectangle(CGPoint corner, CGSize size) {
   hasSegments_ = true;
 }
 
+void CGPath::AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform) {
+  const auto map = [&](CGFloat x, CGFloat y) {
+    return CGPointApplyAffineTransform({x, y}, transform);
+  };
+  const auto [x, y] = rect.origin;
+  const auto [width, height] = rect.size;
+  if (transform.b == 0 && transform.c == 0) {
+    return AddRectangle(map(x, y), {width * transform.a, height * transform.d});
+  }
+  MoveTo(map(x, y));
+  LineTo(map(x + width, y));
+  LineTo(map(x + width, y + height));
+  LineTo(map(x, y + height));
+  Close();
+}
+
+CGPath CGPath::Mapped(const CGAffineTransform& transform) const {
+  const auto map = [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); };
+  CGPath mapped;
+  ForEach([&](Element element, const CGPoint* points) {
+    switch (element) {
+      case Element::kMove:
+        return mapped.MoveTo(map(points[0]));
+      case Element::kLine:
+        return mapped.LineTo(map(points[0]));
+      case Element::kCurve:
+        return mapped.CurveTo(map(points[0]), map(points[1]), map(points[2]));
+      case Element::kRectangle:
+        return mapped.AddMappedRectangle({points[0], {points[1].x, points[1].y}}, transform);
+      case Element::kClose:
+        return mapped.Close();
+    }
+  });
+  return mapped;
+}
+
 void CGPath::Clear() {
   elements_.clear();
   points_.clear();

@@ -38,6 +38,12 @@ class CGPath {
   /// Adds a closed rectangle; afterwards the current point is its corner.
   void AddRectangle(CGPoint corner, CGSize size);
 
+  /// Adds a rectangle as `transform` leaves it: whole, or four lines where it turns or shears.
+  void AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform);
+
+  /// @return the path with every point mapped.
+  [[nodiscard]] CGPath Mapped(const CGAffineTransform& transform) const;
+
   /// Empties the path and keeps its memory for the next one.
   void Clear();
 

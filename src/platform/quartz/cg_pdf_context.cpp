@@ -67,7 +67,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     }
     content_.Save();
     content_.Concat(stroke.transform);
-    content_.Path(path, stroke.inverse);
+    content_.Path(path.Mapped(stroke.inverse));
     content_.Paint(mode);
     content_.Restore();
   }

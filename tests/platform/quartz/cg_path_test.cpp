@@ -163,6 +163,23 @@ TEST(CGPath, StandsAtARectanglesCornerEvenWhenItsSizeIsNegative) {
   EXPECT_TRUE(path.HasSegments());
 }
 
+TEST(CGPath, MapsEveryPoint) {
+  CGPath path;
+  path.MoveTo({1, 2});
+  path.LineTo({3, 4});
+  path.CurveTo({5, 6}, {7, 8}, {9, 10});
+  path.Close();
+  path.AddRectangle({11, 12}, {-13, 14});
+  EXPECT_EQ(Written(path.Mapped({2, 0, 0, -1, 100, 0})),
+            "102 -2 m 106 -4 l 110 -6 114 -8 118 -10 c h 122 -12 -26 -14 re ");
+}
+
+TEST(CGPath, MapsARectangleToLinesWhereItTurns) {
+  CGPath path;
+  path.AddRectangle({10, 20}, {30, 40});
+  EXPECT_EQ(Written(path.Mapped({0, 1, -1, 0, 0, 0})), "-20 10 m -20 40 l -60 40 l -60 10 l h ");
+}
+
 TEST(CGPath, ForgetsEverythingWhenCleared) {
   CGPath path;
   path.MoveTo({1, kNaN});
