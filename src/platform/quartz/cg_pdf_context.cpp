@@ -85,7 +85,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
       pending_ = PendingPage{CFShare(page.document), &page};
       return;
     }
-    BeginMark({});
+    DrawPending();
     DrawForm(page, matrix);
   }
 
@@ -98,16 +98,21 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     return contents_.empty() && content_.IsEmpty() && Clips().empty();
   }
 
-  // A page that does not stay alone becomes a form, drawn before what follows.
   void BeginMark(CGStateNeeds needs) {
-    if (pending_) {
-      const PendingPage first = *std::exchange(pending_, std::nullopt);
-      DrawForm(*first.page, {});
-    }
+    DrawPending();
     Prepare(State(), Clips(), needs);
   }
 
+  // A page that does not stay alone becomes a form, drawn before what follows. No clip was in effect then.
+  void DrawPending() {
+    if (!pending_) return;
+    const PendingPage first = *std::exchange(pending_, std::nullopt);
+    DrawXObject(NameOf(writer_.AddForm(*first.page), "/XObject", "/Fm", xobjects_), {});
+  }
+
+  // A form starts with the state that it is drawn in, and a page counts on starting with a fresh one.
   void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
+    Prepare(CGGraphicsState{}, Clips(), {.fill = true, .stroke = true, .text = true});
     DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
   }
 

@@ -131,8 +131,13 @@ QPDFObjectHandle PdfWriter::Helvetica() {
 QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
   const QPDFObjectHandle source = page.document->pdf->getAllPages()[page.index];
   constexpr bool kApplyRotation = false;
-  auto form = QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation);
-  return pdf_.copyForeignObject(form);
+  auto form =
+      pdf_.copyForeignObject(QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation));
+  // The library joins the page's streams for the form and leaves the result as it is.
+  const auto content = form.getRawStreamData();
+  form.replaceStreamData(Deflate({content->getBuffer(), content->getSize()}),
+                         QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  return form;
 }
 
 void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
