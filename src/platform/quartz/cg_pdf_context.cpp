@@ -13,18 +13,23 @@
 namespace kelvane {
 namespace {
 
+bool IsUsable(const CGRect& box) {
+  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
+}
+
 /// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an uneven transform
 /// is wrapped in that transform.
 class CGPDFContext final : public CGContext, private CGStateWriter {
  public:
-  explicit CGPDFContext(CGDataConsumerRef consumer)
+  CGPDFContext(CGDataConsumerRef consumer, const CGRect& documentBox)
       : consumer_(CFShare(consumer)),
+        documentBox_(documentBox),
         content_([this](std::string_view piece) { contents_.push_back(writer_.AddStream(piece)); }) {
   }
 
   void Close() override {
     EndPage();
-    writer_.Write(*consumer_);
+    if (const auto consumer = std::move(consumer_)) writer_.Write(*consumer);
   }
 
  private:
@@ -37,8 +42,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   ~CGPDFContext() override = default;
 
   void PageBegins(const CGRect& mediaBox) override {
-    mediaBox_ = mediaBox;
-    page_ = writer_.AddPage(mediaBox);
+    mediaBox_ = IsUsable(mediaBox) ? mediaBox : documentBox_;
+    page_ = writer_.AddPage(mediaBox_);
     xobjects_ = {};
     fonts_ = {};
     StartPage();
@@ -52,6 +57,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     }
     FinishPage();
     content_.Finish();
+    if (contents_.empty()) return;
     page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
                                                         : QPDFObjectHandle::newArray(contents_));
     contents_.clear();
@@ -152,7 +158,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   void WriteMiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
   void WriteTextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
 
-  CFOwned<CGDataConsumer> consumer_;
+  CFOwned<CGDataConsumer> consumer_;  // null once the document is written
+  CGRect documentBox_;
   PdfWriter writer_;
   CGRect mediaBox_;
   QPDFObjectHandle page_;
@@ -163,16 +170,12 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   std::optional<PendingPage> pending_;
 };
 
-bool IsUsable(const CGRect& box) {
-  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
-}
-
 }  // namespace
 
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
                                 CFDictionaryRef /*auxiliaryInfo*/) {
   if (consumer == nullptr || mediaBox == nullptr || !IsUsable(*mediaBox)) return nullptr;
-  return new CGPDFContext(consumer);
+  return new CGPDFContext(consumer, *mediaBox);
 }
 
 void CGPDFContextClose(CGContextRef context) { context->Close(); }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <new>
 #include <qpdf/Buffer.hh>
 #include <qpdf/Pipeline.hh>
@@ -12,6 +13,7 @@
 #include <qpdf/QPDFWriter.hh>
 #include <string>
 
+#include "platform/quartz/pdf_number.h"
 
 namespace kelvane {
 namespace {
@@ -32,12 +34,19 @@ class ConsumerPipeline final : public Pipeline {
   CGDataConsumer& consumer_;
 };
 
-/// The far corner of a box may need more digits than its origin and size, hence the double.
+/// The far corner of a box may need more digits than its origin and size, hence the double; so long as these
+/// digits count for anything.
 QPDFObjectHandle Number(double value) {
+  constexpr double kLastWithFraction = 0x1p52;
   std::array<char, 400> text;
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
-  return QPDFObjectHandle::parse(std::string(text.data(), end));
+  char* end = text.data();
+  const auto single = static_cast<CGFloat>(value);
+  if (single == value || std::abs(value) > kLastWithFraction) {
+    end = WriteNumber(end, single);
+  } else {
+    end = std::to_chars(end, end + text.size(), value, std::chars_format::fixed).ptr;
+  }
+  return QPDFObjectHandle::newReal(std::string(text.data(), end));
 }
 
 QPDFObjectHandle BoxArray(const CGRect& box) {
