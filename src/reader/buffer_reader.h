@@ -50,7 +50,7 @@ class BufferReader {
     } else if (available == count) {
       std::memcpy(destination, source, count);
     } else {
-      std::memcpy(destination, source, available);
+      for (unsigned long i = 0; i < available; ++i) destination[i] = source[i];
     }
     position_ += static_cast<std::int64_t>(available);
   }
