@@ -1,5 +1,6 @@
 #include "document/record_factory.h"
 
+#include "bitmap/bitmap_records.h"
 #include "document/record_type.h"
 #include "document/skipped_records.h"
 #include "records/arc_records.h"
@@ -65,6 +66,10 @@ std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
       return std::make_unique<ArcToRecord>();
     case EMR_POLYDRAW:
       return std::make_unique<PolyDrawRecord<PointL>>();
+    case EMR_BITBLT:
+      return std::make_unique<BitBltRecord>();
+    case EMR_STRETCHDIBITS:
+      return std::make_unique<StretchDibitsRecord>();
     case EMR_POLYBEZIER16:
       return MakePoly<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
     case EMR_POLYGON16:

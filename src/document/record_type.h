@@ -27,6 +27,8 @@ enum class RecordType : std::uint32_t {
   EMR_LINETO = 54,
   EMR_ARCTO = 55,
   EMR_POLYDRAW = 56,
+  EMR_BITBLT = 76,
+  EMR_STRETCHDIBITS = 81,
   EMR_POLYBEZIER16 = 85,
   EMR_POLYGON16 = 86,
   EMR_POLYLINE16 = 87,

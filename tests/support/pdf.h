@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -23,6 +24,9 @@ class Pdf {
 
   /// The page's content, decoded and joined.
   [[nodiscard]] std::string Content(std::size_t index = 0) const;
+
+  /// The pixels of the images among the page's resources, decoded, in order of their names.
+  [[nodiscard]] std::vector<std::vector<unsigned char>> Images(std::size_t index = 0) const;
 
   [[nodiscard]] QPDF& Document() const { return *document_; }
 
