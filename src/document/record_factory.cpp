@@ -1,5 +1,6 @@
 #include "document/record_factory.h"
 
+#include "bitmap/bitmap_records.h"
 #include "document/record_type.h"
 #include "document/skipped_records.h"
 #include "objects/brush_records.h"
@@ -150,6 +151,10 @@ std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
       return std::make_unique<GDICommentRecord>();
     case EMR_EXTCREATEFONTINDIRECTW:
       return std::make_unique<ExtCreateFontIndirectWRecord>();
+    case EMR_BITBLT:
+      return std::make_unique<BitBltRecord>();
+    case EMR_STRETCHDIBITS:
+      return std::make_unique<StretchDibitsRecord>();
     case EMR_POLYBEZIER16:
       return MakePoly<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
     case EMR_POLYGON16:

@@ -60,6 +60,15 @@ std::vector<Operation> Pdf::Operations(std::size_t index) const {
   return std::move(collector.operations);
 }
 
+std::vector<std::vector<unsigned char>> Pdf::Images(std::size_t index) const {
+  std::vector<std::vector<unsigned char>> images;
+  for (auto& [name, image] : QPDFPageObjectHelper(Page(index)).getImages()) {
+    const auto pixels = image.getStreamData(qpdf_dl_all);
+    images.emplace_back(pixels->getBuffer(), pixels->getBuffer() + pixels->getSize());
+  }
+  return images;
+}
+
 std::string ComplaintsAbout(const std::string& pdfPath) {
   const ProcessResult result = Run({"qpdf", "--check", pdfPath});
   return result.status == 0 ? "" : result.output;

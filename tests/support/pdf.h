@@ -33,6 +33,8 @@ class Pdf {
 
   /// The page's content, taken apart by the independent library.
   [[nodiscard]] std::vector<Operation> Operations(std::size_t index = 0) const;
+  /// The pixels of the images among the page's resources, decoded, in order of their names.
+  [[nodiscard]] std::vector<std::vector<unsigned char>> Images(std::size_t index = 0) const;
 
   [[nodiscard]] QPDF& Document() const { return *document_; }
 
