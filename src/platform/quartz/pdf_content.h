@@ -1,16 +1,18 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/quartz/cg_color_space.h"
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_path.h"
-#include "platform/quartz/cg_text_run.h"
+#include "platform/quartz/pdf_text_line.h"
 
 namespace kelvane {
 
@@ -36,12 +38,15 @@ class PdfContent {
   void Paint(CGPathDrawingMode mode);                 // f f* S B B*
   void Clip();                                        // W n
   void DrawXObject(std::string_view name);            // Do
-  void ShowText(std::string_view font, const CGTextRun& run);  // BT Tf Tm Tj ET
+
+  /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not shared with the
+  /// glyphs before and after it. @param width  thousandths of an em.
+  void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, int width);
 
   /// True while no operator was written.
-  [[nodiscard]] bool IsEmpty() const { return !handedOn_ && buffer_.empty(); }
+  [[nodiscard]] bool IsEmpty() const { return !handedOn_ && buffer_.empty() && line_.IsEmpty(); }
 
-  /// Hands on what is left.
+  /// Hands on what is left; what follows is the content of another page.
   void Finish();
 
  private:
@@ -49,10 +54,24 @@ class PdfContent {
   void WritePath(const CGPath& path, const Map& map);
   void Write(std::initializer_list<CGFloat> operands, std::string_view op);
   void Write(std::string_view text);
+  void HandOn();
+
+  // Colours and the like may stand inside a text object, between two lines; everything else ends it.
+  void EndLine();
+  void EndText();
+
+  struct Font {
+    std::string name;
+    CGFloat size = 0;
+  };
 
   Sink sink_;
   std::string buffer_;
   bool handedOn_ = false;
+  PdfTextLine line_;  // not yet written
+  bool inText_ = false;
+  Font font_;
+  std::vector<Font> savedFonts_;
 };
 
 }  // namespace kelvane
