@@ -20,6 +20,9 @@ if(KELVANE_WARNINGS_AS_ERRORS)
   target_compile_options(kelvane_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 15)
+  target_include_directories(kelvane_settings BEFORE INTERFACE ${CMAKE_CURRENT_LIST_DIR}/clang14)
+endif()
 if(KELVANE_SANITIZE)
   target_compile_options(kelvane_settings INTERFACE
     -fsanitize=${KELVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -46,7 +46,8 @@ bool AbstractContext::SelectObject(std::uint32_t index) {
 }
 
 void AbstractContext::CleanContext() {
-  for (auto& [index, object] : objects) Destroy(object);
+  for (auto& [index, object] : objects)
+    Destroy(object);
 }
 
 // A selection must not outlive its object.

@@ -26,16 +26,17 @@ enum class TransformMode : std::int32_t {
   kSet = 4,
 };
 
-/// A colour as records leave it: each channel's byte divided by 256, so full intensity is 0.99609375.
+/// A colour as records leave it: each channel's byte divided by 256, so full intensity is
+/// 0.99609375.
 struct ContextColor {
   double red = 0;
   double green = 0;
   double blue = 0;
 };
 
-/// The playback device context: the object table, the world transforms and everything attribute records set.
-/// It draws nothing itself. Only the world transform is saved and restored here; the surface keeps its own state.
-/// One context serves one conversion, on one thread.
+/// The playback device context: the object table, the world transforms and everything attribute
+/// records set. It draws nothing itself. Only the world transform is saved and restored here; the
+/// surface keeps its own state. One context serves one conversion, on one thread.
 class AbstractContext {
  public:
   AbstractContext() = default;
@@ -48,7 +49,8 @@ class AbstractContext {
 
   void SetWorldTransform(const XForm& transform) { worldTransform = transform; }
 
-  /// @param mode  a TransformMode; any other number changes nothing. @param transform  may alias worldTransform.
+  /// @param mode  a TransformMode; any other number changes nothing. @param transform  may alias
+  /// worldTransform.
   void ModifyWorldTransform(std::int32_t mode, const XForm& transform);
 
   void SaveState() { savedTransforms.push_back(worldTransform); }
@@ -60,21 +62,24 @@ class AbstractContext {
   /// Puts an object into the table in place of what stood at the index.
   void CreateObject(std::unique_ptr<Object> object, std::uint32_t index);
 
-  /// Destroys the object at the index; the index stays known, without an object. Unknown indexes are ignored.
+  /// Destroys the object at the index; the index stays known, without an object. Unknown indexes
+  /// are ignored.
   void DeleteObject(std::uint32_t index);
 
-  /// Makes the object at the index current. @return false, and no change, when the index is not in the table: stock
-  /// objects, whose indexes have the high bit set, never are.
+  /// Makes the object at the index current. @return false, and no change, when the index is not in
+  /// the table: stock objects, whose indexes have the high bit set, never are.
   bool SelectObject(std::uint32_t index);
 
   /// Destroys every object in the table in ascending order of index; the indexes stay known.
   void CleanContext();
 
-  /// Called with the name of every operation that playback leaves out. The one place to hear of them.
+  /// Called with the name of every operation that playback leaves out. The one place to hear of
+  /// them.
   void EmptyDraw(const char* /*name*/) const {}
 
   std::map<std::uint32_t, std::unique_ptr<Object>> objects;  // null after DeleteObject
-  Object* currentObject = nullptr;  // pens, brushes and fonts share the slot; borrowed from `objects`
+  Object* currentObject =
+      nullptr;  // pens, brushes and fonts share the slot; borrowed from `objects`
   XForm worldTransform = kIdentityTransform;
   std::int32_t inPath = 0;     // not 0 inside a path bracket: drawing records only add to the path
   std::int32_t clockwise = 0;  // arc direction, as CGContextAddArc takes it
@@ -84,14 +89,14 @@ class AbstractContext {
   ContextColor bkColor;
   ContextColor fillColor;
   ContextColor textColor;
-  std::int32_t bkMode = 1;             // 1 TRANSPARENT, 2 OPAQUE
+  std::int32_t bkMode = 1;  // 1 TRANSPARENT, 2 OPAQUE
   std::int32_t windowExtYPositive = 1;
-  std::int32_t hollowBrush = 0;        // not 0: fill-and-stroke strokes only
-  std::uint32_t penWidth = 1;          // page units
-  std::uint32_t textAlign = 0;         // TA_ flags
-  float textAngle = 0;                 // degrees, counter-clockwise
+  std::int32_t hollowBrush = 0;  // not 0: fill-and-stroke strokes only
+  std::uint32_t penWidth = 1;    // page units
+  std::uint32_t textAlign = 0;   // TA_ flags
+  float textAngle = 0;           // degrees, counter-clockwise
   LogFontW font;
-  std::int32_t mapMode = 0;            // as SetMapMode gave it; 0 until then
+  std::int32_t mapMode = 0;  // as SetMapMode gave it; 0 until then
   SIZEL windowExt = {1, 1};
   SIZEL viewportExt = {1, 1};
   PointL windowOrg;

@@ -10,8 +10,8 @@
 namespace kelvane {
 namespace {
 
-// One coordinate from window to viewport. The extents are divided first and the rest rounds once, so that equal
-// inputs give equal pages on every machine.
+// One coordinate from window to viewport. The extents are divided first and the rest rounds once,
+// so that equal inputs give equal pages on every machine.
 std::int32_t Scale(std::int32_t coordinate, std::int32_t windowOrigin, std::int32_t windowExtent,
                    std::int32_t viewportOrigin, std::int32_t viewportExtent) {
   if (windowExtent == 0) return coordinate;
@@ -71,6 +71,11 @@ void ContextSetCTM(AbstractContext& context, const XForm& transform) {
 void TransformContext(AbstractContext& context, std::int32_t mode, const XForm& transform) {
   context.ModifyWorldTransform(mode, transform);
   ContextSetCTM(context, context.worldTransform);
+}
+
+void ContextSetTextMatrix(AbstractContext& context, float degrees) {
+  CGContextSetTextMatrix(context.context, CGAffineTransformMakeRotation(DegreesToRadians(degrees)));
+  context.textAngle = degrees;
 }
 
 }  // namespace kelvane

@@ -56,7 +56,9 @@ void DrawPath(const AbstractContext& context, CGPathDrawingMode mode) {
   CGContextDrawPath(context.context, strokesOnly ? kCGPathStroke : mode);
 }
 
-void Clip(AbstractContext& context) { CGContextClip(context.context); }
+void Clip(AbstractContext& context) {
+  CGContextClip(context.context);
+}
 
 void ClipToRect(AbstractContext& context, const RectangleL& rectangle) {
   CGContextClipToRect(context.context, RectangleToCGRect(context, rectangle));

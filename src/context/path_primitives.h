@@ -8,7 +8,8 @@
 
 namespace kelvane {
 
-// Each adds to the surface's current path in logical coordinates, mapped by ChangeXY. None of them paints.
+// Each adds to the surface's current path in logical coordinates, mapped by ChangeXY. None of them
+// paints.
 
 void MoveToPoint(AbstractContext& context, std::int32_t x, std::int32_t y);
 
@@ -32,7 +33,8 @@ void AddEllipseInRect(AbstractContext& context, const RectangleL& rectangle);
 /// The same ellipse: the corner size of a rounded rectangle is never used.
 void AddRoundRectangle(AbstractContext& context, const RectangleL& rectangle);
 
-/// Paints the current path and empties it. With a hollow brush fill-and-stroke only strokes; a plain fill fills.
+/// Paints the current path and empties it. With a hollow brush fill-and-stroke only strokes; a
+/// plain fill fills.
 void DrawPath(const AbstractContext& context, CGPathDrawingMode mode);
 
 /// Intersects the clip with the current path and empties it.

@@ -5,8 +5,8 @@
 
 namespace kelvane {
 
-/// Truncates toward zero; values outside 32 bits saturate and not-a-number gives 0, where a plain cast would be
-/// undefined.
+/// Truncates toward zero; values outside 32 bits saturate and not-a-number gives 0, where a plain
+/// cast would be undefined.
 constexpr std::int32_t Truncate(double value) {
   constexpr double kLowest = std::numeric_limits<std::int32_t>::min();
   constexpr double kHighest = std::numeric_limits<std::int32_t>::max();

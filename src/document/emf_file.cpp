@@ -11,13 +11,14 @@
 namespace kelvane {
 namespace {
 
-// Records that overlap are read again and again. Real files stay far below this many bytes; it keeps the time and
-// memory of a parse proportional to the data.
+// Records that overlap are read again and again. Real files stay far below this many bytes; it
+// keeps the time and memory of a parse proportional to the data.
 std::uint64_t ReadingBudget(std::int32_t blockSize) {
   return 8 * static_cast<std::uint64_t>(blockSize) + (std::uint64_t{16} << 20);
 }
 
-// Declared sizes of 0 and 4 lead back to the record's own first fields, where parsing would never end.
+// Declared sizes of 0 and 4 lead back to the record's own first fields, where parsing would never
+// end.
 bool LeadsNowhere(const Record& record, std::int64_t position, std::int64_t typeEnd) {
   return record.size == 0 || record.size == 4 || position <= typeEnd;
 }
@@ -68,7 +69,8 @@ void EMFFile::DrawToPDF(CFMutableDataRef data) {
 void EMFFile::DrawToPage(CGContextRef surface) {
   BeginPage(surface);
   context.context = surface;
-  for (const auto& record : records) record->drawToPDF(context);
+  for (const auto& record : records)
+    record->drawToPDF(context);
   DrawPath(context, kCGPathStroke);  // what the records left pending
   context.context = nullptr;
   CGContextEndPage(surface);

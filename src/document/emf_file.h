@@ -14,19 +14,23 @@
 
 namespace kelvane {
 
-/// A metafile on its way to a page: parsed whole into records first, then played back. Used once, by one thread.
+/// A metafile on its way to a page: parsed whole into records first, then played back. Used once,
+/// by one thread.
 class EMFFile {
  public:
-  /// @param block  the metafile, borrowed; must outlive the EMFFile. @param size  as for BufferReader.
+  /// @param block  the metafile, borrowed; must outlive the EMFFile. @param size  as for
+  /// BufferReader.
   EMFFile(const unsigned char* block, std::int32_t size) : reader(block, size) {}
 
-  /// Reads the header and every record up to EMR_EOF or the end of the data. Throws the `int` 1 when the data does
-  /// not start with a header, std::bad_alloc, and std::runtime_error when a record or the header leads past the
-  /// end of the data, or when records overlap so much that reading them would take out of all proportion long.
+  /// Reads the header and every record up to EMR_EOF or the end of the data. Throws the `int` 1
+  /// when the data does not start with a header, std::bad_alloc, and std::runtime_error when a
+  /// record or the header leads past the end of the data, or when records overlap so much that
+  /// reading them would take out of all proportion long.
   void ParseEMFFile();
 
-  /// Appends the records to `data` as a PDF document of one page. When no document can be made (no data object, a
-  /// page without area) nothing is appended. Throws std::exception, and then `data` is as it was.
+  /// Appends the records to `data` as a PDF document of one page. When no document can be made (no
+  /// data object, a page without area) nothing is appended. Throws std::exception, and then `data`
+  /// is as it was.
   void DrawToPDF(CFMutableDataRef data);
 
   /// Plays the records onto a page of any surface. @param surface  borrowed.

@@ -21,15 +21,15 @@ void EMFHeader::fillHeader(Reader& reader) {
     throw 1;  // the status every caller turns into a failed conversion
   }
   reader.readAll(fields.nSize, fields.rclBounds, fields.rclFrame, fields.dSignature,
-                 fields.nVersion, fields.nBytes, fields.nRecords, fields.nHandles,
-                 fields.sReserved, fields.nDescription, fields.offDescription, fields.nPalEntries,
-                 fields.szlDevice, fields.szlMillimeters);
+                 fields.nVersion, fields.nBytes, fields.nRecords, fields.nHandles, fields.sReserved,
+                 fields.nDescription, fields.offDescription, fields.nPalEntries, fields.szlDevice,
+                 fields.szlMillimeters);
   readOptionalFields(reader);
   readDescription(reader);
 }
 
-// The first threshold is where szlMillimeters begins, not where the base header ends: a description that starts
-// inside it still leaves the pixel format to be read.
+// The first threshold is where szlMillimeters begins, not where the base header ends: a description
+// that starts inside it still leaves the pixel format to be read.
 void EMFHeader::readOptionalFields(Reader& reader) {
   constexpr std::uint32_t kLastOffsetWithoutMicrometers = 107;
   const std::uint32_t pixelFormatThreshold =

@@ -18,7 +18,8 @@
 namespace kelvane {
 namespace {
 
-// The extension is not looked at: whatever the last three characters are, they become "pdf". A shorter path throws.
+// The extension is not looked at: whatever the last three characters are, they become "pdf". A
+// shorter path throws.
 std::string OutputPath(const std::string& path) {
   return std::string(path).replace(path.size() - 3, 3, "pdf");
 }

@@ -4,13 +4,14 @@
 
 namespace kelvane {
 
-/// Converts the metafile in `bytes`, every byte but the last of which is read, and appends the document to `output`.
-/// Throws when the conversion fails, and then `output` is as it was: the `int` 1 or a std::exception.
+/// Converts the metafile in `bytes`, every byte but the last of which is read, and appends the
+/// document to `output`. Throws when the conversion fails, and then `output` is as it was: the
+/// `int` 1 or a std::exception.
 /// @param buffer  borrowed for the call. @param output  null makes no document.
 void ConvertBuffer(const unsigned char* buffer, unsigned long length, CFMutableDataRef output);
 
-/// Converts a metafile file and writes the document beside it. Throws like ConvertBuffer; the file of the output's
-/// name then is as it was.
+/// Converts a metafile file and writes the document beside it. Throws like ConvertBuffer; the file
+/// of the output's name then is as it was.
 /// @param path  zero-terminated, not null.
 void ConvertFile(const char* path);
 

@@ -1,6 +1,6 @@
-#include <kelvane/kelvane.h>
-
 #include <cstdio>
+
+#include <kelvane/kelvane.h>
 
 int main(int argc, char** argv) {
   if (argc <= 1) {

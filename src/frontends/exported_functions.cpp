@@ -1,6 +1,6 @@
-#include <kelvane/kelvane.h>
-
 #include <new>
+
+#include <kelvane/kelvane.h>
 
 #include "frontends/conversion.h"
 #include "platform/corefoundation/cf_data.h"
@@ -13,7 +13,9 @@ kelvane::CFMutableDataRef Native(CFMutableDataRef data) {
   return reinterpret_cast<kelvane::CFMutableDataRef>(data);
 }
 
-kelvane::CFDataRef Native(CFDataRef data) { return reinterpret_cast<kelvane::CFDataRef>(data); }
+kelvane::CFDataRef Native(CFDataRef data) {
+  return reinterpret_cast<kelvane::CFDataRef>(data);
+}
 
 // Only data objects cross the interface.
 kelvane::CFTypeRef NativeObject(CFTypeRef object) {
@@ -42,7 +44,9 @@ CFMutableDataRef CFDataCreateMutable(CFAllocatorRef /*allocator*/, CFIndex capac
   }
 }
 
-CFIndex CFDataGetLength(CFDataRef data) { return kelvane::CFDataGetLength(Native(data)); }
+CFIndex CFDataGetLength(CFDataRef data) {
+  return kelvane::CFDataGetLength(Native(data));
+}
 
 const unsigned char* CFDataGetBytePtr(CFDataRef data) {
   return kelvane::CFDataGetBytePtr(Native(data));
@@ -53,7 +57,9 @@ CFTypeRef CFRetain(CFTypeRef object) {
   return object;
 }
 
-void CFRelease(CFTypeRef object) { kelvane::CFRelease(NativeObject(object)); }
+void CFRelease(CFTypeRef object) {
+  kelvane::CFRelease(NativeObject(object));
+}
 
 int KELVANE(const unsigned char* buffer, unsigned long length, CFMutableDataRef output) {
   return Status([&] { kelvane::ConvertBuffer(buffer, length, Native(output)); });

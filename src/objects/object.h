@@ -4,7 +4,8 @@
 
 namespace kelvane {
 
-/// A graphics object of the metafile: a value copy of what a record described, without any drawing resource.
+/// A graphics object of the metafile: a value copy of what a record described, without any drawing
+/// resource.
 class Object {
  public:
   enum class ObjectType : std::uint32_t {

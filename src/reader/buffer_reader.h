@@ -8,13 +8,15 @@
 namespace kelvane {
 
 /// Always false: byte order is a matter of decoding, which gives the same values on any host.
-constexpr bool isBigEndian() { return false; }
+constexpr bool isBigEndian() {
+  return false;
+}
 
-/// A block of memory read front to back as little-endian scalars. Never reports an error: what lies past the end
-/// is simply not read.
+/// A block of memory read front to back as little-endian scalars. Never reports an error: what lies
+/// past the end is simply not read.
 ///
-/// The last byte of the block counts as its end and is never read, so whoever wants every byte of a file declares
-/// the block one byte longer than the file.
+/// The last byte of the block counts as its end and is never read, so whoever wants every byte of a
+/// file declares the block one byte longer than the file.
 class BufferReader {
  public:
   /// @param start  borrowed; must outlive the reader.
@@ -36,8 +38,8 @@ class BufferReader {
     return static_cast<std::uint32_t>(std::max<std::int64_t>(0, size_ - 1 - position_));
   }
 
-  /// Reads one little-endian scalar into its native form. When the block ends early, the bytes that there are fill
-  /// the least significant end and the others stay as they were.
+  /// Reads one little-endian scalar into its native form. When the block ends early, the bytes that
+  /// there are fill the least significant end and the others stay as they were.
   /// @param destination  the scalar's storage. @param count  its width: 1, 2 or 4 bytes.
   void GetBytes(unsigned char* destination, unsigned long count) {
     const unsigned long available = std::min<unsigned long>(count, Remaining());

@@ -1,12 +1,12 @@
 #include "reader/file_reader.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
 #include <limits>
 #include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace kelvane {
 namespace {
@@ -37,13 +37,14 @@ std::vector<unsigned char> FileReader::readBlock() {
   std::vector<unsigned char> block(CountAttempts());
   rewind();
   const std::size_t read = std::fread(block.data(), 1, block.size(), file_.get());
-  if (read != block.size() - 1) Throw(std::errc::io_error);  // it failed, or changed while being read
+  if (read != block.size() - 1)
+    Throw(std::errc::io_error);  // it failed, or changed while being read
   closeSource();
   return block;
 }
 
-// Every attempt counts, the one that meets the end included. A file that says how long it is need not be
-// counted to be refused, and a stream that cannot be rewound could be counted for ever.
+// Every attempt counts, the one that meets the end included. A file that says how long it is need
+// not be counted to be refused, and a stream that cannot be rewound could be counted for ever.
 std::size_t FileReader::CountAttempts() const {
   if (std::fseek(file_.get(), 0, SEEK_END) != 0) Throw(std::errc::invalid_seek);
   if (getPosition() >= static_cast<long>(kLargestBlock)) Throw(std::errc::file_too_large);

@@ -27,10 +27,10 @@ class FileReader {
   [[nodiscard]] long getPosition() const { return std::ftell(file_.get()); }
   void setToPosition(long offset, int whence) const { std::fseek(file_.get(), offset, whence); }
 
-  /// Reads the whole file into a block one byte longer than the file: the read that meets the end counts as one
-  /// more, and the spare byte lets every byte of the file be read from the block.
-  /// Throws std::system_error when the file is not open, cannot be rewound or cannot be read, or when the block
-  /// would be 2 GiB or more; std::bad_alloc.
+  /// Reads the whole file into a block one byte longer than the file: the read that meets the end
+  /// counts as one more, and the spare byte lets every byte of the file be read from the block.
+  /// Throws std::system_error when the file is not open, cannot be rewound or cannot be read, or
+  /// when the block would be 2 GiB or more; std::bad_alloc.
   std::vector<unsigned char> readBlock();
 
  private:

@@ -4,7 +4,8 @@
 
 namespace kelvane {
 
-// The metafile's plain geometry, in file order ([MS-EMF] 2.2, [MS-WMF] 2.2.2). Units are the record's own.
+// The metafile's plain geometry, in file order ([MS-EMF] 2.2, [MS-WMF] 2.2.2). Units are the
+// record's own.
 
 /// POINTS: two signed 16-bit coordinates.
 struct Point16 {

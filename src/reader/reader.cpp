@@ -3,7 +3,8 @@
 namespace kelvane {
 
 void Reader::read(WcharString& string) {
-  for (std::int32_t i = 0; i < string.length; ++i) read(string.data[i]);
+  for (std::int32_t i = 0; i < string.length; ++i)
+    read(string.data[i]);
 }
 
 bool Reader::FinishChecking(std::uint32_t expected) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -7,18 +8,20 @@
 #include <vector>
 
 #include "reader/buffer_reader.h"
+#include "reader/gdi_structures.h"
 #include "reader/geometry_types.h"
 
 namespace kelvane {
 
-/// The one source of bytes that everything is decoded from, and the measure of how far each record was read.
-/// Nothing here fails: a read past the end leaves the rest of its destination as it was.
+/// The one source of bytes that everything is decoded from, and the measure of how far each record
+/// was read. Nothing here fails: a read past the end leaves the rest of its destination as it was.
 class Reader {
  public:
   /// @param start  borrowed; must outlive the reader. @param size  as for BufferReader.
   Reader(const unsigned char* start, std::int32_t size) : source_(start, size) {}
 
-  // Kept so that a parse ends alike whatever it reads from; a block of memory needs no opening or closing.
+  // Kept so that a parse ends alike whatever it reads from; a block of memory needs no opening or
+  // closing.
   void SetSource(const char* /*path*/) {}
   void closeSource() const {}
 
@@ -37,10 +40,8 @@ class Reader {
 
   /// Reads one integer, enumeration or float of its own width.
   template <class T>
-    requires std::is_arithmetic_v<T>
-  void read(T& scalar) {
-    GetBytes(reinterpret_cast<unsigned char*>(&scalar), sizeof(T));
-  }
+  requires std::is_arithmetic_v<T>
+  void read(T& scalar) { GetBytes(reinterpret_cast<unsigned char*>(&scalar), sizeof(T)); }
 
   void read(Point16& point) { readAll(point.x, point.y); }
   void read(Point& point) { readAll(point.x, point.y); }
@@ -56,19 +57,35 @@ class Reader {
   /// Reads `string.length` units into `string.data`; nothing when the length is 0 or negative.
   void read(WcharString& string);
 
+  // Structures embedded in records. None of them is checked, or knows the size of its record.
+  void read(LogicalPen& pen);
+  void read(LogicalBrush& brush);
+  void read(ExtLogPen& pen);
+  void read(TextW& text);
+  void read(LogFontW& font);
+  void read(PANOSE& panose);
+  void read(ExtLogFontW& font);
+
+  template <class T, std::size_t count>
+  void read(std::array<T, count>& elements) {
+    for (T& element : elements)
+      read(element);
+  }
+
   /// Reads values of any kind one after the other.
   template <class... Values>
   void readAll(Values&... values) {
     (read(values), ...);
   }
 
-  /// Appends up to `count` elements to `list`, stopping when the data can supply no further whole one. Memory
-  /// follows the data, whatever the count promises.
+  /// Appends up to `count` elements to `list`, stopping when the data can supply no further whole
+  /// one. Memory follows the data, whatever the count promises.
   template <class T>
   void readList(std::vector<T>& list, std::uint32_t count) {
     const std::size_t known = list.size();
     list.resize(known + std::min<std::size_t>(count, Remaining() / sizeof(T)));
-    for (auto element = list.begin() + static_cast<std::ptrdiff_t>(known); element != list.end(); ++element) {
+    for (auto element = list.begin() + static_cast<std::ptrdiff_t>(known); element != list.end();
+         ++element) {
       read(*element);
     }
   }
@@ -76,7 +93,8 @@ class Reader {
   /// Remembers the position; checks nest.
   void StartChecking() { checks_.push_back(static_cast<std::uint32_t>(getPosition())); }
 
-  /// Compares what was read since the matching StartChecking with `expected` bytes. The position stays.
+  /// Compares what was read since the matching StartChecking with `expected` bytes. The position
+  /// stays.
   /// @return true when exactly `expected` bytes were read.
   bool FinishChecking(std::uint32_t expected);
 
@@ -85,7 +103,8 @@ class Reader {
     return static_cast<std::int32_t>(sizeDifference_);
   }
 
-  /// @return the bytes read inside finished checks, all together. Records that overlap count again and again, which
+  /// @return the bytes read inside finished checks, all together. Records that overlap count again
+  /// and again, which
   ///         is what gives a file of overlapping records away.
   [[nodiscard]] std::uint64_t CheckedBytes() const { return checkedBytes_; }
 

@@ -12,22 +12,36 @@ void ArcRecord::drawToPDF(AbstractContext& context) const {
   context.EmptyDraw("Ellipse was drawing instead of arc");
 }
 
-void ArcRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+void ArcRecord::read(Reader& reader) {
+  reader.readAll(box, start, end);
+}
 
-void ArcToRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("ArcTo"); }
+void ArcToRecord::drawToPDF(AbstractContext& context) const {
+  context.EmptyDraw("ArcTo");
+}
 
-void ChordRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("Chord"); }
+void ChordRecord::drawToPDF(AbstractContext& context) const {
+  context.EmptyDraw("Chord");
+}
 
-void ChordRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+void ChordRecord::read(Reader& reader) {
+  reader.readAll(box, start, end);
+}
 
-void PieRecord::drawToPDF(AbstractContext& context) const { context.EmptyDraw("Pie"); }
+void PieRecord::drawToPDF(AbstractContext& context) const {
+  context.EmptyDraw("Pie");
+}
 
-void PieRecord::read(Reader& reader) { reader.readAll(box, start, end); }
+void PieRecord::read(Reader& reader) {
+  reader.readAll(box, start, end);
+}
 
 void AngleArcRecord::drawToPDF(AbstractContext& context) const {
   AddArc(context, centre, radius, startAngle, startAngle + sweepAngle);
 }
 
-void AngleArcRecord::read(Reader& reader) { reader.readAll(centre, radius, startAngle, sweepAngle); }
+void AngleArcRecord::read(Reader& reader) {
+  reader.readAll(centre, radius, startAngle, sweepAngle);
+}
 
 }  // namespace kelvane

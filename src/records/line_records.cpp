@@ -13,12 +13,16 @@ void LineToRecord::drawToPDF(AbstractContext& context) const {
   MoveToPoint(context, point.x, point.y);
 }
 
-void LineToRecord::read(Reader& reader) { reader.read(point); }
+void LineToRecord::read(Reader& reader) {
+  reader.read(point);
+}
 
 void MoveToExRecord::drawToPDF(AbstractContext& context) const {
   MoveToPoint(context, point.x, point.y);
 }
 
-void MoveToExRecord::read(Reader& reader) { reader.read(point); }
+void MoveToExRecord::read(Reader& reader) {
+  reader.read(point);
+}
 
 }  // namespace kelvane

@@ -5,8 +5,8 @@
 
 namespace kelvane {
 
-/// EMR_LINETO ([MS-EMF] 2.3.5.13). Outside a path bracket it strokes the path so far and goes on from its end, so
-/// that each segment is painted as it comes.
+/// EMR_LINETO ([MS-EMF] 2.3.5.13). Outside a path bracket it strokes the path so far and goes on
+/// from its end, so that each segment is painted as it comes.
 class LineToRecord final : public Record {
  public:
   void drawToPDF(AbstractContext& context) const override;

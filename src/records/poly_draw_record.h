@@ -5,8 +5,9 @@
 
 namespace kelvane {
 
-/// EMR_POLYDRAW, EMR_POLYDRAW16 ([MS-EMF] 2.3.5.20, 2.3.5.21): left out of playback. The body is not read, since its
-/// bounds would stand where the count is looked for; the framing skips it. T is PointL or Point16.
+/// EMR_POLYDRAW, EMR_POLYDRAW16 ([MS-EMF] 2.3.5.20, 2.3.5.21): left out of playback. The body is
+/// not read, since its bounds would stand where the count is looked for; the framing skips it. T is
+/// PointL or Point16.
 template <class T>
 class PolyDrawRecord final : public Record {
  public:

@@ -19,7 +19,8 @@ void AddCurves(AbstractContext& context, std::span<const T> points) {
 
 template <class T>
 void AddLines(AbstractContext& context, std::span<const T> points) {
-  for (const T& point : points) AddLine(context, point.x, point.y);
+  for (const T& point : points)
+    AddLine(context, point.x, point.y);
 }
 
 }  // namespace

@@ -10,9 +10,9 @@
 
 namespace kelvane {
 
-/// Plays one figure: outside a path bracket it strokes what is pending, adds the figure and paints it; inside one it
-/// only adds. A polygon is never closed, so its fill closes it and its stroke leaves the last edge out. Points that
-/// do not make up a group of three are left out of a Bezier.
+/// Plays one figure: outside a path bracket it strokes what is pending, adds the figure and paints
+/// it; inside one it only adds. A polygon is never closed, so its fill closes it and its stroke
+/// leaves the last edge out. Points that do not make up a group of three are left out of a Bezier.
 /// @param points  logical units. T is PointL or Point16.
 template <class T>
 void DrawFigure(AbstractContext& context, std::span<const T> points,

@@ -18,7 +18,9 @@ void RectangleRecord::drawToPDF(AbstractContext& context) const {
   PaintShape(context);
 }
 
-void RectangleRecord::read(Reader& reader) { reader.read(box); }
+void RectangleRecord::read(Reader& reader) {
+  reader.read(box);
+}
 
 void RoundRectangleRecord::drawToPDF(AbstractContext& context) const {
   AddRoundRectangle(context, box);
@@ -35,6 +37,8 @@ void EllipseRecord::drawToPDF(AbstractContext& context) const {
   PaintShape(context);
 }
 
-void EllipseRecord::read(Reader& reader) { reader.read(box); }
+void EllipseRecord::read(Reader& reader) {
+  reader.read(box);
+}
 
 }  // namespace kelvane

@@ -5,8 +5,8 @@
 
 namespace kelvane {
 
-// Each adds its outline to the current path and, outside a path bracket, fills and strokes it at once. Boxes are in
-// logical units, edges in any order.
+// Each adds its outline to the current path and, outside a path bracket, fills and strokes it at
+// once. Boxes are in logical units, edges in any order.
 
 /// EMR_RECTANGLE ([MS-EMF] 2.3.5.34).
 class RectangleRecord : public Record {

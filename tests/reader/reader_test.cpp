@@ -1,8 +1,8 @@
 #include "reader/reader.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
+
+#include <gtest/gtest.h>
 
 #include "support/bytes.h"
 
@@ -73,7 +73,9 @@ TEST(BufferReader, ReadsNothingOutsideTheBlock) {
   }
 }
 
-TEST(BufferReader, IsBigEndianOnNoHost) { EXPECT_FALSE(isBigEndian()); }
+TEST(BufferReader, IsBigEndianOnNoHost) {
+  EXPECT_FALSE(isBigEndian());
+}
 
 TEST(Reader, DecodesLittleEndian) {
   ReaderOver reader(Bytes().U8(1).U8(2).U8(3).U8(4).U8(0xFF).U8(0xFF).U16(5).U8(0));

@@ -4,10 +4,13 @@
 
 namespace kelvane::test {
 
-Bytes& Bytes::F32(float value) { return U32(std::bit_cast<std::uint32_t>(value)); }
+Bytes& Bytes::F32(float value) {
+  return U32(std::bit_cast<std::uint32_t>(value));
+}
 
 Bytes& Bytes::Utf16(std::u16string_view text) {
-  for (const char16_t unit : text) U16(unit);
+  for (const char16_t unit : text)
+    U16(unit);
   return *this;
 }
 
@@ -22,7 +25,8 @@ Bytes& Bytes::Append(const std::vector<unsigned char>& more) {
 }
 
 Bytes& Bytes::Scalar(std::uint32_t value, int width) {
-  for (int i = 0; i < width; ++i) data_.push_back(static_cast<unsigned char>(value >> (8 * i)));
+  for (int i = 0; i < width; ++i)
+    data_.push_back(static_cast<unsigned char>(value >> (8 * i)));
   return *this;
 }
 

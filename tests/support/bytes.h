@@ -16,7 +16,7 @@ class Bytes {
   Bytes& I16(std::int32_t value) { return Scalar(static_cast<std::uint32_t>(value), 2); }
   Bytes& I32(std::int32_t value) { return Scalar(static_cast<std::uint32_t>(value), 4); }
   Bytes& F32(float value);
-  Bytes& Point(std::int32_t x, std::int32_t y) { return I16(x).I16(y); }   // Point16
+  Bytes& Point(std::int32_t x, std::int32_t y) { return I16(x).I16(y); }  // Point16
   Bytes& PointL(std::int32_t x, std::int32_t y) { return I32(x).I32(y); }
   Bytes& Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
     return I32(left).I32(top).I32(right).I32(bottom);

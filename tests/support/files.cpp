@@ -1,10 +1,10 @@
 #include "support/files.h"
 
-#include <unistd.h>
-
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+
+#include <unistd.h>
 
 namespace kelvane::test {
 

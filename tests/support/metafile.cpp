@@ -1,5 +1,6 @@
 #include "support/metafile.h"
 
+#include "context/truncate.h"
 #include "document/record_type.h"
 
 namespace kelvane::test {
@@ -8,7 +9,17 @@ namespace {
 constexpr std::uint32_t kHeaderSize = 108;
 constexpr std::uint32_t kEndSize = 20;
 
-std::uint32_t Number(RecordType type) { return static_cast<std::uint32_t>(type); }
+// The device: an edge in pixels is this much in units of 0.01 mm.
+constexpr SIZEL kDevicePixels = {1024, 768};
+constexpr SIZEL kDeviceMillimeters = {320, 240};
+
+std::int32_t HundredthsOfMillimeters(std::int32_t pixels) {
+  return Truncate(100.0 * pixels * kDeviceMillimeters.cx / kDevicePixels.cx);
+}
+
+std::uint32_t Number(RecordType type) {
+  return static_cast<std::uint32_t>(type);
+}
 
 void AppendPoints(Bytes& body, const Points& points, bool wide) {
   for (const At& point : points) {
@@ -104,11 +115,8 @@ Metafile& Metafile::Pie(const RectangleL& box, At start, At end) {
 
 Metafile& Metafile::AngleArc(At centre, std::uint32_t radius, float startDegrees,
                              float sweepDegrees) {
-  return Record(Number(RecordType::EMR_ANGLEARC), Bytes()
-                                                      .PointL(centre.x, centre.y)
-                                                      .U32(radius)
-                                                      .F32(startDegrees)
-                                                      .F32(sweepDegrees));
+  return Record(Number(RecordType::EMR_ANGLEARC),
+                Bytes().PointL(centre.x, centre.y).U32(radius).F32(startDegrees).F32(sweepDegrees));
 }
 
 Metafile& Metafile::Record(std::uint32_t type, const Bytes& body) {
@@ -137,12 +145,16 @@ std::vector<unsigned char> Metafile::BuildWithoutEnd() const {
   const auto size = static_cast<std::uint32_t>(kHeaderSize + records_.Size() + kEndSize);
   Bytes file;
   file.U32(Number(RecordType::EMR_HEADER)).U32(kHeaderSize);
-  file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
-  file.Rectangle(bounds_.left, bounds_.top, bounds_.right, bounds_.bottom);
-  file.U32(kSignature).U32(kVersion).U32(size).U32(recordCount_ + 2).U16(1).U16(0);
-  file.U32(0).U32(0).U32(0);               // description, its offset, palette entries
-  file.PointL(1024, 768).PointL(320, 240);  // device in pixels and in millimetres
-  file.U32(0).U32(0).U32(0).PointL(320000, 240000);
+  file.Append(Box(bounds_).Data());
+  for (const std::int32_t edge : {bounds_.left, bounds_.top, bounds_.right, bounds_.bottom}) {
+    file.I32(HundredthsOfMillimeters(edge));
+  }
+  file.U32(kSignature).U32(kVersion).U32(size).U32(recordCount_ + 2).U16(handleCount_).U16(0);
+  file.U32(0).U32(0).U32(0);  // description, its offset, palette entries
+  file.PointL(kDevicePixels.cx, kDevicePixels.cy);
+  file.PointL(kDeviceMillimeters.cx, kDeviceMillimeters.cy);
+  file.U32(0).U32(0).U32(0);  // pixel format, its offset, OpenGL
+  file.PointL(1000 * kDeviceMillimeters.cx, 1000 * kDeviceMillimeters.cy);
   return file.Append(records_.Data()).Data();
 }
 
@@ -157,12 +169,15 @@ Metafile& Metafile::Poly(std::uint32_t type, std::uint32_t type16, const Points&
 Metafile& Metafile::PolyPoly(std::uint32_t type, std::uint32_t type16,
                              const std::vector<Points>& figures, bool wide) {
   std::size_t total = 0;
-  for (const Points& figure : figures) total += figure.size();
+  for (const Points& figure : figures)
+    total += figure.size();
   Bytes body;
   body.Rectangle(0, 0, -1, -1).U32(static_cast<std::uint32_t>(figures.size()));
   body.U32(static_cast<std::uint32_t>(total));
-  for (const Points& figure : figures) body.U32(static_cast<std::uint32_t>(figure.size()));
-  for (const Points& figure : figures) AppendPoints(body, figure, wide);
+  for (const Points& figure : figures)
+    body.U32(static_cast<std::uint32_t>(figure.size()));
+  for (const Points& figure : figures)
+    AppendPoints(body, figure, wide);
   return Record(wide ? type : type16, body);
 }
 

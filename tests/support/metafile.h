@@ -15,8 +15,22 @@ struct At {
 
 using Points = std::vector<At>;
 
-/// A metafile put together record by record. Coordinates are logical units. Poly records are written with 16-bit
-/// points; `wide` asks for the 32-bit ones.
+/// A COLORREF; each channel from 0 to 255.
+constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
+  return red | green << 8 | blue << 16;
+}
+
+/// Objects that can be selected without having been created.
+inline constexpr std::uint32_t kStockWhiteBrush = 0x80000000;
+inline constexpr std::uint32_t kStockBlackBrush = 0x80000004;
+inline constexpr std::uint32_t kStockNullBrush = 0x80000005;
+inline constexpr std::uint32_t kStockWhitePen = 0x80000006;
+inline constexpr std::uint32_t kStockBlackPen = 0x80000007;
+inline constexpr std::uint32_t kStockNullPen = 0x80000008;
+
+/// A metafile put together record by record. Coordinates are logical units. Poly records are
+/// written with 16-bit points; `wide` asks for the 32-bit ones. The verbs are defined in a file for
+/// each family of records.
 class Metafile {
  public:
   /// The page is (0, 0, 100, 100) unless Bounds says otherwise.
@@ -44,6 +58,31 @@ class Metafile {
   Metafile& Pie(const RectangleL& box, At start, At end);
   Metafile& AngleArc(At centre, std::uint32_t radius, float startDegrees, float sweepDegrees);
 
+  Metafile& SetMapMode(std::int32_t mode);
+  Metafile& SetWindowOrg(std::int32_t x, std::int32_t y);
+  Metafile& SetWindowExt(std::int32_t cx, std::int32_t cy);
+  Metafile& SetViewportOrg(std::int32_t x, std::int32_t y);
+  Metafile& SetViewportExt(std::int32_t cx, std::int32_t cy);
+  Metafile& SaveDC();
+  Metafile& RestoreDC(std::int32_t relativeLevel = -1);
+  Metafile& SetWorldTransform(const XForm& transform);
+  Metafile& ModifyWorldTransform(const XForm& transform, std::int32_t mode);
+  Metafile& SetArcDirection(std::int32_t direction);
+
+  Metafile& BeginPath();
+  Metafile& EndPath();
+  Metafile& CloseFigure();
+  Metafile& FillPath();
+  Metafile& StrokePath();
+  Metafile& StrokeAndFillPath();
+  Metafile& SelectClipPath(std::uint32_t mode);
+
+  /// A solid pen, `width` in logical units, or a solid brush. Table indexes start at 1.
+  Metafile& CreatePen(std::uint32_t index, std::int32_t width, std::uint32_t color);
+  Metafile& CreateBrush(std::uint32_t index, std::uint32_t color);
+  Metafile& SelectObject(std::uint32_t index);
+  Metafile& DeleteObject(std::uint32_t index);
+
   /// Any record: type, size and body. The body is padded to a multiple of four.
   Metafile& Record(std::uint32_t type, const Bytes& body = {});
 
@@ -61,10 +100,12 @@ class Metafile {
   Metafile& PolyPoly(std::uint32_t type, std::uint32_t type16, const std::vector<Points>& figures,
                      bool wide);
   Metafile& ArcLike(std::uint32_t type, const RectangleL& box, At start, At end);
+  Metafile& CreateObject(std::uint32_t type, std::uint32_t index, const Bytes& object);
 
   RectangleL bounds_ = {0, 0, 100, 100};
   Bytes records_;
   std::uint32_t recordCount_ = 0;
+  std::uint32_t handleCount_ = 1;  // object table entries, the reserved one included
 };
 
 }  // namespace kelvane::test

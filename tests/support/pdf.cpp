@@ -10,9 +10,13 @@ Pdf::Pdf(std::string bytes) : bytes_(std::move(bytes)), document_(std::make_uniq
   document_->processMemoryFile("pdf", bytes_.data(), bytes_.size());
 }
 
-std::size_t Pdf::PageCount() const { return document_->getAllPages().size(); }
+std::size_t Pdf::PageCount() const {
+  return document_->getAllPages().size();
+}
 
-QPDFObjectHandle Pdf::Page(std::size_t index) const { return document_->getAllPages().at(index); }
+QPDFObjectHandle Pdf::Page(std::size_t index) const {
+  return document_->getAllPages().at(index);
+}
 
 std::string Pdf::MediaBox(std::size_t index) const {
   return Page(index).getKey("/MediaBox").unparse();

@@ -1,12 +1,10 @@
 #include "support/process.h"
 
+#include <array>
+
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <array>
-
-extern char** environ;
 
 namespace kelvane::test {
 
@@ -21,7 +19,9 @@ ProcessResult Run(const std::vector<std::string>& command) {
   posix_spawn_file_actions_addclose(&actions, ends[1]);
 
   std::vector<char*> arguments;
-  for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.reserve(command.size() + 1);
+  for (const std::string& word : command)
+    arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
   pid_t child = 0;
   const int error =

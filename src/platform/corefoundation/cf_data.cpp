@@ -16,8 +16,12 @@ void CFDataSetLength(CFMutableDataRef data, CFIndex length) {
   data->bytes.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
 }
 
-CFIndex CFDataGetLength(CFDataRef data) noexcept { return static_cast<CFIndex>(data->bytes.size()); }
+CFIndex CFDataGetLength(CFDataRef data) noexcept {
+  return static_cast<CFIndex>(data->bytes.size());
+}
 
-const unsigned char* CFDataGetBytePtr(CFDataRef data) noexcept { return data->bytes.data(); }
+const unsigned char* CFDataGetBytePtr(CFDataRef data) noexcept {
+  return data->bytes.data();
+}
 
 }  // namespace kelvane

@@ -11,8 +11,8 @@ namespace kelvane {
 using CFStringEncoding = std::uint32_t;
 inline constexpr CFStringEncoding kCFStringEncodingMacRoman = 0;
 
-/// An immutable string of bytes with the encoding its creator named. The bytes are never converted, because
-/// on POSIX the strings that matter here are paths, and a path is its bytes.
+/// An immutable string of bytes with the encoding its creator named. The bytes are never converted,
+/// because on POSIX the strings that matter here are paths, and a path is its bytes.
 class CFString final : public CFObject {
  public:
   CFString(std::string text, CFStringEncoding textEncoding)

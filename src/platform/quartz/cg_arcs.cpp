@@ -10,8 +10,8 @@ namespace {
 constexpr double kQuarterTurn = std::numbers::pi / 2;
 constexpr double kFullTurn = 2 * std::numbers::pi;
 
-// The signed angle to run through. Angles come in single precision, so a full turn is recognised within its
-// rounding; without that a circle from 30 to 390 degrees could shrink to nothing.
+// The signed angle to run through. Angles come in single precision, so a full turn is recognised
+// within its rounding; without that a circle from 30 to 390 degrees could shrink to nothing.
 double Sweep(double start, double end, bool clockwise) {
   const double rounding = 1e-6 * std::max({1.0, std::abs(start), std::abs(end)});
   const double direction = clockwise ? -1 : 1;
@@ -60,7 +60,8 @@ void AddArc(CGPath& path, const CGAffineTransform& transform, CGPoint center, CG
   const Ellipse circle(transform, center, radius, radius);
   path.LineTo(circle.PointAt(startAngle));
   const double sweep = Sweep(startAngle, endAngle, clockwise);
-  if (!std::isfinite(sweep)) return;  // the start is not finite either, so the path is never painted
+  if (!std::isfinite(sweep))
+    return;  // the start is not finite either, so the path is never painted
   const int curves = static_cast<int>(std::ceil(std::abs(sweep) / kQuarterTurn - 1e-6));
   for (int i = 0; i < curves; ++i) {
     circle.AddCurve(path, startAngle + sweep * i / curves, sweep / curves);
@@ -75,9 +76,9 @@ void AddEllipse(CGPath& path, const CGAffineTransform& transform, const CGRect& 
   const double xCenter = rect.origin.x + xRadius;
   const double yCenter = rect.origin.y + yRadius;
   const auto at = [&](double x, double y) {
-    return CGPointApplyAffineTransform({static_cast<CGFloat>(xCenter + x * xRadius),
-                                        static_cast<CGFloat>(yCenter + y * yRadius)},
-                                       transform);
+    return CGPointApplyAffineTransform(
+        {static_cast<CGFloat>(xCenter + x * xRadius), static_cast<CGFloat>(yCenter + y * yRadius)},
+        transform);
   };
   path.MoveTo(at(1, 0));
   path.CurveTo(at(1, kReach), at(kReach, 1), at(0, 1));

@@ -10,11 +10,17 @@ constexpr CGFloat ToUnitRange(CGFloat component) {
 
 }  // namespace
 
-CGColorSpaceRef CGColorSpaceCreateDeviceGray() { return new CGColorSpace(1); }
+CGColorSpaceRef CGColorSpaceCreateDeviceGray() {
+  return new CGColorSpace(1);
+}
 
-CGColorSpaceRef CGColorSpaceCreateDeviceRGB() { return new CGColorSpace(3); }
+CGColorSpaceRef CGColorSpaceCreateDeviceRGB() {
+  return new CGColorSpace(3);
+}
 
-void CGColorSpaceRelease(CGColorSpaceRef space) noexcept { CFRelease(space); }
+void CGColorSpaceRelease(CGColorSpaceRef space) noexcept {
+  CFRelease(space);
+}
 
 CGColor MakeColor(const CGFloat* components, std::size_t componentCount) {
   const CGFloat first = ToUnitRange(components[0]);

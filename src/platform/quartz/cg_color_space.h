@@ -34,7 +34,8 @@ struct CGColor {
   friend bool operator==(const CGColor&, const CGColor&) = default;
 };
 
-/// @param components  1 (grey) or 3 (RGB) values, then alpha; brought into 0 to 1, not-a-number becoming 0.
+/// @param components  1 (grey) or 3 (RGB) values, then alpha; brought into 0 to 1, not-a-number
+/// becoming 0.
 CGColor MakeColor(const CGFloat* components, std::size_t componentCount);
 
 }  // namespace kelvane

@@ -30,7 +30,9 @@ void CGContext::ResetPage() {
   textMatrix_ = {};
 }
 
-void CGContext::SaveGState() { saved_.push_back(state_); }
+void CGContext::SaveGState() {
+  saved_.push_back(state_);
+}
 
 void CGContext::RestoreGState() {
   if (saved_.empty()) return;
@@ -58,14 +60,18 @@ void CGContext::AddRect(const CGRect& rect) {
   path_.Close();
 }
 
-void CGContext::AddEllipseInRect(const CGRect& rect) { AddEllipse(path_, state_.ctm, rect); }
+void CGContext::AddEllipseInRect(const CGRect& rect) {
+  AddEllipse(path_, state_.ctm, rect);
+}
 
 void CGContext::AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFloat endAngle,
                        bool clockwise) {
   kelvane::AddArc(path_, state_.ctm, center, radius, startAngle, endAngle, clockwise);
 }
 
-CGPoint CGContext::PathCurrentPoint() const { return ToUserSpace(path_.CurrentPoint()); }
+CGPoint CGContext::PathCurrentPoint() const {
+  return ToUserSpace(path_.CurrentPoint());
+}
 
 void CGContext::DrawPath(CGPathDrawingMode mode) {
   const bool finite = path_.IsFinite() && (!Strokes(mode) || std::isfinite(state_.lineWidth));
@@ -84,8 +90,8 @@ void CGContext::Clip() {
 }
 
 void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
-  const CGAffineTransform unitSquareToRect = {rect.size.width, 0,            0,
-                                              rect.size.height, rect.origin.x, rect.origin.y};
+  const CGAffineTransform unitSquareToRect = {
+      rect.size.width, 0, 0, rect.size.height, rect.origin.x, rect.origin.y};
   const CGAffineTransform matrix = CGAffineTransformConcat(unitSquareToRect, state_.ctm);
   if (Shows() && IsFinite(matrix)) ImageDrawn(*image, matrix);
 }
@@ -95,9 +101,12 @@ void CGContext::DrawPDFPage(const CGRect& rect, CGPDFPageRef page) {
   if (!(box.size.width > 0 && box.size.height > 0)) return;
   const CGFloat xScale = rect.size.width / box.size.width;
   const CGFloat yScale = rect.size.height / box.size.height;
-  const CGAffineTransform boxToRect = {
-      xScale, 0, 0, yScale, rect.origin.x - box.origin.x * xScale,
-      rect.origin.y - box.origin.y * yScale};
+  const CGAffineTransform boxToRect = {xScale,
+                                       0,
+                                       0,
+                                       yScale,
+                                       rect.origin.x - box.origin.x * xScale,
+                                       rect.origin.y - box.origin.y * yScale};
   const CGAffineTransform matrix = CGAffineTransformConcat(boxToRect, state_.ctm);
   if (Shows() && IsFinite(matrix)) PDFPageDrawn(*page, matrix);
 }
@@ -144,9 +153,13 @@ void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components) {
   c->State().strokeColor = MakeColor(components, c->State().strokeComponents);
 }
 
-void CGContextSetLineWidth(CGContextRef c, CGFloat width) { c->State().lineWidth = width; }
+void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
+  c->State().lineWidth = width;
+}
 
-void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) { c->State().miterLimit = limit; }
+void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
+  c->State().miterLimit = limit;
+}
 
 void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
                               int page) {

@@ -16,8 +16,9 @@
 
 namespace kelvane {
 
-/// The drawing surface. This class keeps the graphics state, the current path and all geometry; a back end is
-/// handed finished marks in page space, which is the page's default user space, and nothing else.
+/// The drawing surface. This class keeps the graphics state, the current path and all geometry; a
+/// back end is handed finished marks in page space, which is the page's default user space, and
+/// nothing else.
 ///
 /// Used by one thread at a time. Any call may throw std::bad_alloc.
 class CGContext : public CFObject {
@@ -26,7 +27,8 @@ class CGContext : public CFObject {
   void BeginPage(const CGRect& mediaBox);
   /// Closes the states still saved; the path and the state start afresh on the next page.
   void EndPage();
-  /// Finishes the document. Throws when it cannot be written. A surface that goes without it leaves nothing.
+  /// Finishes the document. Throws when it cannot be written. A surface that goes without it leaves
+  /// nothing.
   virtual void Close() = 0;
 
   // Graphics state.
@@ -56,7 +58,8 @@ class CGContext : public CFObject {
   void Clip();
   void DrawImage(const CGRect& rect, CGImageRef image);
   void DrawPDFPage(const CGRect& rect, CGPDFPageRef page);
-  /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks nothing.
+  /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks
+  /// nothing.
   void DrawGlyphRun(const CGGlyphRun& run);
 
   [[nodiscard]] CGPoint ToUserSpace(CGPoint pagePoint) const;
@@ -95,17 +98,31 @@ class CGContext : public CFObject {
 
 using CGContextRef = CGContext*;
 
-// The platform's calls, under the platform's names. User space is y upwards; angles are radians. None takes a
-// null context.
+// The platform's calls, under the platform's names. User space is y upwards; angles are radians.
+// None takes a null context.
 
-inline void CGContextBeginPage(CGContextRef c, const CGRect* mediaBox) { c->BeginPage(*mediaBox); }
-inline void CGContextEndPage(CGContextRef c) { c->EndPage(); }
-inline void CGContextRelease(CGContextRef c) noexcept { CFRelease(c); }
+inline void CGContextBeginPage(CGContextRef c, const CGRect* mediaBox) {
+  c->BeginPage(*mediaBox);
+}
+inline void CGContextEndPage(CGContextRef c) {
+  c->EndPage();
+}
+inline void CGContextRelease(CGContextRef c) noexcept {
+  CFRelease(c);
+}
 
-inline void CGContextSaveGState(CGContextRef c) { c->SaveGState(); }
-inline void CGContextRestoreGState(CGContextRef c) { c->RestoreGState(); }
-inline CGAffineTransform CGContextGetCTM(CGContextRef c) { return c->State().ctm; }
-inline void CGContextConcatCTM(CGContextRef c, const CGAffineTransform& t) { c->ConcatCTM(t); }
+inline void CGContextSaveGState(CGContextRef c) {
+  c->SaveGState();
+}
+inline void CGContextRestoreGState(CGContextRef c) {
+  c->RestoreGState();
+}
+inline CGAffineTransform CGContextGetCTM(CGContextRef c) {
+  return c->State().ctm;
+}
+inline void CGContextConcatCTM(CGContextRef c, const CGAffineTransform& t) {
+  c->ConcatCTM(t);
+}
 inline CGPoint CGContextConvertPointToUserSpace(CGContextRef c, CGPoint point) {
   return c->ToUserSpace(point);
 }
@@ -114,8 +131,12 @@ inline CGRect CGContextConvertRectToUserSpace(CGContextRef c, const CGRect& rect
   return c->ToUserSpace(rect);
 }
 
-inline void CGContextBeginPath(CGContextRef c) { c->BeginPath(); }
-inline void CGContextMoveToPoint(CGContextRef c, CGFloat x, CGFloat y) { c->MoveToPoint({x, y}); }
+inline void CGContextBeginPath(CGContextRef c) {
+  c->BeginPath();
+}
+inline void CGContextMoveToPoint(CGContextRef c, CGFloat x, CGFloat y) {
+  c->MoveToPoint({x, y});
+}
 /// A line with no current point acts as a move.
 inline void CGContextAddLineToPoint(CGContextRef c, CGFloat x, CGFloat y) {
   c->AddLineToPoint({x, y});
@@ -125,28 +146,40 @@ inline void CGContextAddCurveToPoint(CGContextRef c, CGFloat x1, CGFloat y1, CGF
                                      CGFloat x3, CGFloat y3) {
   c->AddCurveToPoint({x1, y1}, {x2, y2}, {x3, y3});
 }
-/// @param clockwise  0 runs by increasing angle, anything else by decreasing angle; a difference of a full turn or
-///                   more is one full circle. A line joins the current point, if any, to the arc's start.
+/// @param clockwise  0 runs by increasing angle, anything else by decreasing angle; a difference of
+/// a full turn or
+///                   more is one full circle. A line joins the current point, if any, to the arc's
+///                   start.
 inline void CGContextAddArc(CGContextRef c, CGFloat x, CGFloat y, CGFloat radius,
                             CGFloat startAngle, CGFloat endAngle, int clockwise) {
   c->AddArc({x, y}, radius, startAngle, endAngle, clockwise != 0);
 }
 /// Afterwards the current point is the rectangle's origin.
-inline void CGContextAddRect(CGContextRef c, const CGRect& rect) { c->AddRect(rect); }
+inline void CGContextAddRect(CGContextRef c, const CGRect& rect) {
+  c->AddRect(rect);
+}
 /// Afterwards the current point is the ellipse's rightmost point.
 inline void CGContextAddEllipseInRect(CGContextRef c, const CGRect& rect) {
   c->AddEllipseInRect(rect);
 }
-inline void CGContextClosePath(CGContextRef c) { c->ClosePath(); }
+inline void CGContextClosePath(CGContextRef c) {
+  c->ClosePath();
+}
 /// @return the current point in user space; that of an empty path is (0, 0) on the page.
-inline CGPoint CGContextGetPathCurrentPoint(CGContextRef c) { return c->PathCurrentPoint(); }
+inline CGPoint CGContextGetPathCurrentPoint(CGContextRef c) {
+  return c->PathCurrentPoint();
+}
 
-/// Paints the path and empties it. An empty path, one of moves alone and one with a coordinate that is not finite
-/// mark nothing.
-inline void CGContextDrawPath(CGContextRef c, CGPathDrawingMode mode) { c->DrawPath(mode); }
-/// Cuts later marks to the path (non-zero winding) and empties it. An empty path and one with a coordinate that
-/// is not finite change nothing; one of moves alone hides all that follows.
-inline void CGContextClip(CGContextRef c) { c->Clip(); }
+/// Paints the path and empties it. An empty path, one of moves alone and one with a coordinate that
+/// is not finite mark nothing.
+inline void CGContextDrawPath(CGContextRef c, CGPathDrawingMode mode) {
+  c->DrawPath(mode);
+}
+/// Cuts later marks to the path (non-zero winding) and empties it. An empty path and one with a
+/// coordinate that is not finite change nothing; one of moves alone hides all that follows.
+inline void CGContextClip(CGContextRef c) {
+  c->Clip();
+}
 /// Cuts later marks to the rectangle; the current path is lost.
 void CGContextClipToRect(CGContextRef c, const CGRect& rect);
 
@@ -163,7 +196,9 @@ void CGContextSetMiterLimit(CGContextRef c, CGFloat limit);
 inline void CGContextSetTextMatrix(CGContextRef c, const CGAffineTransform& matrix) {
   c->SetTextMatrix(matrix);
 }
-inline CGAffineTransform CGContextGetTextMatrix(CGContextRef c) { return c->TextMatrix(); }
+inline CGAffineTransform CGContextGetTextMatrix(CGContextRef c) {
+  return c->TextMatrix();
+}
 inline void CGContextSetTextDrawingMode(CGContextRef c, CGTextDrawingMode mode) {
   c->State().textMode = mode;
 }
@@ -173,7 +208,8 @@ inline void CGContextDrawImage(CGContextRef c, const CGRect& rect, CGImageRef im
   if (image != nullptr) c->DrawImage(rect, image);
 }
 
-/// Draws a page fitted into the rectangle. A null document or a page it does not have marks nothing.
+/// Draws a page fitted into the rectangle. A null document or a page it does not have marks
+/// nothing.
 void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
                               int page);
 

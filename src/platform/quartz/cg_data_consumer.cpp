@@ -1,8 +1,5 @@
 #include "platform/quartz/cg_data_consumer.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -10,6 +7,9 @@
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace kelvane {
 namespace {
@@ -36,18 +36,22 @@ class DataConsumer final : public CGDataConsumer {
   throw std::system_error(errno, std::generic_category(), operation);
 }
 
-std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.rfind('/') + 1);
+}
 
 std::string RandomName() {
   std::random_device random;
   std::array<char, 40> name{};
-  const int length = std::snprintf(name.data(), name.size(), ".kelvane-%08x%08x.tmp",
-                                   static_cast<unsigned>(random()), static_cast<unsigned>(random()));
+  const int length =
+      std::snprintf(name.data(), name.size(), ".kelvane-%08x%08x.tmp",
+                    static_cast<unsigned>(random()), static_cast<unsigned>(random()));
   return {name.data(), static_cast<std::size_t>(length)};
 }
 
-/// A file with a name of its own beside its final place. The name is new and is never followed when somebody
-/// has planted a link there; what the file holds reaches the final name whole or not at all.
+/// A file with a name of its own beside its final place. The name is new and is never followed when
+/// somebody has planted a link there; what the file holds reaches the final name whole or not at
+/// all.
 class FileConsumer final : public CGDataConsumer {
  public:
   explicit FileConsumer(std::string path) : path_(std::move(path)) {}
@@ -107,6 +111,8 @@ CGDataConsumerRef CGDataConsumerCreateWithURL(CFURLRef url) {
   return consumer->Create() ? consumer.release() : nullptr;
 }
 
-void CGDataConsumerRelease(CGDataConsumerRef consumer) noexcept { CFRelease(consumer); }
+void CGDataConsumerRelease(CGDataConsumerRef consumer) noexcept {
+  CFRelease(consumer);
+}
 
 }  // namespace kelvane

@@ -8,8 +8,9 @@
 
 namespace kelvane {
 
-/// Where a document is written. What was written counts only once it is committed: a consumer that goes
-/// before that leaves its data object or file as it found it, so nobody ever sees half a document.
+/// Where a document is written. What was written counts only once it is committed: a consumer that
+/// goes before that leaves its data object or file as it found it, so nobody ever sees half a
+/// document.
 class CGDataConsumer : public CFObject {
  public:
   /// Throws std::bad_alloc or std::system_error; the document is then abandoned.
@@ -21,10 +22,12 @@ class CGDataConsumer : public CFObject {
 
 using CGDataConsumerRef = CGDataConsumer*;
 
-/// @return a consumer that appends to `data`, owned by the caller; null for null. Throws std::bad_alloc.
+/// @return a consumer that appends to `data`, owned by the caller; null for null. Throws
+/// std::bad_alloc.
 CGDataConsumerRef CGDataConsumerCreateWithCFData(CFMutableDataRef data);
 
-/// @return a consumer that writes a new file beside `url` and renames it over `url` when committed, owned by the
+/// @return a consumer that writes a new file beside `url` and renames it over `url` when committed,
+/// owned by the
 ///         caller; null when `url` is null or no file can be created there. Throws std::bad_alloc.
 CGDataConsumerRef CGDataConsumerCreateWithURL(CFURLRef url);
 

@@ -7,7 +7,8 @@
 
 namespace kelvane {
 
-/// Bytes that an image or a document is read from: shared from a data object, or lent by the caller.
+/// Bytes that an image or a document is read from: shared from a data object, or lent by the
+/// caller.
 class CGDataProvider final : public CFObject {
  public:
   using ReleaseCallback = void (*)(void* info, const void* data, std::size_t size);
@@ -34,7 +35,8 @@ class CGDataProvider final : public CFObject {
 
 using CGDataProviderRef = const CGDataProvider*;
 
-/// @return a provider that shares `data`, owned by the caller; null for null. Throws std::bad_alloc.
+/// @return a provider that shares `data`, owned by the caller; null for null. Throws
+/// std::bad_alloc.
 CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data);
 
 /// @param data     lent until the provider goes; then `release`, unless null, is told.

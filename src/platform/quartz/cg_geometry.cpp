@@ -28,8 +28,12 @@ CGAffineTransform CGAffineTransformInvert(const CGAffineTransform& t) {
   };
   const double tx = t.tx;
   const double ty = t.ty;
-  return {element(t.d),  element(-t.b), element(-t.c),
-          element(t.a),  element(t.c * ty - t.d * tx), element(t.b * tx - t.a * ty)};
+  return {element(t.d),
+          element(-t.b),
+          element(-t.c),
+          element(t.a),
+          element(t.c * ty - t.d * tx),
+          element(t.b * tx - t.a * ty)};
 }
 
 CGRect CGRectApplyAffineTransform(const CGRect& rect, const CGAffineTransform& transform) {

@@ -33,7 +33,9 @@ constexpr CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height)
   return {{x, y}, {width, height}};
 }
 
-inline bool IsFinite(CGPoint point) { return std::isfinite(point.x) && std::isfinite(point.y); }
+inline bool IsFinite(CGPoint point) {
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
 
 inline bool IsFinite(const CGRect& rect) {
   return IsFinite(rect.origin) && std::isfinite(rect.size.width) && std::isfinite(rect.size.height);
@@ -73,7 +75,8 @@ CGAffineTransform CGAffineTransformMakeRotation(CGFloat angle);
 CGAffineTransform CGAffineTransformConcat(const CGAffineTransform& first,
                                           const CGAffineTransform& second);
 
-/// @return the inverse, each element rounded once to single precision; a singular transform comes back unchanged.
+/// @return the inverse, each element rounded once to single precision; a singular transform comes
+/// back unchanged.
 CGAffineTransform CGAffineTransformInvert(const CGAffineTransform& transform);
 
 inline bool IsFinite(const CGAffineTransform& t) {
@@ -88,11 +91,12 @@ constexpr CGPoint CGPointApplyAffineTransform(CGPoint point, const CGAffineTrans
 /// @return the bounding box of the rectangle's four mapped corners.
 CGRect CGRectApplyAffineTransform(const CGRect& rect, const CGAffineTransform& transform);
 
-/// True when lengths are scaled alike in every direction: rotations, reflections and one scale. Allows for
-/// the rounding of a rotation's sine and cosine.
+/// True when lengths are scaled alike in every direction: rotations, reflections and one scale.
+/// Allows for the rounding of a rotation's sine and cosine.
 bool ScalesEvenly(const CGAffineTransform& transform);
 
-/// The determinant of the linear part, in double precision so that it neither overflows nor vanishes.
+/// The determinant of the linear part, in double precision so that it neither overflows nor
+/// vanishes.
 constexpr double Determinant(const CGAffineTransform& t) {
   return static_cast<double>(t.a) * t.d - static_cast<double>(t.b) * t.c;
 }

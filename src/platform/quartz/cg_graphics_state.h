@@ -12,8 +12,8 @@ namespace kelvane {
 
 /// The numbers are part of the platform's interface.
 enum CGPathDrawingMode : std::uint8_t {
-  kCGPathFill = 0,          // non-zero winding
-  kCGPathEOFill = 1,        // even-odd
+  kCGPathFill = 0,    // non-zero winding
+  kCGPathEOFill = 1,  // even-odd
   kCGPathStroke = 2,
   kCGPathFillStroke = 3,    // non-zero winding
   kCGPathEOFillStroke = 4,  // even-odd
@@ -27,7 +27,8 @@ enum CGTextDrawingMode : std::uint8_t {
   kCGTextInvisible = 3,
 };
 
-/// What SaveGState keeps and RestoreGState brings back. The path and the text matrix are not part of it.
+/// What SaveGState keeps and RestoreGState brings back. The path and the text matrix are not part
+/// of it.
 struct CGGraphicsState {
   CGAffineTransform ctm;
   CGColor fillColor;
@@ -43,13 +44,14 @@ struct CGGraphicsState {
 
 /// One clip in effect: the area all later marks are cut to, together with the clips before it.
 struct CGClip {
-  CGPath area;           // page space, non-zero winding
-  std::uint64_t serial;  // never used twice on a surface
-  std::size_t saveDepth; // how many states were saved when it was set
+  CGPath area;            // page space, non-zero winding
+  std::uint64_t serial;   // never used twice on a surface
+  std::size_t saveDepth;  // how many states were saved when it was set
 };
 
-/// How a stroke is written for the CTM in force. Under an even scale only the width changes; under an uneven
-/// one the pen itself is deformed, so the stroke is drawn in user space through `transform`.
+/// How a stroke is written for the CTM in force. Under an even scale only the width changes; under
+/// an uneven one the pen itself is deformed, so the stroke is drawn in user space through
+/// `transform`.
 struct CGStrokeGeometry {
   CGFloat width;                     // in the space the stroke is drawn in
   bool throughTransform;             // draw under `transform`, points mapped back by `inverse`
@@ -57,10 +59,15 @@ struct CGStrokeGeometry {
   CGAffineTransform inverse = {};    // page to user space
 };
 
-/// @return the geometry of a stroke in `state`. Under a singular transform the stroke is of width 0.
+/// @return the geometry of a stroke in `state`. Under a singular transform the stroke is of width
+/// 0.
 CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
 
-constexpr bool Fills(CGPathDrawingMode mode) { return mode != kCGPathStroke; }
-constexpr bool Strokes(CGPathDrawingMode mode) { return mode >= kCGPathStroke; }
+constexpr bool Fills(CGPathDrawingMode mode) {
+  return mode != kCGPathStroke;
+}
+constexpr bool Strokes(CGPathDrawingMode mode) {
+  return mode >= kCGPathStroke;
+}
 
 }  // namespace kelvane

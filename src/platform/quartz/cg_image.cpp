@@ -3,8 +3,8 @@
 namespace kelvane {
 namespace {
 
-// True when `rows` rows, `bytesPerRow` apart and the last only `width` bytes long, lie within `size` bytes.
-// Divides instead of multiplying, so no size can wrap.
+// True when `rows` rows, `bytesPerRow` apart and the last only `width` bytes long, lie within
+// `size` bytes. Divides instead of multiplying, so no size can wrap.
 bool RowsFit(std::size_t size, std::size_t width, std::size_t rows, std::size_t bytesPerRow) {
   if (width == 0 || rows == 0 || bytesPerRow < width || size < width) return false;
   return (size - width) / bytesPerRow >= rows - 1;
@@ -16,7 +16,8 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
                          std::size_t bitsPerPixel, std::size_t bytesPerRow, CGColorSpaceRef space,
                          CGBitmapInfo bitmapInfo, CGDataProviderRef provider, const CGFloat* decode,
                          bool shouldInterpolate, CGColorRenderingIntent /*intent*/) {
-  if (space == nullptr || provider == nullptr || decode != nullptr || bitmapInfo != 0) return nullptr;
+  if (space == nullptr || provider == nullptr || decode != nullptr || bitmapInfo != 0)
+    return nullptr;
   const std::size_t components = space->components;
   if (bitsPerComponent != 8 || bitsPerPixel != 8 * components) return nullptr;
   if (width > bytesPerRow / components) return nullptr;
@@ -24,7 +25,9 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
   return new CGImage(width, height, bytesPerRow, components, shouldInterpolate, provider);
 }
 
-void CGImageRelease(CGImageRef image) noexcept { CFRelease(image); }
+void CGImageRelease(CGImageRef image) noexcept {
+  CFRelease(image);
+}
 
 std::optional<std::vector<unsigned char>> PackRows(std::span<const unsigned char> pixels,
                                                    std::size_t width, std::size_t height,

@@ -38,9 +38,11 @@ class CGImage final : public CFObject {
 using CGImageRef = const CGImage*;
 
 /// @param bitsPerComponent  8; `bitsPerPixel` 8 times the space's components.
-/// @param provider  rows top first, `bytesPerRow` apart; the last row may end after its pixels. Retained.
+/// @param provider  rows top first, `bytesPerRow` apart; the last row may end after its pixels.
+/// Retained.
 /// @param decode    null: components are taken as they stand.
-/// @return an image owned by the caller; null when the sizes, the layout and the provider's bytes do not agree.
+/// @return an image owned by the caller; null when the sizes, the layout and the provider's bytes
+/// do not agree.
 ///         Throws std::bad_alloc.
 CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bitsPerComponent,
                          std::size_t bitsPerPixel, std::size_t bytesPerRow, CGColorSpaceRef space,

@@ -60,7 +60,9 @@ void CGPath::Clear() {
   finite_ = true;
 }
 
-void CGPath::Append(Element element) { elements_.push_back(element); }
+void CGPath::Append(Element element) {
+  elements_.push_back(element);
+}
 
 void CGPath::Append(CGPoint point) {
   finite_ = finite_ && kelvane::IsFinite(point);

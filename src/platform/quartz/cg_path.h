@@ -10,8 +10,8 @@ namespace kelvane {
 
 /// A path in page space. Points are mapped by the caller before they are added.
 ///
-/// A finished path is regular: every subpath opens with one move or is one whole rectangle, and a move that
-/// nothing follows has no effect. So whoever writes a path out needs no rules of its own.
+/// A finished path is regular: every subpath opens with one move or is one whole rectangle, and a
+/// move that nothing follows has no effect. So whoever writes a path out needs no rules of its own.
 class CGPath {
  public:
   enum class Element : std::uint8_t {
@@ -52,8 +52,8 @@ class CGPath {
   /// @return the current point in page space; (0, 0) for an empty path.
   [[nodiscard]] CGPoint CurrentPoint() const { return currentPoint_; }
 
-  /// Calls `visit(element, points)` for each element in order; `points` holds as many as the element needs.
-  /// A move that ends the path is left out.
+  /// Calls `visit(element, points)` for each element in order; `points` holds as many as the
+  /// element needs. A move that ends the path is left out.
   template <class Visitor>
   void ForEach(Visitor&& visit) const {
     const CGPoint* points = points_.data();

@@ -13,14 +13,14 @@
 namespace kelvane {
 namespace {
 
-/// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an uneven transform
-/// is wrapped in that transform.
+/// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an
+/// uneven transform is wrapped in that transform.
 class CGPDFContext final : public CGContext, private CGStateWriter {
  public:
   explicit CGPDFContext(CGDataConsumerRef consumer)
-      : consumer_(CFShare(consumer)),
-        content_([this](std::string_view piece) { contents_.push_back(writer_.AddStream(piece)); }) {
-  }
+      : consumer_(CFShare(consumer)), content_([this](std::string_view piece) {
+          contents_.push_back(writer_.AddStream(piece));
+        }) {}
 
   void Close() override {
     EndPage();
@@ -176,6 +176,8 @@ CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaB
   return new CGPDFContext(consumer);
 }
 
-void CGPDFContextClose(CGContextRef context) { context->Close(); }
+void CGPDFContextClose(CGContextRef context) {
+  context->Close();
+}
 
 }  // namespace kelvane

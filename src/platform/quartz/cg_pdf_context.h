@@ -13,13 +13,15 @@ using CFDictionaryRef = const CFDictionary*;
 /// @param consumer  where the document goes when it is closed; retained.
 /// @param mediaBox  the page box of the document, in points.
 /// @param auxiliaryInfo  null.
-/// @return a surface owned by the caller; null for a null consumer or box and for a box whose width or height is
+/// @return a surface owned by the caller; null for a null consumer or box and for a box whose width
+/// or height is
 ///         zero or that is not finite. Throws std::bad_alloc.
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
                                 CFDictionaryRef auxiliaryInfo);
 
-/// Writes the document to its consumer and commits it. A context released without this leaves no document.
-/// Throws std::bad_alloc, std::system_error when the consumer cannot take it, std::exception otherwise.
+/// Writes the document to its consumer and commits it. A context released without this leaves no
+/// document. Throws std::bad_alloc, std::system_error when the consumer cannot take it,
+/// std::exception otherwise.
 void CGPDFContextClose(CGContextRef context);
 
 }  // namespace kelvane

@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <new>
+
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -14,7 +15,8 @@ CGPDFDocument::CGPDFDocument(CGDataProviderRef source)
   pdf->setSuppressWarnings(true);
   pdf->processMemoryFile("document", reinterpret_cast<const char*>(bytes.data()), bytes.size());
   const std::size_t count = pdf->getAllPages().size();
-  for (std::size_t index = 0; index < count; ++index) pages.push_back({this, index});
+  for (std::size_t index = 0; index < count; ++index)
+    pages.push_back({this, index});
 }
 
 CGPDFDocument::~CGPDFDocument() = default;
@@ -49,6 +51,8 @@ CGRect CGPDFPageGetBoxRect(CGPDFPageRef page, CGPDFBox /*box*/) {
                     static_cast<CGFloat>(corners.ury - corners.lly));
 }
 
-void CGPDFDocumentRelease(CGPDFDocumentRef document) noexcept { CFRelease(document); }
+void CGPDFDocumentRelease(CGPDFDocumentRef document) noexcept {
+  CFRelease(document);
+}
 
 }  // namespace kelvane

@@ -23,7 +23,8 @@ struct CGPDFPage {
 /// A PDF document opened for reading. Used by one thread at a time.
 class CGPDFDocument final : public CFObject {
  public:
-  /// Opens the provider's document. Throws what reading it throws (std::exception) when it is not one.
+  /// Opens the provider's document. Throws what reading it throws (std::exception) when it is not
+  /// one.
   explicit CGPDFDocument(CGDataProviderRef source);
 
   const CFOwned<const CGDataProvider> provider;  // outlives `pdf`, which reads from it
@@ -44,10 +45,12 @@ CGPDFDocumentRef CGPDFDocumentCreateWithProvider(CGDataProviderRef provider);
 
 std::size_t CGPDFDocumentGetNumberOfPages(CGPDFDocumentRef document) noexcept;
 
-/// @param number  from 1. @return the page, owned by the document; null when there is none of that number.
+/// @param number  from 1. @return the page, owned by the document; null when there is none of that
+/// number.
 CGPDFPageRef CGPDFDocumentGetPage(CGPDFDocumentRef document, std::size_t number) noexcept;
 
-/// @return the page's box in default user space, corners put in order; empty when it has none that is usable.
+/// @return the page's box in default user space, corners put in order; empty when it has none that
+/// is usable.
 CGRect CGPDFPageGetBoxRect(CGPDFPageRef page, CGPDFBox box);
 
 void CGPDFDocumentRelease(CGPDFDocumentRef document) noexcept;

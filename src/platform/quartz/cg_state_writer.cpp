@@ -9,7 +9,8 @@ void CGStateWriter::StartPage() {
 }
 
 void CGStateWriter::FinishPage() {
-  while (!writtenClips_.empty()) PopClip();
+  while (!writtenClips_.empty())
+    PopClip();
 }
 
 void CGStateWriter::Prepare(const CGGraphicsState& state, std::span<const CGClip> clips,

@@ -16,9 +16,10 @@ struct CGStateNeeds {
   bool text = false;
 };
 
-/// Brings the graphics state of a sequential output to what the next mark needs. An operator is written only
-/// when a value differs from what the output already holds, and clips stand between a save and a restore of their
-/// own, so a state that was saved and restored without a mark leaves no trace.
+/// Brings the graphics state of a sequential output to what the next mark needs. An operator is
+/// written only when a value differs from what the output already holds, and clips stand between a
+/// save and a restore of their own, so a state that was saved and restored without a mark leaves no
+/// trace.
 class CGStateWriter {
  public:
   CGStateWriter(const CGStateWriter&) = delete;
@@ -34,7 +35,8 @@ class CGStateWriter {
   /// Writes the restores that are still owed.
   void FinishPage();
 
-  /// @param state  the state the mark is made under. @param clips  the clips in effect, oldest first.
+  /// @param state  the state the mark is made under. @param clips  the clips in effect, oldest
+  /// first.
   void Prepare(const CGGraphicsState& state, std::span<const CGClip> clips, CGStateNeeds needs);
 
  private:

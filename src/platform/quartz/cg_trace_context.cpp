@@ -12,8 +12,8 @@
 namespace kelvane {
 namespace {
 
-constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke",
-                                                         "fill-stroke", "eo-fill-stroke"};
+constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke", "fill-stroke",
+                                                         "eo-fill-stroke"};
 
 class CGTraceContext final : public CGContext, private CGStateWriter {
  public:
@@ -60,12 +60,14 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
   void GlyphsDrawn(const CGGlyphRun& run) override {
     Prepare(State(), Clips(), {.text = true});
     std::u16string text;
-    for (const CGPositionedGlyph& glyph : run.glyphs) text += glyph.text;
+    for (const CGPositionedGlyph& glyph : run.glyphs)
+      text += glyph.text;
     std::string words = "text \"" + ToUTF8(text) + "\" " + run.font->Description().postScriptName;
     AppendNumber(words, run.size);
     LineUnder(std::move(words), run.matrix);
     if (run.glyphs.size() == 1 && run.glyphs[0].origin == CGPoint{}) return;
-    for (const CGPositionedGlyph& glyph : run.glyphs) Line("  at", {glyph.origin.x, glyph.origin.y});
+    for (const CGPositionedGlyph& glyph : run.glyphs)
+      Line("  at", {glyph.origin.x, glyph.origin.y});
   }
 
   void WriteSave() override { Line("save", {}); }
@@ -109,7 +111,8 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
 
   void Line(std::string_view words, std::initializer_list<CGFloat> numbers) {
     output_ += words;
-    for (const CGFloat number : numbers) AppendNumber(output_, number);
+    for (const CGFloat number : numbers)
+      AppendNumber(output_, number);
     output_ += '\n';
   }
 
@@ -124,6 +127,8 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
 
 }  // namespace
 
-CGContextRef CGTraceContextCreate(std::string& output) { return new CGTraceContext(output); }
+CGContextRef CGTraceContextCreate(std::string& output) {
+  return new CGTraceContext(output);
+}
 
 }  // namespace kelvane

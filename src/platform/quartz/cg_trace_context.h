@@ -25,8 +25,8 @@ namespace kelvane {
 ///     image 2 2 rgb under a b c d tx ty
 ///     page-copy under a b c d tx ty
 ///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,
-///       at 0 0                     then each glyph's origin in text space; left out for one glyph at 0 0
-///       at 8.6 0
+///       at 0 0                     then each glyph's origin in text space; left out for one glyph
+///       at 0 0 at 8.6 0
 ///     end-page
 ///
 /// @param output  borrowed; must outlive the surface. Lines are appended.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <type_traits>
 
 #include "platform/quartz/pdf_number.h"
 
@@ -17,6 +19,24 @@ char* WritePoint(char* out, CGPoint point) {
   *out++ = ' ';
   out = WriteNumber(out, point.y);
   *out++ = ' ';
+  return out;
+}
+
+// Any transform may have turned the rectangle, so it is spelled out as the figure that `re` stands
+// for.
+template <class Map>
+char* WriteMappedRectangle(char* out, CGPoint corner, CGPoint size, const Map& map) {
+  const CGFloat right = corner.x + size.x;
+  const CGFloat top = corner.y + size.y;
+  out = WritePoint(out, map(corner));
+  *out++ = 'm';
+  for (const CGPoint next : {CGPoint{right, corner.y}, {right, top}, {corner.x, top}}) {
+    *out++ = '\n';
+    out = WritePoint(out, map(next));
+    *out++ = 'l';
+  }
+  *out++ = '\n';
+  *out++ = 'h';
   return out;
 }
 
@@ -66,16 +86,20 @@ void PdfContent::TextMode(CGTextDrawingMode mode) {
 }
 
 void PdfContent::Path(const CGPath& path) {
-  WritePath(path, [](CGPoint point) { return point; });
+  WritePath(path, std::identity());
 }
 
 void PdfContent::Path(const CGPath& path, const CGAffineTransform& transform) {
   WritePath(path, [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); });
 }
 
-void PdfContent::Paint(CGPathDrawingMode mode) { Write(kPaintOperators[mode]); }
+void PdfContent::Paint(CGPathDrawingMode mode) {
+  Write(kPaintOperators[mode]);
+}
 
-void PdfContent::Clip() { Write("W n\n"); }
+void PdfContent::Clip() {
+  Write("W n\n");
+}
 
 void PdfContent::DrawXObject(std::string_view name) {
   EndText();
@@ -134,7 +158,7 @@ template <class Map>
 void PdfContent::WritePath(const CGPath& path, const Map& map) {
   EndText();
   path.ForEach([&](CGPath::Element element, const CGPoint* points) {
-    std::array<char, 6 * kNumberRoom> text;
+    std::array<char, 8 * kNumberRoom> text;
     char* out = text.data();
     switch (element) {
       case CGPath::Element::kMove:
@@ -146,14 +170,18 @@ void PdfContent::WritePath(const CGPath& path, const Map& map) {
         *out++ = 'l';
         break;
       case CGPath::Element::kCurve:
-        out = WritePoint(WritePoint(WritePoint(out, map(points[0])), map(points[1])),
-                         map(points[2]));
+        out =
+            WritePoint(WritePoint(WritePoint(out, map(points[0])), map(points[1])), map(points[2]));
         *out++ = 'c';
         break;
       case CGPath::Element::kRectangle:
-        out = WritePoint(WritePoint(out, points[0]), points[1]);
-        *out++ = 'r';
-        *out++ = 'e';
+        if constexpr (std::is_same_v<Map, std::identity>) {
+          out = WritePoint(WritePoint(out, points[0]), points[1]);
+          *out++ = 'r';
+          *out++ = 'e';
+        } else {
+          out = WriteMappedRectangle(out, points[0], points[1], map);
+        }
         break;
       case CGPath::Element::kClose:
         *out++ = 'h';

@@ -16,8 +16,8 @@
 
 namespace kelvane {
 
-/// The content of a page, operator by operator (ISO 32000-1, annex A). It is handed on in pieces, cut between
-/// operators, so that a page of any length needs little memory.
+/// The content of a page, operator by operator (ISO 32000-1, annex A). It is handed on in pieces,
+/// cut between operators, so that a page of any length needs little memory.
 class PdfContent {
  public:
   using Sink = std::function<void(std::string_view)>;
@@ -25,22 +25,22 @@ class PdfContent {
   /// @param sink  takes each finished piece; the view is borrowed for the call.
   explicit PdfContent(Sink sink) : sink_(std::move(sink)) {}
 
-  void Save();                                        // q
-  void Restore();                                     // Q
-  void Concat(const CGAffineTransform& transform);    // cm
-  void FillColor(const CGColor& color);               // rg
-  void StrokeColor(const CGColor& color);             // RG
-  void LineWidth(CGFloat width);                      // w
-  void MiterLimit(CGFloat limit);                     // M, which is at least 1
-  void TextMode(CGTextDrawingMode mode);              // Tr
-  void Path(const CGPath& path);                      // m l c h re
+  void Save();                                                        // q
+  void Restore();                                                     // Q
+  void Concat(const CGAffineTransform& transform);                    // cm
+  void FillColor(const CGColor& color);                               // rg
+  void StrokeColor(const CGColor& color);                             // RG
+  void LineWidth(CGFloat width);                                      // w
+  void MiterLimit(CGFloat limit);                                     // M, which is at least 1
+  void TextMode(CGTextDrawingMode mode);                              // Tr
+  void Path(const CGPath& path);                                      // m l c h re
   void Path(const CGPath& path, const CGAffineTransform& transform);  // the same, each point mapped
-  void Paint(CGPathDrawingMode mode);                 // f f* S B B*
-  void Clip();                                        // W n
-  void DrawXObject(std::string_view name);            // Do
+  void Paint(CGPathDrawingMode mode);                                 // f f* S B B*
+  void Clip();                                                        // W n
+  void DrawXObject(std::string_view name);                            // Do
 
-  /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not shared with the
-  /// glyphs before and after it. @param width  thousandths of an em.
+  /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
+  /// shared with the glyphs before and after it. @param width  thousandths of an em.
   void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, int width);
 
   /// True while no operator was written.
@@ -56,7 +56,8 @@ class PdfContent {
   void Write(std::string_view text);
   void HandOn();
 
-  // Colours and the like may stand inside a text object, between two lines; everything else ends it.
+  // Colours and the like may stand inside a text object, between two lines; everything else ends
+  // it.
   void EndLine();
   void EndText();
 

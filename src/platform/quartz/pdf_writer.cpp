@@ -1,17 +1,16 @@
 #include "platform/quartz/pdf_writer.h"
 
-#include <libdeflate.h>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <new>
+#include <string>
+
+#include <libdeflate.h>
 #include <qpdf/Buffer.hh>
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
-#include <string>
-
 
 namespace kelvane {
 namespace {
@@ -88,7 +87,8 @@ QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
   auto dictionary = QPDFObjectHandle::newDictionary();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
-  dictionary.replaceKey("/Width", QPDFObjectHandle::newInteger(static_cast<long long>(image.width)));
+  dictionary.replaceKey("/Width",
+                        QPDFObjectHandle::newInteger(static_cast<long long>(image.width)));
   dictionary.replaceKey("/Height",
                         QPDFObjectHandle::newInteger(static_cast<long long>(image.height)));
   dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::newName(
@@ -98,7 +98,8 @@ QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
   return SharedImage(dictionary, Deflate(*pixels));
 }
 
-// Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is new.
+// Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is
+// new.
 QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
                                         const std::shared_ptr<Buffer>& deflated) {
   const auto bytesOf = [](Buffer& buffer) {
@@ -134,7 +135,8 @@ QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
 }
 
 void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
-  // Only indirect objects can be copied between documents, and these two may be direct or inherited.
+  // Only indirect objects can be copied between documents, and these two may be direct or
+  // inherited.
   QPDF& document = *page.getOwningQPDF();
   QPDF& sourceDocument = *source.document->pdf;
   QPDFPageObjectHelper helper(sourceDocument.getAllPages()[source.index]);
@@ -143,7 +145,8 @@ void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
     parts.replaceKey(key, helper.getAttribute(key, false));
   }
   auto copy = document.copyForeignObject(sourceDocument.makeIndirectObject(parts));
-  for (const std::string& key : copy.getKeys()) page.replaceKey(key, copy.getKey(key));
+  for (const std::string& key : copy.getKeys())
+    page.replaceKey(key, copy.getKey(key));
 }
 
 QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
@@ -156,7 +159,8 @@ QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
 }
 
 void PdfWriter::Write(CGDataConsumer& consumer) {
-  for (PdfFont& font : fonts_) font.Finish(*this);
+  for (PdfFont& font : fonts_)
+    font.Finish(*this);
   ConsumerPipeline pipeline(consumer);
   QPDFWriter writer(pdf_);
   writer.setOutputPipeline(&pipeline);

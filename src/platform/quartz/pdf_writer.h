@@ -22,8 +22,9 @@ struct libdeflate_compressor;
 
 namespace kelvane {
 
-/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic cross-reference and nothing
-/// in it that differs between two runs. Any call may throw std::bad_alloc or what the PDF library throws.
+/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic
+/// cross-reference and nothing in it that differs between two runs. Any call may throw
+/// std::bad_alloc or what the PDF library throws.
 class PdfWriter {
  public:
   PdfWriter();
@@ -34,13 +35,15 @@ class PdfWriter {
   /// @param data  copied, deflated. @return the new stream.
   QPDFObjectHandle AddStream(std::string_view data);
 
-  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell short.
+  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
+  /// short.
   QPDFObjectHandle AddImage(const CGImage& image);
 
   /// @return `object` as an object of its own, which others refer to.
   QPDFObjectHandle AddObject(QPDFObjectHandle object) { return pdf_.makeIndirectObject(object); }
 
-  /// @return the document's record of the face, made when it is first asked for. Lives as long as the writer.
+  /// @return the document's record of the face, made when it is first asked for. Lives as long as
+  /// the writer.
   PdfFont& FontFor(CGFontRef font);
 
   /// @return the page of another document as a form XObject in that page's own space.
