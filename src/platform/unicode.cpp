@@ -22,7 +22,35 @@ void AppendUTF8(std::string& out, char32_t character) {
   appendTail(0);
 }
 
+/// @return how many bytes the sequence has that starts with `lead`; 0 when none does.
+std::size_t SequenceLength(unsigned char lead) {
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead < 0xE0) return 2;
+  if (lead >= 0xE0 && lead < 0xF0) return 3;
+  return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
+}
+
+bool IsUTF8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t length = SequenceLength(static_cast<unsigned char>(bytes.front()));
+    if (length == 0 || length > bytes.size()) return false;
+    for (const char byte : bytes.substr(1, length - 1)) {
+      if ((static_cast<unsigned char>(byte) & 0xC0) != 0x80) return false;
+    }
+    bytes.remove_prefix(length);
+  }
+  return true;
+}
+
 }  // namespace
+
+std::string ToUTF8(std::string_view bytes) {
+  if (IsUTF8(bytes)) return std::string(bytes);
+  std::string out;
+  for (const char byte : bytes)
+    AppendUTF8(out, static_cast<unsigned char>(byte));
+  return out;
+}
 
 std::string ToUTF8(std::u16string_view text) {
   constexpr char32_t kReplacement = 0xFFFD;
