@@ -230,7 +230,7 @@ void AddNestedSquares(Metafile& page) {
 /// The same circle and square widened, sheared and mirrored, their outlines with them.
 void AddStretchedShapes(Metafile& page) {
   constexpr std::array<XForm, 3> kTransforms = {
-      {{2, 0, 0, 0.75F, 300, 60}, {1, 0, 0.5F, 1, 370, 60}, {-1, 0, 0, -1.5F, 430, 60}}};
+      {{2, 0, 0, 0.75F, 290, 60}, {1, 0, 0.5F, 1, 375, 60}, {-1, 0, 0, -1.5F, 435, 60}}};
   Select(page, kLeaf, kBrown);
   for (const XForm& transform : kTransforms) {
     page.SaveDC().ModifyWorldTransform(transform, kReplace);

@@ -1,9 +1,9 @@
 #include "document/emf_file.h"
 
+#include <stdexcept>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <stdexcept>
 
 #include "document/skipped_records.h"
 #include "support/metafile.h"
@@ -24,7 +24,9 @@ using test::Trace;
 constexpr std::uint32_t kUnknownType = 77;
 constexpr const char* kLine = "move 1 -2\nline 3 -4\nstroke\n";
 
-Metafile& AddLine(Metafile& metafile) { return metafile.Polyline({{1, 2}, {3, 4}}); }
+Metafile& AddLine(Metafile& metafile) {
+  return metafile.Polyline({{1, 2}, {3, 4}});
+}
 
 /// Sets a field of the header at its offset.
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
@@ -116,8 +118,8 @@ TEST(EMFFile, StartsWhereTheHeaderSaysItEnds) {
 }
 
 TEST(EMFFile, StartsInsideAHeaderThatSaysSo) {
-  // At 80 of the header stand the millimetres 320 and 240: an unknown type of 240 bytes, larger than the block, so
-  // the reader stays behind its size field and finds zeros, which lead nowhere.
+  // At 80 of the header stand the millimetres 320 and 240: an unknown type of 240 bytes, larger
+  // than the block, so the reader stays behind its size field and finds zeros, which lead nowhere.
   const auto file = WithField(Metafile().Build(), kHeaderSizeOffset, 80);
   ParsedMetafile metafile(file);
   ASSERT_EQ(metafile->records.size(), 2U);
@@ -161,8 +163,8 @@ TEST(EMFFile, TruncatedInsideASkippedRecordIsAbandoned) {
 }
 
 TEST(EMFFile, WhoseRecordsOverlapIsAbandoned) {
-  // Each record claims all the points that follow and is framed to 28 bytes, so reading them all would take
-  // quadratic time.
+  // Each record claims all the points that follow and is framed to 28 bytes, so reading them all
+  // would take quadratic time.
   Metafile metafile;
   for (int i = 0; i < 8000; ++i) {
     metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(0x10000000));

@@ -1,8 +1,8 @@
 #include "document/emf_header.h"
 
-#include <gtest/gtest.h>
-
 #include <new>
+
+#include <gtest/gtest.h>
 
 #include "reader/reader.h"
 #include "support/bytes.h"
@@ -24,7 +24,8 @@ Bytes HeaderBytes(std::uint32_t size, std::uint32_t descriptionOffset) {
   bytes.U32(1).U32(size).Rectangle(2, 3, 4, 5).Rectangle(6, 7, 8, 9);
   bytes.U32(10).U32(11).U32(12).U32(13).U16(14).U16(15).U32(16).U32(descriptionOffset).U32(17);
   bytes.PointL(18, 19).PointL(20, 21);
-  for (std::uint32_t i = 1; i <= 64; ++i) bytes.U8(i);
+  for (std::uint32_t i = 1; i <= 64; ++i)
+    bytes.U8(i);
   return bytes;
 }
 
@@ -94,14 +95,12 @@ TEST_P(EMFHeaderOptions, FollowTheDescriptionsOffset) {
   EXPECT_EQ(filled.header.description[0], firstByte + 256 * (firstByte + 1));
 }
 
-INSTANTIATE_TEST_SUITE_P(Offsets, EMFHeaderOptions,
-                         testing::Values(Optional{76, false, false, 88},
-                                         Optional{79, false, false, 88},
-                                         Optional{80, true, false, 100},
-                                         Optional{84, true, false, 100},
-                                         Optional{88, true, false, 100},
-                                         Optional{107, true, false, 100},
-                                         Optional{108, true, true, 108}));
+INSTANTIATE_TEST_SUITE_P(
+    Offsets, EMFHeaderOptions,
+    testing::Values(Optional{76, false, false, 88}, Optional{79, false, false, 88},
+                    Optional{80, true, false, 100}, Optional{84, true, false, 100},
+                    Optional{88, true, false, 100}, Optional{107, true, false, 100},
+                    Optional{108, true, true, 108}));
 
 TEST(EMFHeader, WithoutRoomForADescriptionHasNone) {
   const Filled filled = Fill(HeaderBytes(108, 108));
@@ -125,9 +124,9 @@ TEST(EMFHeader, WhoseDescriptionEndsBeforeItBeginsCannotBeStored) {
 TEST(EMFHeader, MeasuresOffsetsInBytes) {
   const EMFHeader::EnhMetaFileHeader fields;
   const auto* const base = reinterpret_cast<const unsigned char*>(&fields);
-  EXPECT_EQ(EMFHeader::MemOffset(
-                base, reinterpret_cast<const unsigned char*>(&fields.szlMillimeters)),
-            80U);
+  EXPECT_EQ(
+      EMFHeader::MemOffset(base, reinterpret_cast<const unsigned char*>(&fields.szlMillimeters)),
+      80U);
 }
 
 TEST(EMFPalette, IsFourFields) {

@@ -1,10 +1,10 @@
 #include "document/record_factory.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 #include <string>
 #include <typeinfo>
+
+#include <gtest/gtest.h>
 
 #include "document/skipped_records.h"
 #include "objects/brush_records.h"

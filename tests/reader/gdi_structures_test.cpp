@@ -23,7 +23,8 @@ std::int64_t ReadFrom(const Bytes& bytes, T& structure) {
 Bytes LogFont(std::int32_t height, std::u16string_view faceName) {
   Bytes bytes;
   bytes.I32(height).I32(2).I32(3).I32(4).I32(5);
-  for (std::uint32_t value = 6; value <= 13; ++value) bytes.U8(value);
+  for (std::uint32_t value = 6; value <= 13; ++value)
+    bytes.U8(value);
   bytes.Utf16(faceName);
   return bytes.Zeros(2 * (32 - faceName.size()));
 }
@@ -104,7 +105,8 @@ TEST(GdiStructures, AFontsByteFieldsComeInFileOrder) {
 
 TEST(GdiStructures, APanoseIsTenBytesInOrder) {
   Bytes bytes;
-  for (std::uint32_t value = 1; value <= 10; ++value) bytes.U8(value);
+  for (std::uint32_t value = 1; value <= 10; ++value)
+    bytes.U8(value);
   PANOSE panose;
   EXPECT_EQ(ReadFrom(bytes, panose), 10);
   EXPECT_EQ(panose.bFamilyType, 1);

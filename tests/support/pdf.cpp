@@ -1,5 +1,7 @@
 #include "support/pdf.h"
 
+#include <utility>
+
 #include <qpdf/QPDFPageObjectHelper.hh>
 
 #include "support/process.h"
@@ -29,6 +31,33 @@ std::string Pdf::Content(std::size_t index) const {
     content.append(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
   }
   return content;
+}
+
+namespace {
+
+class OperationCollector final : public QPDFObjectHandle::ParserCallbacks {
+ public:
+  void handleObject(QPDFObjectHandle object) override {
+    if (!object.isOperator()) {
+      operands_ += ' ' + object.unparse();
+      return;
+    }
+    operations.push_back({object.getOperatorValue(), std::exchange(operands_, {})});
+  }
+  void handleEOF() override {}
+
+  std::vector<Operation> operations;
+
+ private:
+  std::string operands_;
+};
+
+}  // namespace
+
+std::vector<Operation> Pdf::Operations(std::size_t index) const {
+  OperationCollector collector;
+  Page(index).parsePageContents(&collector);
+  return std::move(collector.operations);
 }
 
 std::string ComplaintsAbout(const std::string& pdfPath) {

@@ -3,11 +3,18 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
 namespace kelvane::test {
+
+/// An operator of a page's content with its operands, each after a blank: {"re", " 10 -60 20 40"}.
+struct Operation {
+  std::string op;
+  std::string operands;
+};
 
 /// A PDF read back by an independent library.
 class Pdf {
@@ -23,6 +30,9 @@ class Pdf {
 
   /// The page's content, decoded and joined.
   [[nodiscard]] std::string Content(std::size_t index = 0) const;
+
+  /// The page's content, taken apart by the independent library.
+  [[nodiscard]] std::vector<Operation> Operations(std::size_t index = 0) const;
 
   [[nodiscard]] QPDF& Document() const { return *document_; }
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "context/abstract_context.h"
+#include "platform/quartz/cg_trace_context.h"
+
+namespace kelvane::test {
+
+/// A playback context on a trace surface in the middle of a page, for records that change more than
+/// they draw.
+class SurfaceFixture : public testing::Test {
+ protected:
+  SurfaceFixture();
+
+  /// @return what was traced since the last call.
+  std::string TakeTrace();
+
+  [[nodiscard]] const CGGraphicsState& State() const { return context_.context->State(); }
+
+ private:
+  std::string trace_;
+  CFOwned<CGContext> surface_{CGTraceContextCreate(trace_)};
+
+ protected:
+  AbstractContext context_;
+};
+
+}  // namespace kelvane::test
