@@ -47,7 +47,10 @@ KELVANE_EXPORT CFMutableDataRef CFDataCreateMutable(CFAllocatorRef allocator, CF
 /* Returns the number of bytes held. data: not NULL. */
 KELVANE_EXPORT CFIndex CFDataGetLength(CFDataRef data);
 
-/* Returns the bytes, borrowed until the object changes or goes. data: not NULL. */
+/*
+ * Returns the bytes, borrowed until the object changes or goes; may be NULL when there are none.
+ * data: not NULL.
+ */
 KELVANE_EXPORT const unsigned char* CFDataGetBytePtr(CFDataRef data);
 
 /* Takes one more reference and returns the object. NULL is allowed. */
@@ -58,10 +61,11 @@ KELVANE_EXPORT void CFRelease(CFTypeRef object);
 
 /*
  * Converts a metafile in memory.
- * buffer: the metafile's bytes; may be NULL when length is 0. length: their number; 2 GiB or more
- * fails. output: the document is appended to it, one PDF of one page, or nothing when the
- * metafile's bounds have no area. Returns 0, or -1 when the conversion failed and output is as it
- * was.
+ * buffer: the metafile's bytes; may be NULL when length is 0.
+ * length: their number; 2 GiB or more fails.
+ * output: the document is appended to it, one PDF of one page, or nothing when the metafile's
+ * bounds have no area. NULL makes no document.
+ * Returns 0, or -1 when the conversion failed and output is as it was.
  */
 KELVANE_EXPORT int KELVANE(const unsigned char* buffer, unsigned long length,
                            CFMutableDataRef output);
@@ -69,9 +73,10 @@ KELVANE_EXPORT int KELVANE(const unsigned char* buffer, unsigned long length,
 /*
  * Converts a metafile in a file. The document is written beside it, under the same path with the
  * last three characters replaced by "pdf", whole or not at all; an older file of that name is
- * replaced. path: zero-terminated, at least three characters; the file system sees exactly its
- * bytes. Returns 0, or -1 when the input cannot be read or converted, has bounds without area, or
- * the output cannot be written.
+ * replaced.
+ * path: zero-terminated, at least three characters; the file system sees exactly its bytes.
+ * Returns 0, or -1 when the input cannot be read or converted, has bounds without area, or the
+ * output cannot be written.
  */
 KELVANE_EXPORT int ReadFromFile(const char* path);
 

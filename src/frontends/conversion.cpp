@@ -1,12 +1,15 @@
 #include "frontends/conversion.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "document/emf_file.h"
+#include "frontends/file_size_signal.h"
 #include "platform/corefoundation/cf_string.h"
 #include "platform/corefoundation/cf_url.h"
 #include "platform/quartz/cg_data_consumer.h"
@@ -45,6 +48,7 @@ void WriteFirstPage(CGPDFDocumentRef document, CFURLRef url) {
   if (page == nullptr) throw std::runtime_error("the metafile made no page");
   const CGRect box = CGPDFPageGetBoxRect(page, kCGPDFMediaBox);
 
+  const FileSizeSignalBlocked signalBlocked;
   const CFOwned<CGDataConsumer> consumer(CGDataConsumerCreateWithURL(url));
   if (!consumer) throw std::system_error(errno, std::generic_category(), "creating the document");
   const CFOwned<CGContext> surface(CGPDFContextCreate(consumer.get(), &box, nullptr));

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelvane {
@@ -17,11 +18,18 @@ constexpr auto kLargestBlock = static_cast<std::size_t>(std::numeric_limits<std:
   throw std::system_error(std::make_error_code(error), "reading the metafile");
 }
 
+// A character device has no length that could tell whether it ever ends; only an empty one is read.
+std::size_t LargestBlock(std::FILE* file) {
+  struct stat status {};
+  const bool isDevice = fstat(fileno(file), &status) == 0 && S_ISCHR(status.st_mode);
+  return isDevice ? 1 : kLargestBlock;
+}
+
 }  // namespace
 
 std::FILE* FileReader::setSource(const char* path) {
   file_.reset();
-  const int descriptor = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  const int descriptor = open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   if (descriptor < 0) return nullptr;
   file_.reset(fdopen(descriptor, "rb"));
   if (!file_) close(descriptor);
@@ -37,8 +45,8 @@ std::vector<unsigned char> FileReader::readBlock() {
   std::vector<unsigned char> block(CountAttempts());
   rewind();
   const std::size_t read = std::fread(block.data(), 1, block.size(), file_.get());
-  if (read != block.size() - 1)
-    Throw(std::errc::io_error);  // it failed, or changed while being read
+  const bool changedOrFailed = read != block.size() - 1;
+  if (changedOrFailed) Throw(std::errc::io_error);
   closeSource();
   return block;
 }
@@ -49,12 +57,13 @@ std::size_t FileReader::CountAttempts() const {
   if (std::fseek(file_.get(), 0, SEEK_END) != 0) Throw(std::errc::invalid_seek);
   if (getPosition() >= static_cast<long>(kLargestBlock)) Throw(std::errc::file_too_large);
   rewind();
+  const std::size_t largest = LargestBlock(file_.get());
   std::array<unsigned char, 65536> bytes;
   std::size_t count = 0;
   while (!isEnd()) {
     count += std::fread(bytes.data(), 1, bytes.size(), file_.get());
     if (std::ferror(file_.get()) != 0) Throw(std::errc::io_error);
-    if (count >= kLargestBlock) Throw(std::errc::file_too_large);
+    if (count >= largest) Throw(std::errc::file_too_large);
   }
   return count + 1;
 }

@@ -7,7 +7,8 @@
 
 namespace kelvane {
 
-/// A file read as it stands. It only serves to bring a whole metafile into memory.
+/// A file read as it stands. It only serves to bring a whole metafile into memory. Apart from
+/// opening, closing and readBlock, every call needs an open file.
 class FileReader {
  public:
   FileReader() = default;
@@ -29,8 +30,9 @@ class FileReader {
 
   /// Reads the whole file into a block one byte longer than the file: the read that meets the end
   /// counts as one more, and the spare byte lets every byte of the file be read from the block.
-  /// Throws std::system_error when the file is not open, cannot be rewound or cannot be read, or
-  /// when the block would be 2 GiB or more; std::bad_alloc.
+  /// Throws std::system_error when the file is not open, cannot be rewound or cannot be read, when
+  /// it is a device that supplies anything, or when the block would be 2 GiB or more;
+  /// std::bad_alloc.
   std::vector<unsigned char> readBlock();
 
  private:

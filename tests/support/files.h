@@ -24,6 +24,9 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
+/// The names in a folder, hidden ones too, in order.
+std::vector<std::string> NamesIn(const TemporaryFolder& folder);
+
 /// Throws std::runtime_error when the file cannot be read or written.
 std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, std::string_view text);

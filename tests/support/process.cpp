@@ -3,10 +3,18 @@
 #include <array>
 
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace kelvane::test {
+namespace {
+
+double Seconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+}  // namespace
 
 ProcessResult Run(const std::vector<std::string>& command) {
   std::array<int, 2> ends{};
@@ -36,10 +44,12 @@ ProcessResult Run(const std::vector<std::string>& command) {
     result.output.append(part.data(), static_cast<std::size_t>(count));
   }
   close(ends[0]);
+  if (error != 0) return result;
   int status = 0;
-  if (error == 0 && waitpid(child, &status, 0) == child && WIFEXITED(status)) {
-    result.status = WEXITSTATUS(status);
-  }
+  rusage usage{};
+  if (wait4(child, &status, 0, &usage) != child) return result;
+  if (WIFEXITED(status)) result.status = WEXITSTATUS(status);
+  result.processorSeconds = Seconds(usage.ru_utime) + Seconds(usage.ru_stime);
   return result;
 }
 

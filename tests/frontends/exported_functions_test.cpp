@@ -1,0 +1,223 @@
+#include <cstdint>
+#include <cstring>
+#include <filesystem>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <kelvane/kelvane.h>
+
+#include "support/files.h"
+#include "support/library.h"
+#include "support/metafile.h"
+#include "support/pdf.h"
+
+namespace kelvane::test {
+namespace {
+
+using Block = std::vector<unsigned char>;
+
+Block Lines() {
+  return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
+}
+
+Block WithoutArea() {
+  return Metafile().Bounds(5, 5, 5, 90).Polyline({{1, 2}, {3, 4}}).Build();
+}
+
+/// A metafile that ends with the last coordinate of a line's second point.
+Block EndingInAPoint() {
+  return Metafile().Polyline({{10, 20}, {30, 40}}).BuildWithoutEnd();
+}
+
+TEST(KELVANE, AppendsOneDocumentOfOnePage) {
+  const Conversion conversion = ConvertInMemory(Lines());
+  EXPECT_EQ(conversion.status, 0);
+  EXPECT_EQ(Pdf(conversion.output).PageCount(), 1U);
+}
+
+TEST(KELVANE, MakesADocumentWithoutFault) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "made.pdf", ConvertInMemory(Lines()).output);
+  EXPECT_EQ(ComplaintsAbout(folder / "made.pdf"), "");
+}
+
+TEST(KELVANE, AppendsBehindWhatIsThere) {
+  const std::string alone = ConvertInMemory(Lines()).output;
+  const std::string other = ConvertInMemory(Metafile().Build()).output;
+  const DataObject data;
+  KELVANE(Lines().data(), Lines().size(), data.Get());
+  KELVANE(Metafile().Build().data(), Metafile().Build().size(), data.Get());
+  EXPECT_EQ(data.Text(), alone + other);
+}
+
+/// A block that ends where memory ends: reading the byte behind `size` faults.
+class BlockAtTheEndOfMemory {
+ public:
+  explicit BlockAtTheEndOfMemory(const Block& bytes)
+      : pageSize_(static_cast<std::size_t>(sysconf(_SC_PAGESIZE))),
+        pages_(static_cast<unsigned char*>(mmap(nullptr, 2 * pageSize_, PROT_READ | PROT_WRITE,
+                                                MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))),
+        start_(pages_ + pageSize_ - bytes.size()) {
+    std::memcpy(start_, bytes.data(), bytes.size());
+    mprotect(pages_ + pageSize_, pageSize_, PROT_NONE);
+  }
+  BlockAtTheEndOfMemory(const BlockAtTheEndOfMemory&) = delete;
+  BlockAtTheEndOfMemory& operator=(const BlockAtTheEndOfMemory&) = delete;
+  ~BlockAtTheEndOfMemory() { munmap(pages_, 2 * pageSize_); }
+
+  [[nodiscard]] const unsigned char* Start() const { return start_; }
+
+ private:
+  std::size_t pageSize_;
+  unsigned char* pages_;
+  unsigned char* start_;
+};
+
+TEST(KELVANE, NeverTouchesTheLastByte) {
+  Block allButTheLast = Lines();
+  allButTheLast.pop_back();
+  const BlockAtTheEndOfMemory block(allButTheLast);
+  const DataObject data;
+  EXPECT_EQ(KELVANE(block.Start(), Lines().size(), data.Get()), 0);
+  EXPECT_EQ(data.Text(), ConvertInMemory(Lines()).output);
+}
+
+TEST(KELVANE, DropsThePointThatNeedsTheLastByte) {
+  EXPECT_EQ(Pdf(ConvertInMemory(EndingInAPoint()).output).Content().find("30 -40"),
+            std::string::npos);
+}
+
+TEST(KELVANE, ReadsTheLastPointWhenAByteFollows) {
+  Block metafile = EndingInAPoint();
+  metafile.push_back(0);
+  EXPECT_NE(Pdf(ConvertInMemory(metafile).output).Content().find("30 -40"), std::string::npos);
+}
+
+/// A metafile whose header, 108 bytes long, says that its description starts at `offset`.
+Block WithDescriptionAt(unsigned char offset) {
+  Block metafile = Lines();
+  metafile[64] = offset;
+  return metafile;
+}
+
+struct Garbage {
+  const char* name;
+  Block bytes;
+};
+
+class KelvaneGarbage : public testing::TestWithParam<Garbage> {};
+
+TEST_P(KelvaneGarbage, FailsAndLeavesTheOutputAsItWas) {
+  const DataObject data;
+  KELVANE(Lines().data(), Lines().size(), data.Get());
+  EXPECT_EQ(KELVANE(GetParam().bytes.data(), GetParam().bytes.size(), data.Get()), -1);
+  EXPECT_EQ(data.Text(), ConvertInMemory(Lines()).output);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , KelvaneGarbage,
+    testing::Values(Garbage{"NoBytes", {}}, Garbage{"OneByte", {1}},
+                    Garbage{"ThreeZeros", Block(3)},
+                    Garbage{"AnotherFirstRecord", Bytes().U32(2).Zeros(200).Data()},
+                    Garbage{"HeaderLongerThanTheData", Bytes().U32(1).U32(5000).Zeros(200).Data()},
+                    Garbage{"DescriptionBehindItsHeader", WithDescriptionAt(109)},
+                    Garbage{"TwoHundredBytesOfOnes", Block(200, 0xFF)}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(KELVANE, MakesNothingWithoutAnOutput) {
+  EXPECT_EQ(KELVANE(Lines().data(), Lines().size(), nullptr), 0);
+}
+
+TEST(KELVANE, TakesNoBufferForNoBytes) {
+  const DataObject data;
+  EXPECT_EQ(KELVANE(nullptr, 0, data.Get()), -1);
+}
+
+TEST(KELVANE, AppendsNothingForAPageWithoutArea) {
+  const Conversion conversion = ConvertInMemory(WithoutArea());
+  EXPECT_EQ(conversion.status, 0);
+  EXPECT_EQ(conversion.output, "");
+}
+
+class KelvaneLength : public testing::TestWithParam<std::uint64_t> {};
+
+// The lengths that look short in 32 bits are among them, and the buffer cannot be read.
+TEST_P(KelvaneLength, IsRefusedBeforeTheBufferIsTouched) {
+  const auto* const unreadable = reinterpret_cast<const unsigned char*>(std::uintptr_t{1});
+  const DataObject data;
+  EXPECT_EQ(KELVANE(unreadable, GetParam(), data.Get()), -1);
+  EXPECT_EQ(data.Text(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(, KelvaneLength,
+                         testing::Values(0x8000'0000U, 0xFFFF'FFFFU, 0x1'0000'0000U, 0x1'0000'0080U,
+                                         std::numeric_limits<std::uint64_t>::max()),
+                         testing::PrintToStringParamName());
+
+TEST(ReadFromFile, ReadsTheLastByteOfTheFile) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.emf", EndingInAPoint());
+  ASSERT_EQ(ReadFromFile((folder / "a.emf").c_str()), 0);
+  EXPECT_NE(Pdf(ReadFile(folder / "a.pdf")).Content().find("30 -40"), std::string::npos);
+}
+
+TEST(ReadFromFile, WritesThePageThatIsMadeInMemory) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.emf", Lines());
+  ASSERT_EQ(ReadFromFile((folder / "a.emf").c_str()), 0);
+  const Pdf written(ReadFile(folder / "a.pdf"));
+  const Pdf made(ConvertInMemory(Lines()).output);
+  EXPECT_EQ(written.Content(), made.Content());
+  EXPECT_EQ(written.MediaBox(), made.MediaBox());
+}
+
+TEST(ReadFromFile, FailsForAPageWithoutArea) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.emf", WithoutArea());
+  EXPECT_EQ(ReadFromFile((folder / "a.emf").c_str()), -1);
+  EXPECT_FALSE(std::filesystem::exists(folder / "a.pdf"));
+}
+
+TEST(CFDataCreateMutable, MakesAnEmptyObject) {
+  const DataObject data;
+  EXPECT_EQ(CFDataGetLength(data.Get()), 0);
+}
+
+TEST(CFDataCreateMutable, ReturnsNullWhenThereIsNoSuchMemory) {
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "the address sanitizer ends a program that asks for so much";
+#endif
+  EXPECT_EQ(CFDataCreateMutable(nullptr, std::numeric_limits<CFIndex>::max()), nullptr);
+}
+
+TEST(CFDataCreateMutable, TakesItsCapacityForNoLimit) {
+  CFMutableDataRef data = CFDataCreateMutable(nullptr, 1);
+  EXPECT_EQ(KELVANE(Lines().data(), Lines().size(), data), 0);
+  EXPECT_GT(CFDataGetLength(data), 1);
+  CFRelease(data);
+}
+
+TEST(CFRetain, KeepsTheObjectUntilItsLastReferenceGoes) {
+  CFMutableDataRef data = CFDataCreateMutable(nullptr, 0);
+  EXPECT_EQ(CFRetain(data), data);
+  KELVANE(Lines().data(), Lines().size(), data);
+  CFRelease(data);
+  EXPECT_EQ(CFDataGetBytePtr(data)[0], '%');
+  CFRelease(data);
+}
+
+TEST(CFRetain, AllowsNull) {
+  EXPECT_EQ(CFRetain(nullptr), nullptr);
+}
+
+TEST(CFRelease, AllowsNull) {
+  EXPECT_NO_FATAL_FAILURE(CFRelease(nullptr));
+}
+
+}  // namespace
+}  // namespace kelvane::test
