@@ -19,6 +19,7 @@
 #include "records/state_records.h"
 #include "records/transform_records.h"
 #include "records/unused_attribute_records.h"
+#include "text/text_records.h"
 
 namespace kelvane {
 namespace {
@@ -150,6 +151,10 @@ std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
       return std::make_unique<GDICommentRecord>();
     case EMR_EXTCREATEFONTINDIRECTW:
       return std::make_unique<ExtCreateFontIndirectWRecord>();
+    case EMR_EXTTEXTOUTA:
+      return std::make_unique<ExtTextOutRecord<char>>();
+    case EMR_EXTTEXTOUTW:
+      return std::make_unique<ExtTextOutRecord<std::uint16_t>>();
     case EMR_POLYBEZIER16:
       return MakePoly<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
     case EMR_POLYGON16:

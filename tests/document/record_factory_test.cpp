@@ -24,6 +24,7 @@
 #include "records/state_records.h"
 #include "records/transform_records.h"
 #include "records/unused_attribute_records.h"
+#include "text/text_records.h"
 
 namespace kelvane {
 namespace {
@@ -94,6 +95,8 @@ const std::map<std::uint32_t, const std::type_info*>& Classes() {
       {67, &typeid(SelectClipPathRecord)},
       {70, &typeid(GDICommentRecord)},
       {82, &typeid(ExtCreateFontIndirectWRecord)},
+      {83, &typeid(ExtTextOutRecord<char>)},
+      {84, &typeid(ExtTextOutRecord<std::uint16_t>)},
       {85, &typeid(PolybezierRecord<Point16>)},
       {86, &typeid(PolygonRecord<Point16>)},
       {87, &typeid(PolylineRecord<Point16>)},

@@ -80,7 +80,8 @@ std::unique_ptr<const Typeface> Typeface::StandardHelvetica() {
   const HarfBuzzOwned<hb_font_funcs_t> functions(hb_font_funcs_create());
   hb_font_funcs_set_nominal_glyph_func(functions.get(), StandardGlyph, nullptr, nullptr);
   hb_font_funcs_set_glyph_h_advance_func(functions.get(), StandardAdvance, nullptr, nullptr);
-  HarfBuzzOwned<hb_font_t> shaper(hb_font_create(hb_face_get_empty()));
+  const HarfBuzzOwned<hb_face_t> face(hb_face_create(hb_blob_get_empty(), 0));  // without tables
+  HarfBuzzOwned<hb_font_t> shaper(hb_font_create(face.get()));
   hb_font_set_scale(shaper.get(), kStandardUnitsPerEm, kStandardUnitsPerEm);
   hb_font_set_funcs(shaper.get(), functions.get(), nullptr, nullptr);
   return std::unique_ptr<const Typeface>(

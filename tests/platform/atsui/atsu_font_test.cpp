@@ -89,7 +89,7 @@ TEST_P(AFamilyOfSimilarMetrics, CountsAsNotInstalled) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, AFamilyOfSimilarMetrics,
-                         testing::Values("Helvetica", "Times", "Courier"));
+                         testing::Values("Helvetica", "Times"));
 
 TEST(TheDefaultFont, ComesClosestToHelvetica) {
   EXPECT_EQ(FaceOf(kDefaultFont), "LiberationSans");
