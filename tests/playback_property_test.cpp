@@ -156,6 +156,19 @@ std::vector<double> Mapped(const std::vector<double>& numbers, const std::vector
   return mapped;
 }
 
+/// A rectangle's corners as the figure that it stands for.
+std::vector<Step> Corners(const std::vector<double>& rectangle) {
+  const double x = rectangle[0];
+  const double y = rectangle[1];
+  const double right = x + rectangle[2];
+  const double top = y + rectangle[3];
+  return {{"move", {x, y}},
+          {"line", {right, y}},
+          {"line", {right, top}},
+          {"line", {x, top}},
+          {"close", {}}};
+}
+
 /// A page's content as steps of a trace. The points of a stroke under a transform are brought back
 /// to page space.
 std::vector<Step> StepsOf(const std::vector<test::Operation>& operations) {
@@ -177,6 +190,9 @@ std::vector<Step> StepsOf(const std::vector<test::Operation>& operations) {
       steps.push_back({kWords.at(op), Numbers(operands)});
     } else if (op == "Q") {
       transform.clear();
+    } else if (op == "re") {
+      for (const Step& side : Corners(Numbers(operands)))
+        steps.push_back({side.word, Mapped(side.numbers, transform)});
     } else {
       const std::string& word = kWords.at(op);
       steps.push_back({IsPath(word) ? word : word + " under",
@@ -199,17 +215,8 @@ void TakeRectanglesApart(std::vector<Step>& steps) {
       steps.push_back(step);
       continue;
     }
-    const double x = step.numbers[0];
-    const double y = step.numbers[1];
-    const double right = x + step.numbers[2];
-    const double top = y + step.numbers[3];
-    for (const Step& side : {Step{"move", {x, y}},
-                             {"line", {right, y}},
-                             {"line", {right, top}},
-                             {"line", {x, top}},
-                             {"close", {}}}) {
-      steps.push_back(side);
-    }
+    const std::vector<Step> corners = Corners(step.numbers);
+    steps.insert(steps.end(), corners.begin(), corners.end());
   }
 }
 

@@ -11,12 +11,6 @@
 namespace kelvane {
 namespace {
 
-// Records that overlap are read again and again. Real files stay far below this many bytes; it
-// keeps the time and memory of a parse proportional to the data.
-std::uint64_t ReadingBudget(std::int32_t blockSize) {
-  return 8 * static_cast<std::uint64_t>(blockSize) + (std::uint64_t{16} << 20);
-}
-
 // Declared sizes of 0 and 4 lead back to the record's own first fields, where parsing would never
 // end.
 bool LeadsNowhere(const Record& record, std::int64_t position, std::int64_t typeEnd) {
@@ -48,7 +42,7 @@ void EMFFile::CheckPosition() const {
   if (reader.getPosition() >= reader.bufferReaderSize()) {
     throw std::runtime_error("a record leads past the end of the metafile");
   }
-  if (reader.CheckedBytes() > ReadingBudget(reader.bufferReaderSize())) {
+  if (reader.CheckedBytes() > reader.ByteBudget()) {
     throw std::runtime_error("the records of the metafile overlap");
   }
 }

@@ -1,5 +1,6 @@
 #include "document/record_factory.h"
 
+#include "bitmap/bitmap_records.h"
 #include "document/record_type.h"
 #include "document/skipped_records.h"
 #include "objects/brush_records.h"
@@ -151,6 +152,10 @@ std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
       return std::make_unique<GDICommentRecord>();
     case EMR_EXTCREATEFONTINDIRECTW:
       return std::make_unique<ExtCreateFontIndirectWRecord>();
+    case EMR_BITBLT:
+      return std::make_unique<BitBltRecord>();
+    case EMR_STRETCHDIBITS:
+      return std::make_unique<StretchDibitsRecord>();
     case EMR_EXTTEXTOUTA:
       return std::make_unique<ExtTextOutRecord<char>>();
     case EMR_EXTTEXTOUTW:

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <span>
 
 namespace kelvane {
 
@@ -50,9 +52,20 @@ class BufferReader {
     } else if (available == count) {
       std::memcpy(destination, source, count);
     } else {
-      std::memcpy(destination, source, available);
+      for (unsigned long i = 0; i < available; ++i)
+        destination[i] = source[i];
     }
     position_ += static_cast<std::int64_t>(available);
+  }
+
+  /// Lends the next `count` bytes, or as many as can still be read, and moves past them. They are
+  /// in file order on any host, and valid as long as the block.
+  [[nodiscard]] std::span<const unsigned char> TakeBytes(std::size_t count) {
+    const std::size_t available = std::min<std::size_t>(count, Remaining());
+    if (available == 0) return {};
+    const std::span<const unsigned char> bytes(start_ + position_, available);
+    position_ += static_cast<std::int64_t>(available);
+    return bytes;
   }
 
  private:

@@ -16,4 +16,10 @@ bool Reader::FinishChecking(std::uint32_t expected) {
   return sizeDifference_ == 0;
 }
 
+bool Reader::ClaimDecodedBytes(std::uint64_t count) {
+  if (count > ByteBudget() - decodedBytes_) return false;
+  decodedBytes_ += count;
+  return true;
+}
+
 }  // namespace kelvane

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <span>
 #include <type_traits>
 #include <vector>
 
@@ -36,6 +37,11 @@ class Reader {
   /// Reads one scalar of 1, 2 or 4 bytes; see BufferReader::GetBytes.
   void GetBytes(unsigned char* destination, unsigned long count) {
     source_.GetBytes(destination, count);
+  }
+
+  /// Lends the next bytes and moves past them; see BufferReader::TakeBytes.
+  [[nodiscard]] std::span<const unsigned char> TakeBytes(std::size_t count) {
+    return source_.TakeBytes(count);
   }
 
   /// Reads one integer, enumeration or float of its own width.
@@ -108,11 +114,25 @@ class Reader {
   ///         is what gives a file of overlapping records away.
   [[nodiscard]] std::uint64_t CheckedBytes() const { return checkedBytes_; }
 
+  /// @return bytes: the most that one parse of this block may read in all, and the most that its
+  /// bitmaps may decode
+  ///         to in all. Real files stay far below; it keeps time and memory in proportion to the
+  ///         data.
+  [[nodiscard]] std::uint64_t ByteBudget() const {
+    return 8 * static_cast<std::uint64_t>(bufferReaderSize()) + (std::uint64_t{16} << 20);
+  }
+
+  /// Takes `count` bytes out of the budget that all decoded bitmaps of this parse share.
+  /// @return false, and nothing taken, when that many are not left: what was to be decoded must not
+  /// be.
+  [[nodiscard]] bool ClaimDecodedBytes(std::uint64_t count);
+
  private:
   BufferReader source_;
   std::deque<unsigned int> checks_;
   std::uint32_t sizeDifference_ = 0;
   std::uint64_t checkedBytes_ = 0;
+  std::uint64_t decodedBytes_ = 0;  // claimed; never more than the budget
 };
 
 }  // namespace kelvane

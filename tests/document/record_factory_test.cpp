@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "bitmap/bitmap_records.h"
 #include "document/skipped_records.h"
 #include "objects/brush_records.h"
 #include "objects/font_records.h"
@@ -94,6 +95,8 @@ const std::map<std::uint32_t, const std::type_info*>& Classes() {
       {64, &typeid(FillPathRecord)},
       {67, &typeid(SelectClipPathRecord)},
       {70, &typeid(GDICommentRecord)},
+      {76, &typeid(BitBltRecord)},
+      {81, &typeid(StretchDibitsRecord)},
       {82, &typeid(ExtCreateFontIndirectWRecord)},
       {83, &typeid(ExtTextOutRecord<char>)},
       {84, &typeid(ExtTextOutRecord<std::uint16_t>)},

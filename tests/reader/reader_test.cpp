@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/bytes.h"
@@ -10,6 +11,7 @@ namespace kelvane {
 namespace {
 
 using test::Bytes;
+using testing::ElementsAre;
 
 /// A reader over bytes that it keeps.
 class ReaderOver {
@@ -75,6 +77,34 @@ TEST(BufferReader, ReadsNothingOutsideTheBlock) {
 
 TEST(BufferReader, IsBigEndianOnNoHost) {
   EXPECT_FALSE(isBigEndian());
+}
+TEST(Reader, LendsTheNextBytesAndMovesPastThem) {
+  ReaderOver reader(Bytes().U8(1).U8(2).U8(3).U8(0));
+  EXPECT_THAT(reader->TakeBytes(2), ElementsAre(1, 2));
+  EXPECT_EQ(reader->getPosition(), 2);
+}
+
+TEST(Reader, LendsNoMoreBytesThanCanBeRead) {
+  ReaderOver reader(Bytes().U8(1).U8(2).U8(3));
+  EXPECT_THAT(reader->TakeBytes(0xFFFFFFFF), ElementsAre(1, 2));
+  EXPECT_TRUE(reader->isEnd());
+}
+
+TEST(Reader, LendsNothingFromOutsideTheBlock) {
+  ReaderOver reader(Bytes().U32(1));
+  reader->setToPosition(1000);
+  EXPECT_TRUE(reader->TakeBytes(1).empty());
+  EXPECT_EQ(reader->getPosition(), 1000);
+}
+
+TEST(Reader, SharesOneBudgetAmongAllThatIsDecoded) {
+  constexpr std::uint64_t kBudget = 8 * 10 + 16 * 1024 * 1024;
+  ReaderOver reader(Bytes().Zeros(10));
+  EXPECT_FALSE(reader->ClaimDecodedBytes(kBudget + 1));
+  EXPECT_TRUE(reader->ClaimDecodedBytes(kBudget - 4));
+  EXPECT_FALSE(reader->ClaimDecodedBytes(5));
+  EXPECT_TRUE(reader->ClaimDecodedBytes(4));
+  EXPECT_FALSE(reader->ClaimDecodedBytes(1));
 }
 
 TEST(Reader, DecodesLittleEndian) {

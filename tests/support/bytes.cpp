@@ -8,6 +8,17 @@ Bytes& Bytes::F32(float value) {
   return U32(std::bit_cast<std::uint32_t>(value));
 }
 
+Bytes& Bytes::BitmapHeader(const BitmapFields& fields) {
+  I32(40).I32(fields.width).I32(fields.height).U16(1).U16(fields.bitCount);
+  return U32(fields.compression).U32(0).I32(0).I32(0).U32(fields.colorsUsed).U32(0);
+}
+
+Bytes& Bytes::Each(std::initializer_list<std::uint32_t> bytes) {
+  for (const std::uint32_t byte : bytes)
+    U8(byte);
+  return *this;
+}
+
 Bytes& Bytes::Utf16(std::u16string_view text) {
   for (const char16_t unit : text)
     U16(unit);

@@ -7,6 +7,15 @@
 
 namespace kelvane::test {
 
+/// What varies in a BITMAPINFOHEADER.
+struct BitmapFields {
+  std::int32_t width = 1;
+  std::int32_t height = 1;
+  std::uint32_t bitCount = 24;
+  std::uint32_t compression = 0;  // BI_RGB
+  std::uint32_t colorsUsed = 0;
+};
+
 /// Bytes written readably, little-endian, in the order of the calls.
 class Bytes {
  public:
@@ -21,6 +30,11 @@ class Bytes {
   Bytes& Rectangle(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) {
     return I32(left).I32(top).I32(right).I32(bottom);
   }
+  Bytes& BitmapHeader(const BitmapFields& fields);                            // BITMAPINFOHEADER
+  Bytes& Color(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {  // RGBQuad
+    return U8(blue).U8(green).U8(red).U8(0);
+  }
+  Bytes& Each(std::initializer_list<std::uint32_t> bytes);  // one byte each
   Bytes& Utf16(std::u16string_view text);
   Bytes& Zeros(std::size_t count);
   Bytes& Append(const std::vector<unsigned char>& more);

@@ -119,6 +119,29 @@ Metafile& Metafile::AngleArc(At centre, std::uint32_t radius, float startDegrees
                 Bytes().PointL(centre.x, centre.y).U32(radius).F32(startDegrees).F32(sweepDegrees));
 }
 
+Metafile& Metafile::BitBlt(At origin, At size, std::uint32_t rop, const Bytes& bits) {
+  constexpr std::uint32_t kFixedSize = 100;
+  const Bytes header = bits.Size() == 0 ? Bytes() : Bytes().BitmapHeader({});
+  const auto headerSize = static_cast<std::uint32_t>(header.Size());
+  Bytes body;
+  body.Rectangle(0, 0, -1, -1).PointL(origin.x, origin.y).PointL(size.x, size.y).U32(rop);
+  body.PointL(0, 0).F32(1).F32(0).F32(0).F32(1).F32(0).F32(0).U32(0).U32(0);
+  body.U32(kFixedSize).U32(headerSize).U32(kFixedSize + headerSize);
+  body.U32(static_cast<std::uint32_t>(bits.Size())).Append(header.Data()).Append(bits.Data());
+  return Record(Number(RecordType::EMR_BITBLT), body);
+}
+
+Metafile& Metafile::StretchDibits(const RectangleL& bounds, const Bytes& bitmap, std::uint32_t rop,
+                                  std::int32_t cyDest) {
+  constexpr std::uint32_t kFixedSize = 80;
+  const auto bitmapSize = static_cast<std::uint32_t>(bitmap.Size());
+  Bytes body = Box(bounds);
+  body.PointL(1000, 2000).PointL(1, 2).PointL(3, 4);
+  body.U32(kFixedSize).U32(40).U32(kFixedSize + 40).U32(bitmapSize - 40).U32(0);
+  body.U32(rop).PointL(7, cyDest).Append(bitmap.Data());
+  return Record(Number(RecordType::EMR_STRETCHDIBITS), body);
+}
+
 Metafile& Metafile::Record(std::uint32_t type, const Bytes& body) {
   Bytes padded = body;
   padded.Zeros((4 - body.Size() % 4) % 4);

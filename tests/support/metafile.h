@@ -30,6 +30,10 @@ inline constexpr std::uint32_t kStockWhitePen = 0x80000006;
 inline constexpr std::uint32_t kStockBlackPen = 0x80000007;
 inline constexpr std::uint32_t kStockNullPen = 0x80000008;
 
+/// Ternary raster operations.
+inline constexpr std::uint32_t kSrcCopy = 0x00CC0020;
+inline constexpr std::uint32_t kPatCopy = 0x00F00021;
+
 /// What a font is created with; everything else is 0.
 struct FontAttributes {
   std::u16string face = u"Liberation Sans";
@@ -103,6 +107,14 @@ class Metafile {
   Metafile& CreateBrush(std::uint32_t index, std::uint32_t color);
   Metafile& SelectObject(std::uint32_t index);
   Metafile& DeleteObject(std::uint32_t index);
+  /// A rectangle painted with the brush, or with a source bitmap's bits: a 24-bit header and what
+  /// `bits` holds.
+  Metafile& BitBlt(At origin, At size, std::uint32_t rop = kPatCopy, const Bytes& bits = {});
+
+  /// A bitmap (header, colours, pixels) with bounds. The source rectangle and the destination, but
+  /// for its height, are anything but the bounds.
+  Metafile& StretchDibits(const RectangleL& bounds, const Bytes& bitmap,
+                          std::uint32_t rop = kSrcCopy, std::int32_t cyDest = 9);
 
   Metafile& CreateFont(std::uint32_t index, const FontAttributes& font);
   Metafile& SetTextAlign(std::uint32_t align);

@@ -15,6 +15,12 @@ ParsedMetafile::ParsedMetafile(std::vector<unsigned char> bytes)
   file_.ParseEMFFile();
 }
 
+TracedPage::TracedPage() : surface_(CGTraceContextCreate(trace_)) {
+  const CGRect box = {{0, 0}, {100, 100}};
+  CGContextBeginPage(surface_.get(), &box);
+  context_.context = surface_.get();
+}
+
 std::string FullTrace(const Metafile& metafile) {
   ParsedMetafile parsed(metafile.Build());
   std::string trace;

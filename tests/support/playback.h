@@ -25,6 +25,23 @@ class ParsedMetafile {
   EMFFile file_;
 };
 
+/// A page to draw on by hand, traced.
+class TracedPage {
+ public:
+  TracedPage();
+
+  /// A fresh context, drawing on the page.
+  [[nodiscard]] AbstractContext& Context() { return context_; }
+
+  /// What was drawn so far, without the page's first line.
+  [[nodiscard]] std::string Trace() const { return trace_.substr(trace_.find('\n') + 1); }
+
+ private:
+  std::string trace_;
+  CFOwned<CGContext> surface_;
+  AbstractContext context_;
+};
+
 /// @return the trace of the whole playback, page lines included.
 std::string FullTrace(const Metafile& metafile);
 
@@ -37,15 +54,28 @@ std::string ConvertToPdf(const std::vector<unsigned char>& metafile);
 /// @return the decoded content stream of the page that the metafile makes.
 std::string PageContent(const Metafile& metafile);
 
+/// Has `target` read itself from bytes every one of which can be read.
+template <class T>
+void ReadInto(T& target, const Bytes& bytes) {
+  std::vector<unsigned char> block = bytes.Data();
+  block.push_back(0);
+  Reader reader(block.data(), static_cast<std::int32_t>(block.size()));
+  target.read(reader);
+}
+
+/// Reads a structure embedded in records. @param structure  what it holds before.
+template <class T>
+T ReadStructure(const Bytes& bytes, T structure = {}) {
+  ReadInto(structure, bytes);
+  return structure;
+}
+
 /// Reads a record's body, the part behind type and size, which is all that `read` sees.
 template <class R, class... Arguments>
 std::unique_ptr<R> ReadRecord(const Bytes& body, Arguments&&... arguments) {
-  std::vector<unsigned char> block = body.Data();
-  block.push_back(0);  // so that every byte can be read
-  Reader reader(block.data(), static_cast<std::int32_t>(block.size()));
   auto record = std::make_unique<R>(std::forward<Arguments>(arguments)...);
   record->size = static_cast<std::uint32_t>(8 + body.Size());
-  record->read(reader);
+  ReadInto(*record, body);
   return record;
 }
 

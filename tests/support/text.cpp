@@ -1,8 +1,10 @@
 #include "support/text.h"
 
 #include <array>
+#include <vector>
 
 #include "platform/atsui/atsu_font.h"
+#include "platform/quartz/cg_standard_font.h"
 
 namespace kelvane::test {
 namespace {
@@ -81,6 +83,19 @@ void DrawUnits(CGContextRef surface, std::u16string_view text, float advance,
                  ToFixed(setting.y));
     x += advance;
   }
+}
+
+void DrawHelvetica(CGContextRef surface, std::u16string_view text, CGFloat size,
+                   const CGAffineTransform& matrix) {
+  const CGFontRef font = CGFontGetStandardHelvetica();
+  std::vector<CGPositionedGlyph> glyphs;
+  CGPoint pen;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const CGGlyph glyph = WinAnsiCode(text[i]).value();
+    glyphs.push_back({glyph, pen, text.substr(i, 1)});
+    pen.x += font->Advance(glyph) * size;
+  }
+  surface->DrawGlyphRun({font, size, matrix, glyphs});
 }
 
 }  // namespace kelvane::test

@@ -9,7 +9,7 @@
 #include "support/fonts.h"
 #include "support/pdf.h"
 #include "support/playback.h"
-#include "support/surfaces.h"
+#include "support/surface.h"
 
 // Metafiles with text, all the way to documents.
 
@@ -18,6 +18,7 @@ namespace {
 
 using test::ConvertToPdf;
 using test::FontAttributes;
+using test::FontsIn;
 using test::Metafile;
 using test::TextIn;
 using testing::ContainsRegex;
@@ -62,12 +63,6 @@ std::string ConvertElsewhere(const Metafile& metafile) {
   return test::ReadFile(folder / "text.pdf");
 }
 
-std::string FontList(const std::string& pdf) {
-  const test::TemporaryFolder folder;
-  test::WriteFile(folder / "text.pdf", pdf);
-  return test::Run({"pdffonts", folder / "text.pdf"}).output;
-}
-
 TEST(ATextDocument, GivesItsLinesBackAsTheyWereWritten) {
   Metafile metafile = Page();
   AddLine(metafile, {10, 20}, u"The quick brown fox");
@@ -103,7 +98,7 @@ TEST(ATextDocument, EmbedsASubsetOfEveryFont) {
                                 .CreateFont(2, {.face = u"Junction"})
                                 .SelectObject(2)
                                 .TextOut({10, 40}, u"Compact", Even(7, 6));
-  const std::string fonts = FontList(ConvertToPdf(metafile.Build()));
+  const std::string fonts = FontsIn(ConvertToPdf(metafile.Build()));
   for (const char* name : {"LiberationSans", "WenQuanYiMicroHei", "DejaVuSans", "Junction"}) {
     EXPECT_THAT(fonts, ContainsRegex("\\+" + std::string(name) + ".* yes yes yes"));
   }
@@ -220,7 +215,7 @@ class WithoutFonts : public testing::Test {
 };
 
 TEST_F(WithoutFonts, TextIsSetInTheStandardHelvetica) {
-  const std::string fonts = FontList(ConvertElsewhere(Page().TextOut({10, 20}, u"Hi", {7, 7})));
+  const std::string fonts = FontsIn(ConvertElsewhere(Page().TextOut({10, 20}, u"Hi", {7, 7})));
   EXPECT_THAT(fonts, ContainsRegex("\nHelvetica +Type 1 +WinAnsi +no +no +no"));
 }
 

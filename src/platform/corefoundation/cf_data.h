@@ -20,8 +20,8 @@ using CFMutableDataRef = CFData*;
 /// @return an empty data object owned by the caller. Throws std::bad_alloc.
 CFMutableDataRef CFDataCreateMutable(CFAllocatorRef allocator, CFIndex capacity);
 
-/// Appends a copy of the bytes. A length of 0 or less appends nothing. Throws std::bad_alloc, and
-/// then the data is as it was.
+/// Appends a copy of the bytes, which must not be the data's own. A length of 0 or less appends
+/// nothing. Throws std::bad_alloc, and then the data is as it was.
 void CFDataAppendBytes(CFMutableDataRef data, const unsigned char* bytes, CFIndex length);
 
 /// Cuts the data to `length` bytes, or extends it with zeros. Throws std::bad_alloc.

@@ -46,18 +46,7 @@ void CGContext::ConcatCTM(const CGAffineTransform& transform) {
 }
 
 void CGContext::AddRect(const CGRect& rect) {
-  const CGAffineTransform& m = state_.ctm;
-  if (m.b == 0 && m.c == 0) {
-    path_.AddRectangle(ToPage(rect.origin), {rect.size.width * m.a, rect.size.height * m.d});
-    return;
-  }
-  const CGFloat right = rect.origin.x + rect.size.width;
-  const CGFloat top = rect.origin.y + rect.size.height;
-  path_.MoveTo(ToPage(rect.origin));
-  path_.LineTo(ToPage({right, rect.origin.y}));
-  path_.LineTo(ToPage({right, top}));
-  path_.LineTo(ToPage({rect.origin.x, top}));
-  path_.Close();
+  path_.AddMappedRectangle(rect, state_.ctm);
 }
 
 void CGContext::AddEllipseInRect(const CGRect& rect) {
@@ -70,7 +59,7 @@ void CGContext::AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFlo
 }
 
 CGPoint CGContext::PathCurrentPoint() const {
-  return ToUserSpace(path_.CurrentPoint());
+  return path_.IsEmpty() ? CGPoint{} : ToUserSpace(path_.CurrentPoint());
 }
 
 void CGContext::DrawPath(CGPathDrawingMode mode) {
@@ -154,11 +143,11 @@ void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components) {
 }
 
 void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
-  c->State().lineWidth = width;
+  c->State().lineWidth = width < 0 ? 0 : width;
 }
 
 void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
-  c->State().miterLimit = limit;
+  if (!std::isnan(limit)) c->State().miterLimit = limit;
 }
 
 void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,

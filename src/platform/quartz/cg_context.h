@@ -165,7 +165,7 @@ inline void CGContextAddEllipseInRect(CGContextRef c, const CGRect& rect) {
 inline void CGContextClosePath(CGContextRef c) {
   c->ClosePath();
 }
-/// @return the current point in user space; that of an empty path is (0, 0) on the page.
+/// @return the current point in user space; (0, 0) for an empty path.
 inline CGPoint CGContextGetPathCurrentPoint(CGContextRef c) {
   return c->PathCurrentPoint();
 }
@@ -189,8 +189,11 @@ void CGContextSetStrokeColorSpace(CGContextRef c, CGColorSpaceRef space);
 void CGContextSetFillColor(CGContextRef c, const CGFloat* components);
 /// @param components  as many as the stroke colour space has, from 0 to 1, then alpha.
 void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components);
-/// @param width  user space units; 0 is the thinnest line the output has.
+/// @param width  user space units; 0, and anything below, is the thinnest line the output has.
+/// Strokes of a width
+///               that is not finite are left out.
 void CGContextSetLineWidth(CGContextRef c, CGFloat width);
+/// @param limit  how many line widths a mitred corner may reach; not-a-number changes nothing.
 void CGContextSetMiterLimit(CGContextRef c, CGFloat limit);
 
 inline void CGContextSetTextMatrix(CGContextRef c, const CGAffineTransform& matrix) {

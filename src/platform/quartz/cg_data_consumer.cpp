@@ -26,7 +26,9 @@ class DataConsumer final : public CGDataConsumer {
   void Commit() override { committedLength_ = data_->bytes.size(); }
 
  private:
-  ~DataConsumer() override { data_->bytes.resize(committedLength_); }
+  ~DataConsumer() override {
+    if (data_->bytes.size() > committedLength_) data_->bytes.resize(committedLength_);
+  }
 
   CFOwned<CFData> data_;
   std::size_t committedLength_;

@@ -16,7 +16,8 @@ class CGDataConsumer : public CFObject {
   /// Throws std::bad_alloc or std::system_error; the document is then abandoned.
   virtual void Write(std::span<const unsigned char> bytes) = 0;
 
-  /// Makes what was written count. Throws std::system_error.
+  /// Makes what was written count. Called once, and nothing is written afterwards. Throws
+  /// std::system_error.
   virtual void Commit() = 0;
 };
 

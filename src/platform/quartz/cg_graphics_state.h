@@ -75,4 +75,11 @@ constexpr bool Strokes(CGPathDrawingMode mode) {
   return mode >= kCGPathStroke;
 }
 
+constexpr bool Fills(CGTextDrawingMode mode) {
+  return mode == kCGTextFill || mode == kCGTextFillStroke;
+}
+constexpr bool Strokes(CGTextDrawingMode mode) {
+  return mode == kCGTextStroke || mode == kCGTextFillStroke;
+}
+
 }  // namespace kelvane

@@ -7,16 +7,14 @@ void CGPath::MoveTo(CGPoint point) {
     elements_.pop_back();
     points_.pop_back();
   }
-  Append(Element::kMove);
-  Append(point);
+  Append(Element::kMove, {point});
   subpathStart_ = currentPoint_ = point;
 }
 
 void CGPath::LineTo(CGPoint point) {
   if (IsEmpty()) return MoveTo(point);
   ReopenSubpath();
-  Append(Element::kLine);
-  Append(point);
+  Append(Element::kLine, {point});
   currentPoint_ = point;
   hasSegments_ = true;
 }
@@ -24,10 +22,7 @@ void CGPath::LineTo(CGPoint point) {
 void CGPath::CurveTo(CGPoint control1, CGPoint control2, CGPoint end) {
   if (IsEmpty()) return MoveTo(end);
   ReopenSubpath();
-  Append(Element::kCurve);
-  Append(control1);
-  Append(control2);
-  Append(end);
+  Append(Element::kCurve, {control1, control2, end});
   currentPoint_ = end;
   hasSegments_ = true;
 }
@@ -36,7 +31,7 @@ void CGPath::Close() {
   if (IsEmpty()) return;
   const Element last = elements_.back();
   if (last != Element::kLine && last != Element::kCurve) return;
-  Append(Element::kClose);
+  Append(Element::kClose, {});
   currentPoint_ = subpathStart_;
 }
 
@@ -45,11 +40,45 @@ void CGPath::AddRectangle(CGPoint corner, CGSize size) {
     elements_.pop_back();
     points_.pop_back();
   }
-  Append(Element::kRectangle);
-  Append(corner);
-  Append({size.width, size.height});
+  Append(Element::kRectangle, {corner, {size.width, size.height}});
   subpathStart_ = currentPoint_ = corner;
   hasSegments_ = true;
+}
+
+void CGPath::AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform) {
+  const auto map = [&](CGFloat x, CGFloat y) {
+    return CGPointApplyAffineTransform({x, y}, transform);
+  };
+  const auto [x, y] = rect.origin;
+  const auto [width, height] = rect.size;
+  if (transform.b == 0 && transform.c == 0) {
+    return AddRectangle(map(x, y), {width * transform.a, height * transform.d});
+  }
+  MoveTo(map(x, y));
+  LineTo(map(x + width, y));
+  LineTo(map(x + width, y + height));
+  LineTo(map(x, y + height));
+  Close();
+}
+
+CGPath CGPath::Mapped(const CGAffineTransform& transform) const {
+  const auto map = [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); };
+  CGPath mapped;
+  ForEach([&](Element element, const CGPoint* points) {
+    switch (element) {
+      case Element::kMove:
+        return mapped.MoveTo(map(points[0]));
+      case Element::kLine:
+        return mapped.LineTo(map(points[0]));
+      case Element::kCurve:
+        return mapped.CurveTo(map(points[0]), map(points[1]), map(points[2]));
+      case Element::kRectangle:
+        return mapped.AddMappedRectangle({points[0], {points[1].x, points[1].y}}, transform);
+      case Element::kClose:
+        return mapped.Close();
+    }
+  });
+  return mapped;
 }
 
 void CGPath::Clear() {
@@ -60,13 +89,17 @@ void CGPath::Clear() {
   finite_ = true;
 }
 
-void CGPath::Append(Element element) {
-  elements_.push_back(element);
-}
-
-void CGPath::Append(CGPoint point) {
-  finite_ = finite_ && kelvane::IsFinite(point);
-  points_.push_back(point);
+// Elements and their points stay in step even when memory runs out between the two.
+void CGPath::Append(Element element, std::initializer_list<CGPoint> points) {
+  points_.insert(points_.end(), points);
+  try {
+    elements_.push_back(element);
+  } catch (...) {
+    points_.resize(points_.size() - points.size());
+    throw;
+  }
+  for (const CGPoint point : points)
+    finite_ = finite_ && kelvane::IsFinite(point);
 }
 
 // Output formats leave open where a segment after a closed subpath starts; a move says it.

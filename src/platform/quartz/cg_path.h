@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include "platform/quartz/cg_geometry.h"
@@ -36,6 +37,12 @@ class CGPath {
 
   /// Adds a closed rectangle; afterwards the current point is its corner.
   void AddRectangle(CGPoint corner, CGSize size);
+
+  /// Adds a rectangle as `transform` leaves it: whole, or four lines where it turns or shears.
+  void AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform);
+
+  /// @return the path with every point mapped.
+  [[nodiscard]] CGPath Mapped(const CGAffineTransform& transform) const;
 
   /// Empties the path and keeps its memory for the next one.
   void Clear();
@@ -80,8 +87,7 @@ class CGPath {
   }
 
  private:
-  void Append(Element element);
-  void Append(CGPoint point);
+  void Append(Element element, std::initializer_list<CGPoint> points);
   void ReopenSubpath();
   [[nodiscard]] bool OpenMoveAtEnd() const {
     return !elements_.empty() && elements_.back() == Element::kMove;

@@ -13,18 +13,23 @@
 namespace kelvane {
 namespace {
 
+bool IsUsable(const CGRect& box) {
+  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
+}
+
 /// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an
 /// uneven transform is wrapped in that transform.
 class CGPDFContext final : public CGContext, private CGStateWriter {
  public:
-  explicit CGPDFContext(CGDataConsumerRef consumer)
-      : consumer_(CFShare(consumer)), content_([this](std::string_view piece) {
-          contents_.push_back(writer_.AddStream(piece));
-        }) {}
+  CGPDFContext(CGDataConsumerRef consumer, const CGRect& documentBox)
+      : consumer_(CFShare(consumer)),
+        documentBox_(documentBox),
+        content_(
+            [this](std::string_view piece) { contents_.push_back(writer_.AddStream(piece)); }) {}
 
   void Close() override {
     EndPage();
-    writer_.Write(*consumer_);
+    if (const auto consumer = std::move(consumer_)) writer_.Write(*consumer);
   }
 
  private:
@@ -37,8 +42,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   ~CGPDFContext() override = default;
 
   void PageBegins(const CGRect& mediaBox) override {
-    mediaBox_ = mediaBox;
-    page_ = writer_.AddPage(mediaBox);
+    mediaBox_ = IsUsable(mediaBox) ? mediaBox : documentBox_;
+    page_ = writer_.AddPage(mediaBox_);
     xobjects_ = {};
     fonts_ = {};
     StartPage();
@@ -52,6 +57,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     }
     FinishPage();
     content_.Finish();
+    if (contents_.empty()) return;
     page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
                                                         : QPDFObjectHandle::newArray(contents_));
     contents_.clear();
@@ -67,7 +73,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     }
     content_.Save();
     content_.Concat(stroke.transform);
-    content_.Path(path, stroke.inverse);
+    content_.Path(path.Mapped(stroke.inverse));
     content_.Paint(mode);
     content_.Restore();
   }
@@ -85,7 +91,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
       pending_ = PendingPage{CFShare(page.document), &page};
       return;
     }
-    BeginMark({});
+    DrawPending();
     DrawForm(page, matrix);
   }
 
@@ -104,16 +110,23 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     return contents_.empty() && content_.IsEmpty() && Clips().empty();
   }
 
-  // A page that does not stay alone becomes a form, drawn before what follows.
   void BeginMark(CGStateNeeds needs) {
-    if (pending_) {
-      const PendingPage first = *std::exchange(pending_, std::nullopt);
-      DrawForm(*first.page, {});
-    }
+    DrawPending();
     Prepare(State(), Clips(), needs);
   }
 
+  // A page that does not stay alone becomes a form, drawn before what follows. No clip was in
+  // effect then.
+  void DrawPending() {
+    if (!pending_) return;
+    const PendingPage first = *std::exchange(pending_, std::nullopt);
+    DrawXObject(NameOf(writer_.AddForm(*first.page), "/XObject", "/Fm", xobjects_), {});
+  }
+
+  // A form starts with the state that it is drawn in, and a page counts on starting with a fresh
+  // one.
   void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
+    Prepare(CGGraphicsState{}, Clips(), {.fill = true, .stroke = true, .text = true});
     DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
   }
 
@@ -153,7 +166,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   void WriteMiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
   void WriteTextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
 
-  CFOwned<CGDataConsumer> consumer_;
+  CFOwned<CGDataConsumer> consumer_;  // null once the document is written
+  CGRect documentBox_;
   PdfWriter writer_;
   CGRect mediaBox_;
   QPDFObjectHandle page_;
@@ -164,16 +178,12 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   std::optional<PendingPage> pending_;
 };
 
-bool IsUsable(const CGRect& box) {
-  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
-}
-
 }  // namespace
 
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
                                 CFDictionaryRef /*auxiliaryInfo*/) {
   if (consumer == nullptr || mediaBox == nullptr || !IsUsable(*mediaBox)) return nullptr;
-  return new CGPDFContext(consumer);
+  return new CGPDFContext(consumer, *mediaBox);
 }
 
 void CGPDFContextClose(CGContextRef context) {

@@ -11,7 +11,8 @@ using CFDictionaryRef = const CFDictionary*;
 
 /// Makes a surface that records into a PDF document.
 /// @param consumer  where the document goes when it is closed; retained.
-/// @param mediaBox  the page box of the document, in points.
+/// @param mediaBox  the page box of the document, in points; for pages whose own box is refused,
+/// too.
 /// @param auxiliaryInfo  null.
 /// @return a surface owned by the caller; null for a null consumer or box and for a box whose width
 /// or height is
@@ -19,9 +20,9 @@ using CFDictionaryRef = const CFDictionary*;
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
                                 CFDictionaryRef auxiliaryInfo);
 
-/// Writes the document to its consumer and commits it. A context released without this leaves no
-/// document. Throws std::bad_alloc, std::system_error when the consumer cannot take it,
-/// std::exception otherwise.
+/// Writes the document to its consumer and commits it, once: later calls do nothing. A context
+/// released without this leaves no document. Throws std::bad_alloc, std::system_error when the
+/// consumer cannot take it, std::exception otherwise.
 void CGPDFContextClose(CGContextRef context);
 
 }  // namespace kelvane

@@ -13,6 +13,7 @@ CGPDFDocument::CGPDFDocument(CGDataProviderRef source)
     : provider(CFShare(source)), pdf(std::make_unique<QPDF>()) {
   const auto bytes = provider->Bytes();
   pdf->setSuppressWarnings(true);
+  pdf->setImmediateCopyFrom(true);  // a page copied elsewhere outlives this document
   pdf->processMemoryFile("document", reinterpret_cast<const char*>(bytes.data()), bytes.size());
   const std::size_t count = pdf->getAllPages().size();
   for (std::size_t index = 0; index < count; ++index)

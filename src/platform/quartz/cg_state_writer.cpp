@@ -20,14 +20,20 @@ void CGStateWriter::Prepare(const CGGraphicsState& state, std::span<const CGClip
     held = wanted;
     return true;
   };
+  const auto opaque = [](CGColor color) {
+    color.alpha = 1;
+    return color;
+  };
   PrepareClips(clips);
-  const bool fillsText = needs.text && state.textMode != kCGTextStroke;
-  const bool strokesText = needs.text && state.textMode != kCGTextFill;
-  if ((needs.fill || fillsText) && bring(held_.fillColor, state.fillColor)) {
+  const bool fillsText = needs.text && Fills(state.textMode);
+  const bool strokesText = needs.text && Strokes(state.textMode);
+  if ((needs.fill || fillsText) && bring(held_.fillColor, opaque(state.fillColor))) {
     WriteFillColor(held_.fillColor);
   }
   if (needs.stroke || strokesText) {
-    if (bring(held_.strokeColor, state.strokeColor)) WriteStrokeColor(held_.strokeColor);
+    if (bring(held_.strokeColor, opaque(state.strokeColor))) {
+      WriteStrokeColor(held_.strokeColor);
+    }
     const CGFloat width = strokesText ? TextStrokeWidth(state) : StrokeGeometry(state).width;
     if (bring(held_.lineWidth, width)) WriteLineWidth(held_.lineWidth);
     if (bring(held_.miterLimit, state.miterLimit)) WriteMiterLimit(held_.miterLimit);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
-#include <type_traits>
 
 #include "platform/quartz/pdf_number.h"
 
@@ -14,29 +12,14 @@ constexpr std::size_t kPieceSize = std::size_t{1} << 20;
 
 constexpr std::array<std::string_view, 5> kPaintOperators = {"f\n", "f*\n", "S\n", "B\n", "B*\n"};
 
+// By element: move, line, curve, close, rectangle.
+constexpr std::array<std::string_view, 5> kPathOperators = {"m\n", "l\n", "c\n", "h\n", "re\n"};
+
 char* WritePoint(char* out, CGPoint point) {
   out = WriteNumber(out, point.x);
   *out++ = ' ';
   out = WriteNumber(out, point.y);
   *out++ = ' ';
-  return out;
-}
-
-// Any transform may have turned the rectangle, so it is spelled out as the figure that `re` stands
-// for.
-template <class Map>
-char* WriteMappedRectangle(char* out, CGPoint corner, CGPoint size, const Map& map) {
-  const CGFloat right = corner.x + size.x;
-  const CGFloat top = corner.y + size.y;
-  out = WritePoint(out, map(corner));
-  *out++ = 'm';
-  for (const CGPoint next : {CGPoint{right, corner.y}, {right, top}, {corner.x, top}}) {
-    *out++ = '\n';
-    out = WritePoint(out, map(next));
-    *out++ = 'l';
-  }
-  *out++ = '\n';
-  *out++ = 'h';
   return out;
 }
 
@@ -86,11 +69,17 @@ void PdfContent::TextMode(CGTextDrawingMode mode) {
 }
 
 void PdfContent::Path(const CGPath& path) {
-  WritePath(path, std::identity());
-}
-
-void PdfContent::Path(const CGPath& path, const CGAffineTransform& transform) {
-  WritePath(path, [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); });
+  EndText();
+  path.ForEach([this](CGPath::Element element, const CGPoint* points) {
+    std::array<char, 6 * kNumberRoom> text;
+    char* out = text.data();
+    for (std::size_t i = 0; i < CGPath::PointCount(element); ++i) {
+      out = WritePoint(out, points[i]);
+    }
+    const std::string_view name = kPathOperators[static_cast<std::size_t>(element)];
+    out = std::copy(name.begin(), name.end(), out);
+    Write({text.data(), static_cast<std::size_t>(out - text.data())});
+  });
 }
 
 void PdfContent::Paint(CGPathDrawingMode mode) {
@@ -143,53 +132,13 @@ void PdfContent::EndText() {
 void PdfContent::Finish() {
   EndText();
   HandOn();
-  handedOn_ = false;
   font_ = {};
 }
 
 void PdfContent::HandOn() {
   if (buffer_.empty()) return;
   sink_(buffer_);
-  handedOn_ = true;
   buffer_.clear();
-}
-
-template <class Map>
-void PdfContent::WritePath(const CGPath& path, const Map& map) {
-  EndText();
-  path.ForEach([&](CGPath::Element element, const CGPoint* points) {
-    std::array<char, 8 * kNumberRoom> text;
-    char* out = text.data();
-    switch (element) {
-      case CGPath::Element::kMove:
-        out = WritePoint(out, map(points[0]));
-        *out++ = 'm';
-        break;
-      case CGPath::Element::kLine:
-        out = WritePoint(out, map(points[0]));
-        *out++ = 'l';
-        break;
-      case CGPath::Element::kCurve:
-        out =
-            WritePoint(WritePoint(WritePoint(out, map(points[0])), map(points[1])), map(points[2]));
-        *out++ = 'c';
-        break;
-      case CGPath::Element::kRectangle:
-        if constexpr (std::is_same_v<Map, std::identity>) {
-          out = WritePoint(WritePoint(out, points[0]), points[1]);
-          *out++ = 'r';
-          *out++ = 'e';
-        } else {
-          out = WriteMappedRectangle(out, points[0], points[1], map);
-        }
-        break;
-      case CGPath::Element::kClose:
-        *out++ = 'h';
-        break;
-    }
-    *out++ = '\n';
-    Write({text.data(), static_cast<std::size_t>(out - text.data())});
-  });
 }
 
 void PdfContent::Write(std::initializer_list<CGFloat> operands, std::string_view op) {

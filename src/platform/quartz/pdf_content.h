@@ -25,33 +25,30 @@ class PdfContent {
   /// @param sink  takes each finished piece; the view is borrowed for the call.
   explicit PdfContent(Sink sink) : sink_(std::move(sink)) {}
 
-  void Save();                                                        // q
-  void Restore();                                                     // Q
-  void Concat(const CGAffineTransform& transform);                    // cm
-  void FillColor(const CGColor& color);                               // rg
-  void StrokeColor(const CGColor& color);                             // RG
-  void LineWidth(CGFloat width);                                      // w
-  void MiterLimit(CGFloat limit);                                     // M, which is at least 1
-  void TextMode(CGTextDrawingMode mode);                              // Tr
-  void Path(const CGPath& path);                                      // m l c h re
-  void Path(const CGPath& path, const CGAffineTransform& transform);  // the same, each point mapped
-  void Paint(CGPathDrawingMode mode);                                 // f f* S B B*
-  void Clip();                                                        // W n
-  void DrawXObject(std::string_view name);                            // Do
+  void Save();                                      // q
+  void Restore();                                   // Q
+  void Concat(const CGAffineTransform& transform);  // cm
+  void FillColor(const CGColor& color);             // rg
+  void StrokeColor(const CGColor& color);           // RG
+  void LineWidth(CGFloat width);                    // w
+  void MiterLimit(CGFloat limit);                   // M, which is at least 1
+  void TextMode(CGTextDrawingMode mode);            // Tr
+  void Path(const CGPath& path);                    // m l c h re
+  void Paint(CGPathDrawingMode mode);               // f f* S B B*
+  void Clip();                                      // W n
+  void DrawXObject(std::string_view name);          // Do
 
   /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
   /// shared with the glyphs before and after it. @param width  thousandths of an em.
   void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, int width);
 
-  /// True while no operator was written.
-  [[nodiscard]] bool IsEmpty() const { return !handedOn_ && buffer_.empty() && line_.IsEmpty(); }
+  /// True while nothing waits to be handed on.
+  [[nodiscard]] bool IsEmpty() const { return buffer_.empty() && line_.IsEmpty(); }
 
-  /// Hands on what is left; what follows is the content of another page.
+  /// Hands on what is left. What is written afterwards is a content of its own.
   void Finish();
 
  private:
-  template <class Map>
-  void WritePath(const CGPath& path, const Map& map);
   void Write(std::initializer_list<CGFloat> operands, std::string_view op);
   void Write(std::string_view text);
   void HandOn();
@@ -68,7 +65,6 @@ class PdfContent {
 
   Sink sink_;
   std::string buffer_;
-  bool handedOn_ = false;
   PdfTextLine line_;  // not yet written
   bool inText_ = false;
   Font font_;

@@ -18,7 +18,12 @@ char* WriteNumber(char* out, float value) {
   if (std::isnan(value)) value = 0;
   constexpr float kLargest = std::numeric_limits<float>::max();
   value = std::clamp(value, -kLargest, kLargest);
-  return std::to_chars(out, end, value, std::chars_format::fixed).ptr;
+  char* last = std::to_chars(out, end, value, std::chars_format::fixed).ptr;
+  // Readers take a number without a point for an integer and refuse one that no integer of theirs
+  // can hold.
+  constexpr float kIntegerLimit = 0x1p63F;
+  if (std::abs(value) >= kIntegerLimit) *last++ = '.';
+  return last;
 }
 
 }  // namespace kelvane

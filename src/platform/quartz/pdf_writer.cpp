@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <new>
 #include <string>
 
@@ -11,6 +12,8 @@
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
+
+#include "platform/quartz/pdf_number.h"
 
 namespace kelvane {
 namespace {
@@ -31,12 +34,19 @@ class ConsumerPipeline final : public Pipeline {
   CGDataConsumer& consumer_;
 };
 
-/// The far corner of a box may need more digits than its origin and size, hence the double.
+/// The far corner of a box may need more digits than its origin and size, hence the double; so long
+/// as these digits count for anything.
 QPDFObjectHandle Number(double value) {
+  constexpr double kLastWithFraction = 0x1p52;
   std::array<char, 400> text;
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
-  return QPDFObjectHandle::parse(std::string(text.data(), end));
+  char* end = text.data();
+  const auto single = static_cast<CGFloat>(value);
+  if (single == value || std::abs(value) > kLastWithFraction) {
+    end = WriteNumber(end, single);
+  } else {
+    end = std::to_chars(end, end + text.size(), value, std::chars_format::fixed).ptr;
+  }
+  return QPDFObjectHandle::newReal(std::string(text.data(), end));
 }
 
 QPDFObjectHandle BoxArray(const CGRect& box) {
@@ -130,8 +140,13 @@ PdfFont& PdfWriter::FontFor(CGFontRef font) {
 QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
   const QPDFObjectHandle source = page.document->pdf->getAllPages()[page.index];
   constexpr bool kApplyRotation = false;
-  auto form = QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation);
-  return pdf_.copyForeignObject(form);
+  auto form =
+      pdf_.copyForeignObject(QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation));
+  // The library joins the page's streams for the form and leaves the result as it is.
+  const auto content = form.getRawStreamData();
+  form.replaceStreamData(Deflate({content->getBuffer(), content->getSize()}),
+                         QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  return form;
 }
 
 void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {

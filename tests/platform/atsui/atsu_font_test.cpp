@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/surfaces.h"
+#include "support/surface.h"
 #include "support/text.h"
 
 namespace kelvane {
@@ -88,8 +88,7 @@ TEST_P(AFamilyOfSimilarMetrics, CountsAsNotInstalled) {
   EXPECT_EQ(FontByFamily(GetParam()), kNoFont);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, AFamilyOfSimilarMetrics,
-                         testing::Values("Helvetica", "Times"));
+INSTANTIATE_TEST_SUITE_P(Each, AFamilyOfSimilarMetrics, testing::Values("Helvetica", "Times"));
 
 TEST(TheDefaultFont, ComesClosestToHelvetica) {
   EXPECT_EQ(FaceOf(kDefaultFont), "LiberationSans");

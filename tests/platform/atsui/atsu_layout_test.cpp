@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/surfaces.h"
+#include "support/surface.h"
 #include "support/text.h"
 
 namespace kelvane {

@@ -6,14 +6,15 @@
 #include "support/fonts.h"
 #include "support/pdf.h"
 #include "support/process.h"
-#include "support/surfaces.h"
+#include "support/surface.h"
 #include "support/text.h"
 
 namespace kelvane {
 namespace {
 
 using test::DrawText;
-using test::PdfOf;
+using test::FontsIn;
+using test::PdfBytesOf;
 using test::TextIn;
 using testing::ContainsRegex;
 using testing::HasSubstr;
@@ -23,7 +24,7 @@ constexpr std::u16string_view kSixtyLetters =
     u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz01234567";
 
 std::string PdfWith(std::u16string_view text, const char* font = "Liberation Sans") {
-  return PdfOf(
+  return PdfBytesOf(
       [&](CGContextRef surface) { DrawText(surface, text, {.font = font, .x = 10, .y = 50}); });
 }
 
@@ -36,15 +37,8 @@ QPDFObjectHandle DescriptorIn(const test::Pdf& pdf) {
   return FontIn(pdf).getKey("/DescendantFonts").getArrayItem(0).getKey("/FontDescriptor");
 }
 
-/// @return the lines about fonts that an independent reader prints.
-std::string FontList(const std::string& pdf) {
-  const test::TemporaryFolder folder;
-  test::WriteFile(folder / "fonts.pdf", pdf);
-  return test::Run({"pdffonts", folder / "fonts.pdf"}).output;
-}
-
 TEST(PdfFont, TravelsWithTheDocumentAsASubset) {
-  EXPECT_THAT(FontList(PdfWith(u"Hello")),
+  EXPECT_THAT(FontsIn(PdfWith(u"Hello")),
               ContainsRegex("\\+LiberationSans +CID TrueType +Identity-H +yes yes yes"));
 }
 
@@ -55,7 +49,7 @@ TEST(PdfFont, KeepsCompactOutlinesAsTheyAre) {
 }
 
 TEST(PdfFont, AddsLessThanSevenKilobytesForSixtyLetters) {
-  const std::size_t withoutText = PdfOf([](CGContextRef) {}).size();
+  const std::size_t withoutText = PdfBytesOf([](CGContextRef) {}).size();
   EXPECT_LT(PdfWith(kSixtyLetters).size() - withoutText, 7000U);
 }
 
@@ -88,7 +82,7 @@ TEST(PdfFont, NamesASubsetByItsContent) {
 }
 
 TEST(PdfFont, IsStoredOnceForAllItsText) {
-  const std::string fonts = FontList(PdfOf([](CGContextRef surface) {
+  const std::string fonts = FontsIn(PdfBytesOf([](CGContextRef surface) {
     DrawText(surface, u"one", {.x = 1, .y = 10});
     DrawText(surface, u"two", {.size = 20, .x = 1, .y = 40});
   }));
@@ -110,7 +104,7 @@ TEST(PdfFont, ShowsTheBoxForAMissingCharacterWithItsText) {
 }
 
 TEST(PdfFont, TakesTheMemberOfACollection) {
-  EXPECT_THAT(FontList(PdfWith(u"mono", "WenQuanYi Micro Hei Mono")),
+  EXPECT_THAT(FontsIn(PdfWith(u"mono", "WenQuanYi Micro Hei Mono")),
               HasSubstr("+WenQuanYiMicroHeiMono "));
 }
 
