@@ -20,6 +20,7 @@
 #include "records/state_records.h"
 #include "records/transform_records.h"
 #include "records/unused_attribute_records.h"
+#include "text/text_records.h"
 
 namespace kelvane {
 namespace {
@@ -155,6 +156,10 @@ std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
       return std::make_unique<BitBltRecord>();
     case EMR_STRETCHDIBITS:
       return std::make_unique<StretchDibitsRecord>();
+    case EMR_EXTTEXTOUTA:
+      return std::make_unique<ExtTextOutRecord<char>>();
+    case EMR_EXTTEXTOUTW:
+      return std::make_unique<ExtTextOutRecord<std::uint16_t>>();
     case EMR_POLYBEZIER16:
       return MakePoly<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
     case EMR_POLYGON16:

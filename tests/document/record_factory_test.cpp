@@ -25,6 +25,7 @@
 #include "records/state_records.h"
 #include "records/transform_records.h"
 #include "records/unused_attribute_records.h"
+#include "text/text_records.h"
 
 namespace kelvane {
 namespace {
@@ -97,6 +98,8 @@ const std::map<std::uint32_t, const std::type_info*>& Classes() {
       {76, &typeid(BitBltRecord)},
       {81, &typeid(StretchDibitsRecord)},
       {82, &typeid(ExtCreateFontIndirectWRecord)},
+      {83, &typeid(ExtTextOutRecord<char>)},
+      {84, &typeid(ExtTextOutRecord<std::uint16_t>)},
       {85, &typeid(PolybezierRecord<Point16>)},
       {86, &typeid(PolygonRecord<Point16>)},
       {87, &typeid(PolylineRecord<Point16>)},

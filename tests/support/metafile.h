@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "reader/geometry_types.h"
@@ -31,6 +33,25 @@ inline constexpr std::uint32_t kStockNullPen = 0x80000008;
 /// Ternary raster operations.
 inline constexpr std::uint32_t kSrcCopy = 0x00CC0020;
 inline constexpr std::uint32_t kPatCopy = 0x00F00021;
+
+/// What a font is created with; everything else is 0.
+struct FontAttributes {
+  std::u16string face = u"Liberation Sans";
+  std::int32_t height = -10;    // logical units
+  std::int32_t width = 0;       // logical units
+  std::int32_t escapement = 0;  // tenths of a degree
+  std::uint8_t italic = 0;
+};
+
+/// Text alignment and background mode, as records store them.
+inline constexpr std::uint32_t kTextTop = 0;
+inline constexpr std::uint32_t kTextUpdateCP = 1;
+inline constexpr std::uint32_t kTextRight = 2;
+inline constexpr std::uint32_t kTextCenter = 6;
+inline constexpr std::uint32_t kTextBottom = 8;
+inline constexpr std::uint32_t kTextBaseline = 24;
+inline constexpr std::int32_t kTransparent = 1;
+inline constexpr std::int32_t kOpaque = 2;
 
 /// A metafile put together record by record. Coordinates are logical units. Poly records are
 /// written with 16-bit points; `wide` asks for the 32-bit ones. The verbs are defined in a file for
@@ -94,6 +115,20 @@ class Metafile {
   /// for its height, are anything but the bounds.
   Metafile& StretchDibits(const RectangleL& bounds, const Bytes& bitmap,
                           std::uint32_t rop = kSrcCopy, std::int32_t cyDest = 9);
+
+  Metafile& CreateFont(std::uint32_t index, const FontAttributes& font);
+  Metafile& SetTextAlign(std::uint32_t align);
+  Metafile& SetTextColor(std::uint32_t color);
+  Metafile& SetBkColor(std::uint32_t color);
+  Metafile& SetBkMode(std::int32_t mode);
+
+  /// UTF-16 text. `spacing` is how far the pen moves after each unit; without any none is stored.
+  Metafile& TextOut(At reference, std::u16string_view text,
+                    const std::vector<std::uint32_t>& spacing = {},
+                    const RectangleL& bounds = {0, 0, -1, -1});
+  /// Text of 8-bit units.
+  Metafile& TextOutA(At reference, std::string_view text,
+                     const std::vector<std::uint32_t>& spacing = {});
 
   /// Any record: type, size and body. The body is padded to a multiple of four.
   Metafile& Record(std::uint32_t type, const Bytes& body = {});

@@ -4,6 +4,7 @@
 
 #include <qpdf/QPDFPageObjectHelper.hh>
 
+#include "support/files.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -72,6 +73,21 @@ std::vector<std::vector<unsigned char>> Pdf::Images(std::size_t index) const {
 std::string ComplaintsAbout(const std::string& pdfPath) {
   const ProcessResult result = Run({"qpdf", "--check", pdfPath});
   return result.status == 0 ? "" : result.output;
+}
+
+std::string TextIn(const std::string& pdfBytes) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "text.pdf", pdfBytes);
+  std::string text = Run({"pdftotext", "-raw", folder / "text.pdf", "-"}).output;
+  while (text.ends_with('\n') || text.ends_with('\f'))
+    text.pop_back();
+  return text;
+}
+
+std::string FontsIn(const std::string& pdfBytes) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "text.pdf", pdfBytes);
+  return Run({"pdffonts", folder / "text.pdf"}).output;
 }
 
 }  // namespace kelvane::test

@@ -46,4 +46,12 @@ class Pdf {
 /// Checks a PDF with the external checker. @return its complaints; empty when there are none.
 std::string ComplaintsAbout(const std::string& pdfPath);
 
+/// @return the text that an external reader finds in a document, without the line and page breaks
+///         it ends with.
+std::string TextIn(const std::string& pdfBytes);
+
+/// @return what an external reader lists of a document's fonts, one a line: name, type, encoding,
+///         whether it is embedded, a subset, and has a map to text.
+std::string FontsIn(const std::string& pdfBytes);
+
 }  // namespace kelvane::test

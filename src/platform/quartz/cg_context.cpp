@@ -1,5 +1,6 @@
 #include "platform/quartz/cg_context.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -99,12 +100,14 @@ void CGContext::DrawPDFPage(const CGRect& rect, CGPDFPageRef page) {
   if (Shows() && IsFinite(matrix)) PDFPageDrawn(*page, matrix);
 }
 
-void CGContext::DrawTextRun(const CGTextRun& run) {
-  CGTextRun onPage = run;
+void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
+  CGGlyphRun onPage = run;
   onPage.matrix = CGAffineTransformConcat(run.matrix, state_.ctm);
-  if (Shows() && run.size > 0 && std::isfinite(run.size) && IsFinite(onPage.matrix)) {
-    TextDrawn(onPage);
-  }
+  const bool finite = std::isfinite(run.size) && IsFinite(onPage.matrix) &&
+                      std::ranges::all_of(run.glyphs, [](const CGPositionedGlyph& glyph) {
+                        return IsFinite(glyph.origin);
+                      });
+  if (Shows() && finite && run.size > 0 && !run.glyphs.empty()) GlyphsDrawn(onPage);
 }
 
 CGPoint CGContext::ToUserSpace(CGPoint pagePoint) const {

@@ -8,11 +8,11 @@
 #include "platform/corefoundation/cf_base.h"
 #include "platform/quartz/cg_color_space.h"
 #include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_glyph_run.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 #include "platform/quartz/cg_pdf_document.h"
-#include "platform/quartz/cg_text_run.h"
 
 namespace kelvane {
 
@@ -58,8 +58,9 @@ class CGContext : public CFObject {
   void Clip();
   void DrawImage(const CGRect& rect, CGImageRef image);
   void DrawPDFPage(const CGRect& rect, CGPDFPageRef page);
-  /// Draws the run with `run.matrix` taken from text space to user space.
-  void DrawTextRun(const CGTextRun& run);
+  /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks
+  /// nothing.
+  void DrawGlyphRun(const CGGlyphRun& run);
 
   [[nodiscard]] CGPoint ToUserSpace(CGPoint pagePoint) const;
   [[nodiscard]] CGRect ToUserSpace(const CGRect& pageRect) const;
@@ -76,7 +77,8 @@ class CGContext : public CFObject {
   virtual void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) = 0;
   /// @param matrix  maps the page's own space onto this page.
   virtual void PDFPageDrawn(const CGPDFPage& page, const CGAffineTransform& matrix) = 0;
-  virtual void TextDrawn(const CGTextRun& run) = 0;
+  /// @param run  not empty; its matrix leads to page space.
+  virtual void GlyphsDrawn(const CGGlyphRun& run) = 0;
 
  private:
   [[nodiscard]] CGPoint ToPage(CGPoint point) const {

@@ -16,4 +16,8 @@ CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state) {
   return {state.lineWidth, true, state.ctm, inverse};
 }
 
+CGFloat TextStrokeWidth(const CGGraphicsState& state) {
+  return static_cast<CGFloat>(state.lineWidth * std::sqrt(std::abs(Determinant(state.ctm))));
+}
+
 }  // namespace kelvane

@@ -63,6 +63,11 @@ struct CGStrokeGeometry {
 /// 0.
 CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
 
+/// @return the width of strokes along the outlines of glyphs, which are drawn in page space
+/// whatever
+///         the CTM: scaled as areas are.
+CGFloat TextStrokeWidth(const CGGraphicsState& state);
+
 constexpr bool Fills(CGPathDrawingMode mode) {
   return mode != kCGPathStroke;
 }

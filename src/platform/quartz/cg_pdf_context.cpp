@@ -95,9 +95,15 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     DrawForm(page, matrix);
   }
 
-  void TextDrawn(const CGTextRun& run) override {
+  void GlyphsDrawn(const CGGlyphRun& run) override {
     BeginMark({.text = true});
-    content_.ShowText(NameOf(writer_.Helvetica(), "/Font", "/F", fonts_), run);
+    PdfFont& font = writer_.FontFor(run.font);
+    const std::string& name = NameOf(font.Dictionary(), "/Font", "/F", fonts_);
+    const PdfTextStyle style = {name, font.CodeSize(), run.size, run.matrix};
+    for (const CGPositionedGlyph& glyph : run.glyphs) {
+      const PdfFont::Code code = font.Encode(glyph.glyph, glyph.text);
+      content_.ShowGlyph(style, glyph.origin, code.value, code.width);
+    }
   }
 
   [[nodiscard]] bool IsUntouched() const {

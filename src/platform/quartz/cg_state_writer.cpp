@@ -34,7 +34,8 @@ void CGStateWriter::Prepare(const CGGraphicsState& state, std::span<const CGClip
     if (bring(held_.strokeColor, opaque(state.strokeColor))) {
       WriteStrokeColor(held_.strokeColor);
     }
-    if (bring(held_.lineWidth, StrokeGeometry(state).width)) WriteLineWidth(held_.lineWidth);
+    const CGFloat width = strokesText ? TextStrokeWidth(state) : StrokeGeometry(state).width;
+    if (bring(held_.lineWidth, width)) WriteLineWidth(held_.lineWidth);
     if (bring(held_.miterLimit, state.miterLimit)) WriteMiterLimit(held_.miterLimit);
   }
   if (needs.text && bring(held_.textMode, state.textMode)) WriteTextMode(held_.textMode);

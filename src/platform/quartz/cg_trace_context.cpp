@@ -3,9 +3,11 @@
 #include <array>
 #include <initializer_list>
 #include <string_view>
+#include <utility>
 
 #include "platform/quartz/cg_state_writer.h"
 #include "platform/quartz/pdf_number.h"
+#include "platform/unicode.h"
 
 namespace kelvane {
 namespace {
@@ -55,12 +57,17 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
     LineUnder("page-copy", matrix);
   }
 
-  void TextDrawn(const CGTextRun& run) override {
+  void GlyphsDrawn(const CGGlyphRun& run) override {
     Prepare(State(), Clips(), {.text = true});
-    std::array<char, kNumberRoom> size;
-    LineUnder("text " + std::string(size.data(), WriteNumber(size.data(), run.size)) + " \"" +
-                  run.codes + '"',
-              run.matrix);
+    std::u16string text;
+    for (const CGPositionedGlyph& glyph : run.glyphs)
+      text += glyph.text;
+    std::string words = "text \"" + ToUTF8(text) + "\" " + run.font->Description().postScriptName;
+    AppendNumber(words, run.size);
+    LineUnder(std::move(words), run.matrix);
+    if (run.glyphs.size() == 1 && run.glyphs[0].origin == CGPoint{}) return;
+    for (const CGPositionedGlyph& glyph : run.glyphs)
+      Line("  at", {glyph.origin.x, glyph.origin.y});
   }
 
   void WriteSave() override { Line("save", {}); }
@@ -104,12 +111,15 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
 
   void Line(std::string_view words, std::initializer_list<CGFloat> numbers) {
     output_ += words;
-    for (const CGFloat number : numbers) {
-      std::array<char, kNumberRoom> text;
-      output_ += ' ';
-      output_.append(text.data(), WriteNumber(text.data(), number));
-    }
+    for (const CGFloat number : numbers)
+      AppendNumber(output_, number);
     output_ += '\n';
+  }
+
+  static void AppendNumber(std::string& line, CGFloat number) {
+    std::array<char, kNumberRoom> text;
+    line += ' ';
+    line.append(text.data(), WriteNumber(text.data(), number));
   }
 
   std::string& output_;

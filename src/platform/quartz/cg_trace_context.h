@@ -24,7 +24,9 @@ namespace kelvane {
 ///     stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform
 ///     image 2 2 rgb under a b c d tx ty
 ///     page-copy under a b c d tx ty
-///     text 12 "Hi" under a b c d tx ty
+///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,
+///       at 0 0                     then each glyph's origin in text space; left out for one glyph
+///       at 0 0 at 8.6 0
 ///     end-page
 ///
 /// @param output  borrowed; must outlive the surface. Lines are appended.

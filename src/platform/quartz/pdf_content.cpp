@@ -26,37 +26,50 @@ char* WritePoint(char* out, CGPoint point) {
 }  // namespace
 
 void PdfContent::Save() {
+  EndText();
+  savedFonts_.push_back(font_);
   Write("q\n");
 }
+
 void PdfContent::Restore() {
+  EndText();
+  font_ = savedFonts_.back();
+  savedFonts_.pop_back();
   Write("Q\n");
 }
 
 void PdfContent::Concat(const CGAffineTransform& t) {
+  EndText();
   Write({t.a, t.b, t.c, t.d, t.tx, t.ty}, "cm\n");
 }
 
 void PdfContent::FillColor(const CGColor& color) {
+  EndLine();
   Write({color.red, color.green, color.blue}, "rg\n");
 }
 
 void PdfContent::StrokeColor(const CGColor& color) {
+  EndLine();
   Write({color.red, color.green, color.blue}, "RG\n");
 }
 
 void PdfContent::LineWidth(CGFloat width) {
+  EndLine();
   Write({width}, "w\n");
 }
 
 void PdfContent::MiterLimit(CGFloat limit) {
+  EndLine();
   Write({std::max(limit, CGFloat{1})}, "M\n");
 }
 
 void PdfContent::TextMode(CGTextDrawingMode mode) {
+  EndLine();
   Write({static_cast<CGFloat>(mode)}, "Tr\n");
 }
 
 void PdfContent::Path(const CGPath& path) {
+  EndText();
   path.ForEach([this](CGPath::Element element, const CGPoint* points) {
     std::array<char, 6 * kNumberRoom> text;
     char* out = text.data();
@@ -78,28 +91,51 @@ void PdfContent::Clip() {
 }
 
 void PdfContent::DrawXObject(std::string_view name) {
+  EndText();
   Write(name);
   Write(" Do\n");
 }
 
-void PdfContent::ShowText(std::string_view font, const CGTextRun& run) {
-  constexpr std::string_view kHex = "0123456789ABCDEF";
-  Write("BT\n");
-  Write(font);
-  Write(" ");
-  Write({run.size}, "Tf\n");
-  const CGAffineTransform& t = run.matrix;
-  Write({t.a, t.b, t.c, t.d, t.tx, t.ty}, "Tm\n");
-  std::string codes = "<";
-  for (const char code : run.codes) {
-    codes += kHex[static_cast<unsigned char>(code) >> 4];
-    codes += kHex[static_cast<unsigned char>(code) & 15];
+void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code,
+                           int width) {
+  const auto gap = line_.Gap(style, origin);
+  if (!gap) {
+    EndLine();
+    line_.Start(style, origin);
   }
-  Write(codes);
-  Write("> Tj\nET\n");
+  line_.Add(gap.value_or(0), code, width);
+}
+
+void PdfContent::EndLine() {
+  if (line_.IsEmpty()) return;
+  if (!inText_) Write("BT\n");
+  inText_ = true;
+  if (font_.name != line_.Font() || font_.size != line_.Size()) {
+    font_ = {std::string(line_.Font()), line_.Size()};
+    Write(font_.name);
+    Write(" ");
+    Write({font_.size}, "Tf\n");
+  }
+  const CGAffineTransform& t = line_.Matrix();
+  Write({t.a, t.b, t.c, t.d, t.tx, t.ty}, "Tm\n");
+  Write(line_.Operand());
+  Write("TJ\n");
+  line_.Clear();
+}
+
+void PdfContent::EndText() {
+  EndLine();
+  if (inText_) Write("ET\n");
+  inText_ = false;
 }
 
 void PdfContent::Finish() {
+  EndText();
+  HandOn();
+  font_ = {};
+}
+
+void PdfContent::HandOn() {
   if (buffer_.empty()) return;
   sink_(buffer_);
   buffer_.clear();
@@ -118,7 +154,7 @@ void PdfContent::Write(std::initializer_list<CGFloat> operands, std::string_view
 // Every operator ends with the text that is written last, so a piece never ends inside one.
 void PdfContent::Write(std::string_view text) {
   buffer_ += text;
-  if (buffer_.size() >= kPieceSize && text.ends_with('\n')) Finish();
+  if (buffer_.size() >= kPieceSize && text.ends_with('\n')) HandOn();
 }
 
 }  // namespace kelvane

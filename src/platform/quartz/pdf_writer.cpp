@@ -131,12 +131,10 @@ QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
   return stream;
 }
 
-QPDFObjectHandle PdfWriter::Helvetica() {
-  if (!helvetica_.isInitialized()) {
-    helvetica_ = pdf_.makeIndirectObject(QPDFObjectHandle::parse(
-        "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Encoding /WinAnsiEncoding >>"));
-  }
-  return helvetica_;
+PdfFont& PdfWriter::FontFor(CGFontRef font) {
+  const auto [entry, isNew] = fontIndexes_.try_emplace(font, fonts_.size());
+  if (isNew) fonts_.emplace_back(font, AddObject(QPDFObjectHandle::newDictionary()));
+  return fonts_[entry->second];
 }
 
 QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
@@ -176,6 +174,8 @@ QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
 }
 
 void PdfWriter::Write(CGDataConsumer& consumer) {
+  for (PdfFont& font : fonts_)
+    font.Finish(*this);
   ConsumerPipeline pipeline(consumer);
   QPDFWriter writer(pdf_);
   writer.setOutputPipeline(&pipeline);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -14,6 +16,7 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_pdf_document.h"
+#include "platform/quartz/pdf_font.h"
 
 struct libdeflate_compressor;
 
@@ -36,8 +39,12 @@ class PdfWriter {
   /// short.
   QPDFObjectHandle AddImage(const CGImage& image);
 
-  /// @return the standard Helvetica, not embedded.
-  QPDFObjectHandle Helvetica();
+  /// @return `object` as an object of its own, which others refer to.
+  QPDFObjectHandle AddObject(QPDFObjectHandle object) { return pdf_.makeIndirectObject(object); }
+
+  /// @return the document's record of the face, made when it is first asked for. Lives as long as
+  /// the writer.
+  PdfFont& FontFor(CGFontRef font);
 
   /// @return the page of another document as a form XObject in that page's own space.
   QPDFObjectHandle AddForm(const CGPDFPage& page);
@@ -69,7 +76,8 @@ class PdfWriter {
   QPDF pdf_;
   std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor_;
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
-  QPDFObjectHandle helvetica_;
+  std::map<CGFontRef, std::size_t> fontIndexes_;
+  std::deque<PdfFont> fonts_;  // in the order of their first use
 };
 
 }  // namespace kelvane

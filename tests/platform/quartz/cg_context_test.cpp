@@ -8,6 +8,7 @@
 
 #include "platform/quartz/cg_trace_context.h"
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -314,16 +315,16 @@ TEST(CGContext, LeavesOutImagesAndTextThatAreNotFinite) {
   EXPECT_EQ(TraceOf([&](CGContextRef c) {
               CGContextDrawImage(c, CGRectMake(0, 0, kInfinity, 1), image.get());
               CGContextDrawImage(c, CGRectMake(kNaN, 0, 1, 1), image.get());
-              c->DrawTextRun({"A", kInfinity, {}});
-              c->DrawTextRun({"A", 12, {kNaN, 0, 0, 1, 0, 0}});
+              test::DrawHelvetica(c, u"A", kInfinity);
+              test::DrawHelvetica(c, u"A", 12, {kNaN, 0, 0, 1, 0, 0});
             }),
             "");
 }
 
 TEST(CGContext, MarksNothingForTextOfNoSize) {
   EXPECT_EQ(TraceOf([](CGContextRef c) {
-              c->DrawTextRun({"A", 0, {}});
-              c->DrawTextRun({"A", -1, {}});
+              test::DrawHelvetica(c, u"A", 0);
+              test::DrawHelvetica(c, u"A", -1);
             }),
             "");
 }

@@ -15,6 +15,7 @@
 #include "support/process.h"
 #include "support/raster.h"
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -306,7 +307,7 @@ TEST(CGPDFContext, MarksNothingForAnImageWhoseBytesWentMissing) {
 TEST(CGPDFContext, WritesTextThatCanBeExtracted) {
   const test::TemporaryFolder folder;
   test::WriteFile(folder / "a.pdf", PdfBytesOf([](CGContextRef c) {
-                    c->DrawTextRun({"Hello", 12, {1, 0, 0, 1, 10, 50}});
+                    test::DrawHelvetica(c, u"Hello", 12, {1, 0, 0, 1, 10, 50});
                   }));
   const test::ProcessResult text = test::Run({"pdftotext", folder / "a.pdf", "-"});
   EXPECT_EQ(text.output, "Hello\n\n\f");

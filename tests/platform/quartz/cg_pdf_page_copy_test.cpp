@@ -8,6 +8,7 @@
 #include "support/process.h"
 #include "support/raster.h"
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -44,7 +45,7 @@ TEST(PageCopy, OntoAnUntouchedPageOfItsBoxIsThatPagesContent) {
 
 TEST(PageCopy, BringsItsResources) {
   const auto document = test::OpenPdf(PdfBytesOf([](CGContextRef c) {
-    c->DrawTextRun({"Hello", 12, {1, 0, 0, 1, 10, 50}});
+    test::DrawHelvetica(c, u"Hello", 12, {1, 0, 0, 1, 10, 50});
   }));
   const test::TemporaryFolder folder;
   test::WriteFile(folder / "a.pdf", PdfBytesOf([&](CGContextRef c) { Copy(c, document, kBox); }));

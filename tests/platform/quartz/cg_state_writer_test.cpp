@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -120,9 +121,9 @@ TEST_P(TextModeNeeds, AreWhatTheModePaintsWith) {
     SetFill(c, 1, 0, 0);
     SetStroke(c, 0, 1, 0);
     CGContextSetTextDrawingMode(c, row.mode);
-    c->DrawTextRun({"A", 12, {}});
+    test::DrawHelvetica(c, u"A", 12);
   });
-  EXPECT_EQ(trace.substr(0, trace.find("text 12")), row.lines);
+  EXPECT_EQ(trace.substr(0, trace.find("text \"")), row.lines);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -290,7 +291,7 @@ TEST(CGContextClip, ToMovesAloneHidesAllThatFollows) {
               CGContextClip(c);
               FillRect(c, kMark);
               CGContextDrawImage(c, kMark, image.get());
-              c->DrawTextRun({"A", 12, {}});
+              test::DrawHelvetica(c, u"A", 12);
             }),
             "");
 }

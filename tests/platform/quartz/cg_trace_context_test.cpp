@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -44,12 +45,12 @@ TEST(CGTraceContext, WritesAnImagesSizeSpaceAndPlace) {
             "image 2 1 gray under 30 0 0 40 10 20\nimage 1 1 rgb under 60 0 0 -40 20 -20\n");
 }
 
-TEST(CGTraceContext, WritesATextRunsSizeTextAndPlace) {
+TEST(CGTraceContext, WritesATextRunsTextFaceSizeAndPlace) {
   EXPECT_EQ(TraceOf([](CGContextRef c) {
               CGContextConcatCTM(c, {1, 0, 0, 1, 100, 0});
-              c->DrawTextRun({"Hi", 12.5F, {0, 1, -1, 0, 10, 20}});
+              test::DrawHelvetica(c, u"Hi", 12.5F, {0, 1, -1, 0, 10, 20});
             }),
-            "text 12.5 \"Hi\" under 0 1 -1 0 110 20\n");
+            "text \"Hi\" Helvetica 12.5 under 0 1 -1 0 110 20\n  at 0 0\n  at 9.025 0\n");
 }
 
 TEST(CGTraceContext, WritesHowACopiedPageIsFittedIntoItsRectangle) {

@@ -7,6 +7,7 @@
 #include "support/files.h"
 #include "support/pdf.h"
 #include "support/surface.h"
+#include "support/text.h"
 
 namespace kelvane {
 namespace {
@@ -24,7 +25,7 @@ std::string DocumentOfEverything() {
     CGContextClipToRect(c, CGRectMake(0, 0, 50, 50));
     test::FillRect(c, CGRectMake(1, 2, 3, 4));
     CGContextDrawImage(c, CGRectMake(10, 20, 30, 40), image.get());
-    c->DrawTextRun({"Hello", 12, {}});
+    test::DrawHelvetica(c, u"Hello", 12);
   });
 }
 

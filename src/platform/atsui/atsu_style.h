@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/atsui/atsu_types.h"
+#include "platform/atsui/font_registry.h"
+#include "platform/corefoundation/cf_base.h"
+
+namespace kelvane {
+
+/// How text is set: font, size, bold, italic. Used by one thread at a time.
+class ATSUStyleObject final : public CFObject {
+ public:
+  ATSUFontID font = kDefaultFont;
+  Fixed size = 12 << 16;  // points an em
+  bool isBold = false;
+  bool isItalic = false;
+
+  /// @return the font in this style, looked up once for as long as the attributes stay.
+  const FontStyle& Style();
+
+  /// To be called when an attribute changed.
+  void Forget() { style_ = nullptr; }
+
+ private:
+  const FontStyle* style_ = nullptr;
+};
+
+using ATSUStyle = ATSUStyleObject*;
+
+/// @param style  becomes a style of the default font, 12 points, owned by the caller.
+/// @return noErr. Throws std::bad_alloc.
+OSStatus ATSUCreateStyle(ATSUStyle* style);
+
+/// Sets attributes, as far as they are known and of the right size.
+/// @param tags    kATSUQDBoldfaceTag, kATSUQDItalicTag, kATSUFontTag, kATSUSizeTag.
+/// @param sizes   of the values, in bytes: 4. @param values  each of the type that its tag names.
+/// @return noErr, or what was wrong with the first attribute that was left out.
+OSStatus ATSUSetAttributes(ATSUStyle style, ItemCount count, const ATSUAttributeTag* tags,
+                           const ByteCount* sizes, const void* const* values);
+
+/// Gives the style up; layouts made with it keep it.
+OSStatus ATSUDisposeStyle(ATSUStyle style) noexcept;
+
+}  // namespace kelvane

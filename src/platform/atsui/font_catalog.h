@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <fontconfig/fontconfig.h>
+
+namespace kelvane {
+
+/// A face that is installed. Weight, slant and width are Fontconfig's numbers.
+struct InstalledFace {
+  std::string path;
+  unsigned index = 0;  // the member of a collection
+  std::string family;
+  int weight = 0;
+  int slant = 0;
+  int width = 0;
+};
+
+/// Faces in an order, with what each can show.
+class FaceSet {
+ public:
+  FaceSet() = default;
+
+  /// @param set  taken over. @param covered  all that the faces show together, taken over; may be
+  ///             null, and then CoversAnywhere is true of every character.
+  explicit FaceSet(FcFontSet* set, FcCharSet* covered = nullptr) : set_(set), covered_(covered) {}
+
+  [[nodiscard]] std::size_t Size() const;
+  [[nodiscard]] InstalledFace At(std::size_t index) const;
+
+  /// True for a face of outlines in a file that a document can carry.
+  [[nodiscard]] bool IsUsable(std::size_t index) const;
+  [[nodiscard]] bool Covers(std::size_t index, char32_t character) const;
+  [[nodiscard]] bool CoversAnywhere(char32_t character) const;
+
+ private:
+  struct Destroyer {
+    void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
+    void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
+  };
+
+  std::unique_ptr<FcFontSet, Destroyer> set_;
+  std::unique_ptr<FcCharSet, Destroyer> covered_;
+};
+
+/// The fonts of the machine, as Fontconfig's configuration of this process has them. Names are
+/// UTF-8, and compared without regard to case and blanks.
+class FontCatalog {
+ public:
+  /// Reads the configuration and the list of fonts.
+  FontCatalog();
+
+  /// @return the usable faces, in no particular order.
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string& family) const;
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFullName(const std::string& fullName) const;
+
+  /// @return the families that the configuration binds to the name as firmly as the name itself:
+  ///         the name, then the families of the same metrics.
+  [[nodiscard]] std::vector<std::string> Equivalents(const std::string& family) const;
+
+  /// @return every face, the closest to the one asked for first, whatever the locale.
+  [[nodiscard]] FaceSet StandIns(const std::string& family, int weight, int slant) const;
+
+ private:
+  struct Destroyer {
+    void operator()(FcConfig* config) const { FcConfigDestroy(config); }
+  };
+
+  [[nodiscard]] std::vector<InstalledFace> FacesWith(const char* property,
+                                                     const std::string& value) const;
+
+  std::unique_ptr<FcConfig, Destroyer> config_;  // null when not even a fallback could be made
+};
+
+}  // namespace kelvane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+
+#include <hb.h>
+
+#include "platform/quartz/cg_font.h"
+
+namespace kelvane {
+
+/// Reads what a document says about a face from its tables.
+/// @param font  in units of the face's em.
+/// @return nothing for a face whose outlines a document of version 1.4 cannot carry.
+std::optional<CGFontDescription> DescribeFace(hb_font_t* font);
+
+}  // namespace kelvane

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <utility>
+
+#include "platform/corefoundation/cf_base.h"
+#include "platform/quartz/cg_geometry.h"
+
+namespace kelvane {
+
+/// The number of a glyph in its face; 0 is the box drawn for what the face lacks.
+using CGGlyph = std::uint16_t;
+
+/// How a face's outlines are stored, which decides how a document carries them.
+enum class CGFontOutlines : std::uint8_t {
+  kStandard,  // none: one of the faces that every reader of documents has
+  kTrueType,
+  kCompact,  // CFF
+};
+
+/// What a document says about a face. Lengths are thousandths of an em, y upwards.
+struct CGFontDescription {
+  std::string postScriptName;  // letters, digits and -+._ only
+  CGFontOutlines outlines = CGFontOutlines::kStandard;
+  bool mayBeEmbedded = false;  // the face's licence bits let a subset travel with a document
+  bool isFixedPitch = false;
+  bool isSerif = false;
+  bool isItalic = false;
+  float italicAngle = 0;  // degrees, counter-clockwise from the vertical
+  int ascent = 0;
+  int descent = 0;  // below 0 for what hangs below the baseline
+  int capHeight = 0;
+  int stemWidth = 0;
+  int left = 0, bottom = 0, right = 0, top = 0;  // of all glyphs laid over each other
+};
+
+/// A face that glyphs are drawn from. It never changes and may be used by many threads at once.
+class CGFont : public CFObject {
+ public:
+  explicit CGFont(CGFontDescription description) : description_(std::move(description)) {}
+
+  [[nodiscard]] const CGFontDescription& Description() const { return description_; }
+
+  /// @return how far the pen moves after the glyph, in ems; 0 for a glyph the face does not have.
+  [[nodiscard]] virtual CGFloat Advance(CGGlyph glyph) const = 0;
+
+  /// @return the font file, a collection perhaps; empty for a standard face. Valid while the face
+  /// lives.
+  [[nodiscard]] virtual std::span<const char> Program() const = 0;
+
+  /// @return which member of the collection the face is; 0 when the file is none.
+  [[nodiscard]] virtual unsigned ProgramIndex() const = 0;
+
+ private:
+  CGFontDescription description_;
+};
+
+using CGFontRef = const CGFont*;
+
+}  // namespace kelvane

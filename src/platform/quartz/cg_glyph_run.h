@@ -1,0 +1,27 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "platform/quartz/cg_font.h"
+#include "platform/quartz/cg_geometry.h"
+
+namespace kelvane {
+
+struct CGPositionedGlyph {
+  CGGlyph glyph = 0;
+  CGPoint origin;            // text space
+  std::u16string_view text;  // what the glyph stands for; empty when a neighbour stands for it, too
+};
+
+/// Glyphs of one face and size, in the order they stand on the line. Everything is borrowed for the
+/// call.
+struct CGGlyphRun {
+  CGFontRef font;
+  CGFloat size;  // text space units an em, above 0
+  CGAffineTransform
+      matrix;  // text space to user space, or to page space once it reached a back end
+  std::span<const CGPositionedGlyph> glyphs;
+};
+
+}  // namespace kelvane

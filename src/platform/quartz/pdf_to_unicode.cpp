@@ -1,0 +1,55 @@
+#include "platform/quartz/pdf_to_unicode.h"
+
+#include <algorithm>
+
+#include "platform/quartz/pdf_hex.h"
+
+namespace kelvane {
+namespace {
+
+constexpr std::string_view kHead =
+    "/CIDInit /ProcSet findresource begin\n"
+    "12 dict begin\n"
+    "begincmap\n"
+    "/CIDSystemInfo << /Registry (Adobe) /Ordering (UCS) /Supplement 0 >> def\n"
+    "/CMapName /Adobe-Identity-UCS def\n"
+    "/CMapType 2 def\n"
+    "1 begincodespacerange\n"
+    "<0000> <FFFF>\n"
+    "endcodespacerange\n";
+
+constexpr std::string_view kTail =
+    "endcmap\n"
+    "CMapName currentdict /CMap defineresource pop\n"
+    "end\n"
+    "end\n";
+
+constexpr std::size_t kMostLinesInBlock = 100;
+constexpr std::size_t kMostUnits = 256;  // of UTF-16 that one code may stand for: 512 bytes
+
+}  // namespace
+
+void ToUnicodeMap::Add(std::uint16_t code, std::u16string_view text) {
+  if (text.empty()) return;
+  std::string line = "<";
+  AppendHex(line, code, 2);
+  line += "> <";
+  for (const char16_t unit : text.substr(0, kMostUnits))
+    AppendHex(line, unit, 2);
+  lines_.push_back(line += ">\n");
+}
+
+std::string ToUnicodeMap::Text() const {
+  std::string text(kHead);
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    const std::size_t inBlock = i % kMostLinesInBlock;
+    if (inBlock == 0) {
+      text += std::to_string(std::min(kMostLinesInBlock, lines_.size() - i)) + " beginbfchar\n";
+    }
+    text += lines_[i];
+    if (inBlock + 1 == kMostLinesInBlock || i + 1 == lines_.size()) text += "endbfchar\n";
+  }
+  return text += kTail;
+}
+
+}  // namespace kelvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kelvane {
+
+/// The map that leads from the two-byte codes of a font back to text (ISO 32000-1, 9.10.3).
+class ToUnicodeMap {
+ public:
+  /// @param text  UTF-16. A code without text is left out: its neighbour carries the text.
+  void Add(std::uint16_t code, std::u16string_view text);
+
+  /// @return the map as the stream to be stored.
+  [[nodiscard]] std::string Text() const;
+
+ private:
+  std::vector<std::string> lines_;  // "<0001> <0041>"
+};
+
+}  // namespace kelvane

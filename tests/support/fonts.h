@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "support/files.h"
+
+namespace kelvane::test {
+
+/// Files of the fonts that every test sees: Liberation, the core of DejaVu, WenQuanYi Micro Hei (a
+/// TrueType collection) and Junction (an OpenType font with CFF outlines).
+inline constexpr const char* kLiberationSans =
+    "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf";
+inline constexpr const char* kDejaVuSans = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+inline constexpr const char* kMicroHei = "/usr/share/fonts/truetype/wqy/wqy-microhei.ttc";
+inline constexpr const char* kJunction = "/usr/share/fonts/opentype/junction/Junction.otf";
+
+/// A machine with other fonts, for as long as the object lives, as registries made meanwhile and
+/// programs run meanwhile see it. The registry of this process keeps what it saw.
+class OtherFonts {
+ public:
+  /// @param files  fonts, copied. With none the machine has no font at all.
+  explicit OtherFonts(const std::vector<std::string>& files);
+  OtherFonts(const OtherFonts&) = delete;
+  OtherFonts& operator=(const OtherFonts&) = delete;
+  ~OtherFonts();
+
+  /// Adds a font file.
+  void Add(const std::string& name, const std::string& bytes);
+
+ private:
+  TemporaryFolder folder_;
+  std::string before_;
+};
+
+/// @return the font file with the type field of its OS/2 table, its licence bits, replaced.
+std::string WithLicence(const std::string& path, unsigned bits);
+
+}  // namespace kelvane::test
