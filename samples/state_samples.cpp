@@ -91,7 +91,7 @@ Metafile Nested() {
   constexpr int kLevels = 5;
   Metafile page = Page();
   for (int level = 0; level < kLevels; ++level) {
-    const Ink ink = Ink{static_cast<std::uint32_t>(kSky + level)};
+    const Ink ink = Ink{kSky + static_cast<std::uint32_t>(level)};
     page.SaveDC().ModifyWorldTransform(Turned(6.0 * level, 1 - 0.15 * level, {240, 160}), kReplace);
     page.BeginPath().Rectangle({-200, -130, 200, 130}).EndPath().SelectClipPath(kIntersect);
     Select(page, ink, kNight);

@@ -85,12 +85,13 @@ class EMFHeaderOptions : public testing::TestWithParam<Optional> {};
 TEST_P(EMFHeaderOptions, FollowTheDescriptionsOffset) {
   const Optional expected = GetParam();
   constexpr std::uint32_t kUnits = 4;
-  const Filled filled = Fill(HeaderBytes(expected.offset + 2 * kUnits, expected.offset));
+  constexpr std::uint32_t kBytes = 2 * kUnits;
+  const Filled filled = Fill(HeaderBytes(expected.offset + kBytes, expected.offset));
   EXPECT_EQ(filled.header.fields.cbPixelFormat != 0, expected.pixelFormat);
   EXPECT_EQ(filled.header.fields.bOpenGL != 0, expected.pixelFormat);
   EXPECT_EQ(filled.header.fields.szlMicrometers.cx != 0, expected.micrometers);
   ASSERT_EQ(filled.header.description.size(), kUnits);
-  EXPECT_EQ(filled.end, expected.descriptionStart + 2 * kUnits);
+  EXPECT_EQ(filled.end, expected.descriptionStart + kBytes);
   const auto firstByte = static_cast<std::uint32_t>(expected.descriptionStart - 88 + 1);
   EXPECT_EQ(filled.header.description[0], firstByte + 256 * (firstByte + 1));
 }

@@ -190,7 +190,7 @@ TEST_F(ObjectRecords, TheStockNullPenOnlySetsTheLineWidth) {
 TEST_F(ObjectRecords, OtherStockObjectsChangeNothing) {
   CreateBrush(1, 0, 0x000000FF);
   Select(1);
-  for (const std::uint32_t stock : {1, 2, 3, 9, 10, 13, 17, 19, 0xFFFF}) {
+  for (const std::uint32_t stock : {1U, 2U, 3U, 9U, 10U, 13U, 17U, 19U, 0xFFFFU}) {
     Select(kStock | stock);
     EXPECT_EQ(State().fillColor, kFullRed);
     EXPECT_EQ(State().strokeColor, kBlack);

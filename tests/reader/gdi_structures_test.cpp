@@ -123,7 +123,7 @@ TEST(GdiStructures, APanoseIsTenBytesInOrder) {
 
 TEST(GdiStructures, AnExtendedFontIsThreeHundredAndTwentyBytes) {
   Bytes bytes = LogFont(1, u"Face");
-  bytes.Utf16(u"Full").Zeros(2 * 60).Utf16(u"Style").Zeros(2 * 27);
+  bytes.Utf16(u"Full").Zeros(120).Utf16(u"Style").Zeros(54);
   bytes.U32(1).U32(2).U32(3).U32(4).U8(5).U8(6).U8(7).U8(8).U32(9).Zeros(10).U16(0xABCD);
   ExtLogFontW font;
   EXPECT_EQ(ReadFrom(bytes, font), 320);

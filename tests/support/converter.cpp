@@ -25,7 +25,7 @@ ProcessResult RunConverterIn(const TemporaryFolder& folder, const std::string& p
 }
 
 ProcessResult RunConverterAfter(const std::string& preparation, const std::string& path) {
-  return RunConverterThrough({"sh", "-c", preparation + "; exec \"$0\" \"$1\""}, {path});
+  return RunConverterThrough({"sh", "-c", preparation + R"(; exec "$0" "$1")"}, {path});
 }
 
 ProcessResult RunConverterWithoutPrivileges(const std::vector<std::string>& arguments) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
+
 namespace kelvane {
 
 /// Room that WriteNumber needs: the longest number has 48 characters.
-inline constexpr int kNumberRoom = 64;
+inline constexpr std::size_t kNumberRoom = 64;
 
 /// Writes the shortest decimal that reads back to the same value: no exponent (ISO 32000-1, 7.3.3),
 /// no ".0", no negative zero. A whole number beyond 64 bits ends in its point. An infinite value
