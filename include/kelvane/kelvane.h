@@ -80,6 +80,17 @@ KELVANE_EXPORT int KELVANE(const unsigned char* buffer, unsigned long length,
  */
 KELVANE_EXPORT int ReadFromFile(const char* path);
 
+/*
+ * Gives the PostScript name of a common face by the name that Windows has for it, or else that name
+ * narrowed to one byte a unit, as the process's locale has it. Conversions do not use it.
+ * faceName: UTF-16; length: its units. name: takes as many of the bytes as fit, and a terminating
+ * zero; size: its room in bytes, 0 to write nothing.
+ * Returns the number of bytes of the whole name, without the zero; 0 when memory runs out.
+ */
+KELVANE_EXPORT unsigned long ConvertFontToPostScript(const unsigned short* faceName,
+                                                     unsigned long length, char* name,
+                                                     unsigned long size);
+
 #ifdef __cplusplus
 }
 #endif

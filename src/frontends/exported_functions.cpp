@@ -1,9 +1,11 @@
 #include <new>
+#include <string>
 
 #include <kelvane/kelvane.h>
 
 #include "frontends/conversion.h"
 #include "platform/corefoundation/cf_data.h"
+#include "text/font_selection.h"
 
 // The C interface: the platform's objects under opaque names, and no exception beyond this file.
 
@@ -67,4 +69,16 @@ int KELVANE(const unsigned char* buffer, unsigned long length, CFMutableDataRef 
 
 int ReadFromFile(const char* path) {
   return Status([&] { kelvane::ConvertFile(path); });
+}
+
+unsigned long ConvertFontToPostScript(const unsigned short* faceName, unsigned long length,
+                                      char* name, unsigned long size) {
+  try {
+    const std::string whole =
+        kelvane::ConvertFontToPostScript(std::u16string(faceName, faceName + length));
+    if (size > 0) name[whole.copy(name, size - 1)] = '\0';
+    return whole.size();
+  } catch (...) {
+    return 0;
+  }
 }

@@ -219,5 +219,35 @@ TEST(CFRelease, AllowsNull) {
   EXPECT_NO_FATAL_FAILURE(CFRelease(nullptr));
 }
 
+/// The PostScript name as far as it fits into `size` bytes, and its whole length.
+struct PostScriptName {
+  std::string name;
+  unsigned long length;
+
+  friend bool operator==(const PostScriptName&, const PostScriptName&) = default;
+};
+
+PostScriptName PostScriptNameOf(std::u16string_view faceName, unsigned long size) {
+  const std::vector<unsigned short> units(faceName.begin(), faceName.end());
+  std::vector<char> name(size + 1, '?');
+  const unsigned long length =
+      ConvertFontToPostScript(units.data(), units.size(), name.data(), size);
+  EXPECT_EQ(name.back(), '?') << "wrote behind its room";
+  name.back() = 0;
+  return {name.data(), length};
+}
+
+TEST(ConvertFontToPostScript, GivesAWholeNameAndItsLength) {
+  EXPECT_EQ(PostScriptNameOf(u"Times New Roman", 40), (PostScriptName{"TimesNewRomanPSMT", 17}));
+}
+
+TEST(ConvertFontToPostScript, CutsANameToItsRoom) {
+  EXPECT_EQ(PostScriptNameOf(u"Tahoma", 4), (PostScriptName{"Tah", 6}));
+}
+
+TEST(ConvertFontToPostScript, WritesNothingWithoutRoom) {
+  EXPECT_EQ(PostScriptNameOf(u"Tahoma", 0).length, 6U);
+}
+
 }  // namespace
 }  // namespace kelvane::test

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/atsui/font_registry.h"
 #include "platform/unicode.h"
 
 namespace kelvane {

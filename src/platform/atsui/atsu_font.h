@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/atsui/atsu_types.h"
-#include "platform/atsui/font_registry.h"
 
 namespace kelvane {
 

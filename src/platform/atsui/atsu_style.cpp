@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "platform/atsui/font_registry.h"
+
 namespace kelvane {
 namespace {
 

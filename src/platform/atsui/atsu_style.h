@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/atsui/atsu_types.h"
-#include "platform/atsui/font_registry.h"
 #include "platform/corefoundation/cf_base.h"
 
 namespace kelvane {
+
+class FontStyle;
 
 /// How text is set: font, size, bold, italic. Used by one thread at a time.
 class ATSUStyleObject final : public CFObject {

@@ -27,6 +27,11 @@ inline constexpr UniCharCount kATSUToTextEnd = 0xFFFFFFFF;
 using ByteCount = std::size_t;
 using ItemCount = std::size_t;
 
+/// The number of a font that was found. Any number that no font has means the default font.
+using ATSUFontID = std::uint32_t;
+inline constexpr ATSUFontID kNoFont = 0;
+inline constexpr ATSUFontID kDefaultFont = 8426;
+
 /// Attributes of styles and layouts; the comments name the values' types.
 using ATSUAttributeTag = std::uint32_t;
 inline constexpr ATSUAttributeTag kATSULineRotationTag = 2;   // Fixed: degrees, counter-clockwise

@@ -11,16 +11,11 @@
 #include <utility>
 #include <vector>
 
+#include "platform/atsui/atsu_types.h"
 #include "platform/atsui/font_catalog.h"
 #include "platform/atsui/typeface.h"
 
 namespace kelvane {
-
-/// The number of a font that was found. Any number that no font has means the default font.
-using ATSUFontID = std::uint32_t;
-
-inline constexpr ATSUFontID kNoFont = 0;
-inline constexpr ATSUFontID kDefaultFont = 8426;
 
 /// A face to draw from, and what has to be made up for it.
 struct StyledFace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/surface.h"
+#include "platform/atsui/font_registry.h"
 #include "support/text.h"
 
 namespace kelvane {
