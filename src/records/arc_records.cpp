@@ -6,14 +6,14 @@
 
 namespace kelvane {
 
+void EllipticArcRecord::read(Reader& reader) {
+  reader.readAll(box, start, end);
+}
+
 void ArcRecord::drawToPDF(AbstractContext& context) const {
   AddEllipseInRect(context, box);
   if (context.inPath == 0) DrawPath(context, kCGPathStroke);
   context.EmptyDraw("Ellipse was drawing instead of arc");
-}
-
-void ArcRecord::read(Reader& reader) {
-  reader.readAll(box, start, end);
 }
 
 void ArcToRecord::drawToPDF(AbstractContext& context) const {
@@ -24,16 +24,8 @@ void ChordRecord::drawToPDF(AbstractContext& context) const {
   context.EmptyDraw("Chord");
 }
 
-void ChordRecord::read(Reader& reader) {
-  reader.readAll(box, start, end);
-}
-
 void PieRecord::drawToPDF(AbstractContext& context) const {
   context.EmptyDraw("Pie");
-}
-
-void PieRecord::read(Reader& reader) {
-  reader.readAll(box, start, end);
 }
 
 void AngleArcRecord::drawToPDF(AbstractContext& context) const {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "context/colors.h"
 #include "context/coordinates.h"
 #include "context/path_primitives.h"
 #include "context/transform.h"
@@ -29,20 +30,14 @@ struct Disposer {
   void operator()(ATSUTextLayout layout) const { ATSUDisposeTextLayout(layout); }
 };
 
-void SetFillColor(const AbstractContext& context, const ContextColor& color) {
-  const std::array components = {static_cast<CGFloat>(color.red), static_cast<CGFloat>(color.green),
-                                 static_cast<CGFloat>(color.blue), CGFloat{1}};
-  CGContextSetFillColor(context.context, components.data());
-}
-
 void DrawBackground(AbstractContext& context, const RectangleL& bounds) {
   ContextSetCTM(context, kIdentityTransform);
   CGContextDrawPath(context.context, kCGPathStroke);
-  SetFillColor(context, context.bkColor);
+  SetSurfaceFillColor(context, context.bkColor);
   AddRectangle(context, bounds);
   CGContextDrawPath(context.context, kCGPathFill);
   ContextSetCTM(context, context.worldTransform);
-  SetFillColor(context, context.fillColor);
+  SetSurfaceFillColor(context, context.fillColor);
 }
 
 std::int64_t FontHeight(const AbstractContext& context) {
@@ -111,11 +106,11 @@ ATSUTextMeasurement ToFixed(std::int32_t coordinate) {
 void DrawText(AbstractContext& context, std::u16string_view text, PointL reference,
               const RectangleL& bounds, const std::vector<std::uint32_t>& dx) {
   if (context.bkMode == kOpaque) DrawBackground(context, bounds);
-  SetFillColor(context, context.textColor);
+  SetSurfaceFillColor(context, context.textColor);
   PointL position = reference;
   ChangeTextXY(context, position.x, position.y, bounds);
   DrawStringWithSpacing(context, text, position, dx);
-  SetFillColor(context, context.fillColor);
+  SetSurfaceFillColor(context, context.fillColor);
 }
 
 void ChangeTextXY(const AbstractContext& context, std::int32_t& x, std::int32_t& y,
