@@ -21,17 +21,39 @@ bool IsMark(char32_t character) {
          category == HB_UNICODE_GENERAL_CATEGORY_ENCLOSING_MARK;
 }
 
-// A mark stays with its base where it can, so that the face can place it.
-StyledFace FaceAfter(const StyledFace& previous, char32_t character, const FontStyle& style,
-                     bool usesStandIns) {
-  if (MarksNothing(character)) return {};
-  const bool clings = IsMark(character) || OnlySteers(character);
-  if (clings && previous.typeface != nullptr &&
-      (OnlySteers(character) || previous.typeface->GlyphFor(character))) {
-    return previous;
-  }
-  return FaceFor(character, style, usesStandIns);
+/// The characters before another as one, where Unicode has one for them.
+char32_t Composed(char32_t base, char32_t mark) {
+  hb_codepoint_t whole = 0;
+  return hb_unicode_compose(hb_unicode_funcs_get_default(), base, mark, &whole) != 0 ? whole : 0;
 }
+
+/// Chooses faces along a line. A mark stays with its base where it can, so that the face can place
+/// it or has a glyph for both together.
+class FaceChooser {
+ public:
+  FaceChooser(const FontStyle& style, bool usesStandIns)
+      : style_(style), usesStandIns_(usesStandIns) {}
+
+  StyledFace Next(char32_t character) {
+    if (MarksNothing(character)) {
+      before_ = {};
+    } else if (before_.typeface == nullptr || !OnlySteers(character)) {
+      const char32_t whole = IsMark(character) ? Composed(base_, character) : 0;
+      const bool stays = before_.typeface != nullptr && IsMark(character) &&
+                         (before_.typeface->GlyphFor(character) ||
+                          (whole != 0 && before_.typeface->GlyphFor(whole)));
+      if (!stays) before_ = FaceFor(character, style_, usesStandIns_);
+      base_ = whole != 0 ? whole : character;
+    }
+    return before_;
+  }
+
+ private:
+  const FontStyle& style_;
+  bool usesStandIns_;
+  StyledFace before_;  // of the character before
+  char32_t base_ = 0;  // that character, together with its own base where they are one
+};
 
 // Punctuation, digits and marks are set as the script before them; at the start of a line, as the
 // one behind.
@@ -79,14 +101,14 @@ StyledFace FaceFor(char32_t character, const FontStyle& style, bool usesStandIns
 std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
                                   bool usesStandIns) {
   std::vector<TextItem> items;
-  StyledFace previous;
+  FaceChooser faces(style, usesStandIns);
   for (std::size_t at = 0; at < text.size();) {
     const DecodedCharacter decoded = DecodeUTF16(text, at);
     TextItem& item = items.emplace_back();
     item.start = at;
     item.units = decoded.units;
     item.character = decoded.character;
-    item.face = previous = FaceAfter(previous, decoded.character, style, usesStandIns);
+    item.face = faces.Next(decoded.character);
     item.script = hb_unicode_script(hb_unicode_funcs_get_default(), decoded.character);
     at += decoded.units;
   }

@@ -97,7 +97,7 @@ void PdfContent::DrawXObject(std::string_view name) {
 }
 
 void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code,
-                           int width) {
+                           CGFloat width) {
   const auto gap = line_.Gap(style, origin);
   if (!gap) {
     EndLine();

@@ -40,7 +40,7 @@ class PdfContent {
 
   /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
   /// shared with the glyphs before and after it. @param width  thousandths of an em.
-  void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, int width);
+  void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, CGFloat width);
 
   /// True while nothing waits to be handed on.
   [[nodiscard]] bool IsEmpty() const { return buffer_.empty() && line_.IsEmpty(); }

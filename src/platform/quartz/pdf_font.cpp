@@ -1,9 +1,11 @@
 #include "platform/quartz/pdf_font.h"
 
+#include <array>
 #include <cmath>
 #include <set>
 
 #include "platform/quartz/pdf_font_program.h"
+#include "platform/quartz/pdf_number.h"
 #include "platform/quartz/pdf_to_unicode.h"
 #include "platform/quartz/pdf_writer.h"
 
@@ -24,6 +26,11 @@ QPDFObjectHandle Name(const std::string& name) {
 
 QPDFObjectHandle Integer(long long value) {
   return QPDFObjectHandle::newInteger(value);
+}
+
+QPDFObjectHandle Number(CGFloat value) {
+  std::array<char, kNumberRoom> text;
+  return QPDFObjectHandle::parse(std::string(text.data(), WriteNumber(text.data(), value)));
 }
 
 int Flags(const CGFontDescription& face) {
@@ -61,7 +68,7 @@ PdfFont::Code PdfFont::Encode(CGGlyph glyph, std::u16string_view text) {
   const auto known = codes_.find(key);
   if (known != codes_.end()) return known->second;
 
-  const int width = static_cast<int>(std::lround(font_->Advance(glyph) * 1000));
+  const CGFloat width = std::round(font_->Advance(glyph) * 1e6F) / 1000;
   const Code code = {NewCode(glyph), width};
   shown_.try_emplace(code.value, Shown{glyph, width, std::u16string(text)});
   if (codes_.size() < kMostCodes) codes_.emplace(std::move(key), code);
@@ -130,7 +137,7 @@ QPDFObjectHandle PdfFont::Widths() const {
       widths.appendItem(Integer(code));
       widths.appendItem(list);
     }
-    list.appendItem(Integer(shown.width));
+    list.appendItem(Number(shown.width));
     next = code + 1;
   }
   return widths;

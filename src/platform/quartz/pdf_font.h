@@ -24,7 +24,7 @@ class PdfFont {
   /// A glyph as the page's content names it.
   struct Code {
     std::uint16_t value;
-    int width;  // thousandths of an em, as the document has it
+    CGFloat width;  // thousandths of an em, as the document has it
   };
 
   /// @param font        retained. @param dictionary  an empty one of the document, filled by
@@ -47,7 +47,7 @@ class PdfFont {
  private:
   struct Shown {
     CGGlyph glyph;
-    int width;
+    CGFloat width;
     std::u16string text;
   };
 

@@ -75,7 +75,7 @@ std::optional<CGFloat> PdfTextLine::Gap(const PdfTextStyle& style, CGPoint origi
   return static_cast<CGFloat>(gap);
 }
 
-void PdfTextLine::Add(CGFloat gap, std::uint16_t code, int width) {
+void PdfTextLine::Add(CGFloat gap, std::uint16_t code, CGFloat width) {
   if (gap != 0) {
     std::array<char, kNumberRoom> number;
     strings_ += '>';

@@ -32,7 +32,7 @@ class PdfTextLine {
 
   /// Adds a glyph. @param gap  what Gap gave, or 0 for the first. @param width  thousandths of an
   /// em.
-  void Add(CGFloat gap, std::uint16_t code, int width);
+  void Add(CGFloat gap, std::uint16_t code, CGFloat width);
 
   [[nodiscard]] bool IsEmpty() const { return count_ == 0; }
   void Clear() { count_ = 0; }

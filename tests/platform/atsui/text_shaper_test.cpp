@@ -57,6 +57,14 @@ TEST(ShapeLine, PlacesAMarkOnItsBase) {
   EXPECT_THAT(Shaped(u"x\u0323", "DejaVu Sans"), ElementsAre("DejaVuSans x\u0323 "));
 }
 
+TEST(ShapeLine, KeepsAMarkInAFaceThatHasOneGlyphForItAndItsBase) {
+  EXPECT_THAT(Shaped(u"A\u0301", "Liberation Sans"), ElementsAre("LiberationSans A\u0301"));
+}
+
+TEST(ShapeLine, TakesAMarkFromAnotherFaceWhenItsOwnHasNeitherItNorBothTogether) {
+  EXPECT_THAT(Shaped(u"A\u0323", "Junction"), ElementsAre("Junction A", "DejaVuSans \u0323"));
+}
+
 TEST(ShapeLine, TakesEachCharacterFromAFaceThatHasIt) {
   EXPECT_THAT(Shaped(u"a\u6F22b"),
               ElementsAre("LiberationSans a", "WenQuanYiMicroHei \u6F22", "LiberationSans b"));
