@@ -45,7 +45,7 @@ void AddFonts(Metafile& page) {
   };
   std::int32_t y = 50;
   for (const auto& [name, em] :
-       {Face{u"Liberation Sans", 24}, Face{u"Times New Roman", 22}, Face{u"DejaVu Sans", 27}}) {
+       {Face{u"Liberation Sans", 24}, Face{u"Times New Roman", 22}, Face{u"DejaVu Sans", 26}}) {
     SetFont(page, {.face = name, .height = -24});
     AddLine(page, {30, y}, name, em);
     y += 34;
@@ -105,7 +105,7 @@ Metafile Text() {
 Metafile Scripts() {
   Metafile page = Page();
   SetFont(page, {.height = -24});
-  AddLine(page, {30, 50}, u"\u0395\u03BB\u03BB\u03B7\u03BD\u03B9\u03BA\u03AC", 24);
+  AddLine(page, {30, 50}, u"\u03A9\u03BC\u03AD\u03B3\u03B1", 24);
   AddLine(page, {30, 90}, u"\u041A\u0438\u0440\u0438\u043B\u043B\u0438\u0446\u0430", 27);
   page.TextOut({30, 130}, u"\u6F22\u5B57\u304B\u306A", {24, 24, 24, 24});
   SetFont(page, {.height = -24, .escapement = 50});
