@@ -1,8 +1,8 @@
+#include "support/corpus.h"
+
 #include <algorithm>
-#include <cctype>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <thread>
 #include <vector>
@@ -17,39 +17,10 @@
 #include "support/pdf.h"
 #include "support/process.h"
 
-// Files found in the wild, which lie beside the project where they are there at all.
-
 namespace kelvane::test {
 namespace {
 
 using Names = std::vector<std::string>;
-
-std::filesystem::path CorpusFolder(const std::string& kind) {
-  return std::filesystem::path(KELVANE_SOURCE_DIR) / "../shared/corpus" / kind;
-}
-
-/// The names of the metafiles of one kind, in order; none where the corpus is not there.
-Names CorpusNames(const std::string& kind) {
-  Names names;
-  std::error_code absent;
-  for (const auto& entry : std::filesystem::directory_iterator(CorpusFolder(kind), absent)) {
-    names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-std::vector<unsigned char> CorpusBytes(const std::string& kind, const std::string& name) {
-  const std::string bytes = ReadFile(CorpusFolder(kind) / name);
-  return {bytes.begin(), bytes.end()};
-}
-
-std::string TestName(const testing::TestParamInfo<std::string>& row) {
-  std::string name = std::filesystem::path(row.param).stem().string();
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-  return name;
-}
 
 /// A copy of a file of the corpus, converted.
 class CorpusFile : public testing::TestWithParam<std::string> {
@@ -147,7 +118,7 @@ TEST_P(RealFile, HasThePageThatIsMadeInMemory) {
 }
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealFile);
-INSTANTIATE_TEST_SUITE_P(Corpus, RealFile, testing::ValuesIn(CorpusNames("real")), TestName);
+INSTANTIATE_TEST_SUITE_P(Corpus, RealFile, testing::ValuesIn(CorpusNames("real")), CorpusTestName);
 
 class DamagedFile : public CorpusFile {};
 
@@ -164,7 +135,8 @@ TEST_P(DamagedFile, LeavesADocumentOnlyWhenItWasConverted) {
 }
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(DamagedFile);
-INSTANTIATE_TEST_SUITE_P(Corpus, DamagedFile, testing::ValuesIn(CorpusNames("damaged")), TestName);
+INSTANTIATE_TEST_SUITE_P(Corpus, DamagedFile, testing::ValuesIn(CorpusNames("damaged")),
+                         CorpusTestName);
 
 /// All real files together.
 class Corpus : public testing::Test {
