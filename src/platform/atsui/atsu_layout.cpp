@@ -98,11 +98,16 @@ void DrawUnit(const LinePlace& place, std::u16string_view unit, const FontStyle&
 
 void DrawLine(const LinePlace& place, std::u16string_view text, const FontStyle& style,
               bool usesStandIns) {
-  for (ShapedRun& run : ShapeLine(text, style, usesStandIns)) {
-    for (CGPositionedGlyph& glyph : run.glyphs) {
-      glyph.origin = {glyph.origin.x * place.size, glyph.origin.y * place.size};
+  double pen = 0;
+  while (!text.empty()) {
+    const std::u16string_view piece = FirstPiece(text);
+    for (ShapedRun& run : ShapeLine(piece, style, usesStandIns, pen)) {
+      for (CGPositionedGlyph& glyph : run.glyphs) {
+        glyph.origin = {glyph.origin.x * place.size, glyph.origin.y * place.size};
+      }
+      DrawRun(place, run);
     }
-    DrawRun(place, run);
+    text.remove_prefix(piece.size());
   }
 }
 

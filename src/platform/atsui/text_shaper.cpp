@@ -8,6 +8,7 @@
 
 #include "platform/atsui/harfbuzz_owned.h"
 #include "platform/atsui/text_items.h"
+#include "platform/unicode.h"
 
 namespace kelvane {
 namespace {
@@ -50,7 +51,8 @@ std::vector<Stretch> Stretches(std::vector<TextItem>& items) {
 
 class LineShaper {
  public:
-  explicit LineShaper(std::u16string_view text) : text_(text), buffer_(hb_buffer_create()) {
+  LineShaper(std::u16string_view text, double pen)
+      : text_(text), buffer_(hb_buffer_create()), pen_(pen) {
     if (hb_buffer_allocation_successful(buffer_.get()) == 0) throw std::bad_alloc();
   }
 
@@ -63,6 +65,7 @@ class LineShaper {
   }
 
   std::vector<ShapedRun> TakeRuns() { return std::move(runs_); }
+  [[nodiscard]] double Pen() const { return pen_; }
 
  private:
   void Shape(const Stretch& stretch) {
@@ -114,19 +117,29 @@ class LineShaper {
 
   std::u16string_view text_;
   HarfBuzzOwned<hb_buffer_t> buffer_;
-  double pen_ = 0;  // ems
+  double pen_;  // ems
   std::vector<ShapedRun> runs_;
 };
 
 }  // namespace
 
 std::vector<ShapedRun> ShapeLine(std::u16string_view text, const FontStyle& style,
-                                 bool usesStandIns) {
+                                 bool usesStandIns, double& pen) {
   std::vector<TextItem> items = ItemizeLine(text, style, usesStandIns);
-  LineShaper shaper(text);
+  LineShaper shaper(text, pen);
   for (const Stretch& stretch : Stretches(items))
     shaper.Add(stretch);
+  pen = shaper.Pen();
   return shaper.TakeRuns();
+}
+
+std::u16string_view FirstPiece(std::u16string_view text) {
+  constexpr std::size_t kMostUnits = 2000;
+  if (text.size() <= kMostUnits) return text;
+  const std::size_t space = text.rfind(u' ', kMostUnits - 1);
+  if (space != std::u16string_view::npos) return text.substr(0, space + 1);
+  const bool splitsPair = IsHighSurrogate(text[kMostUnits - 1]) && IsLowSurrogate(text[kMostUnits]);
+  return text.substr(0, splitsPair ? kMostUnits - 1 : kMostUnits);
 }
 
 }  // namespace kelvane

@@ -131,6 +131,17 @@ TEST(ATSUDrawText, MarksNothingForASurrogatePairDrawnUnitByUnit) {
   EXPECT_EQ(TraceOf([](CGContextRef surface) { DrawUnits(surface, u"\U0001D538", 5); }), "");
 }
 
+TEST(ATSUDrawText, SetsALineOfAnyLength) {
+  std::u16string brackets;
+  for (int i = 0; i < 200000; ++i)
+    brackets += u"()";
+  std::size_t drawn = 0;
+  const std::string trace = TraceOfText(brackets, {});
+  for (std::size_t at = 0; (at = trace.find("\n  at", at)) != std::string::npos; ++at)
+    ++drawn;
+  EXPECT_EQ(drawn, brackets.size());
+}
+
 TEST(ATSUDrawText, MarksNothingWithoutASize) {
   EXPECT_EQ(TraceOfText(u"H", {.size = 0}), "");
 }

@@ -10,11 +10,16 @@ namespace {
 
 using testing::ElementsAre;
 
+std::vector<ShapedRun> LineOf(std::u16string_view text, const FontStyle& style) {
+  double pen = 0;
+  return ShapeLine(text, style, true, pen);
+}
+
 /// A run in short: the face, then the text of each glyph, from left to right.
 std::vector<std::string> Shaped(std::u16string_view text, const char* font = "Liberation Sans") {
   const FontStyle& style = FontRegistry::Shared().Style(test::FontByFullName(font), false, false);
   std::vector<std::string> runs;
-  for (const ShapedRun& run : ShapeLine(text, style, true)) {
+  for (const ShapedRun& run : LineOf(text, style)) {
     std::string words = run.face.typeface->Font()->Description().postScriptName;
     for (const CGPositionedGlyph& glyph : run.glyphs)
       words += " " + ToUTF8(glyph.text);
@@ -43,7 +48,7 @@ TEST(ShapeLine, PutsHebrewWithinLatinInItsPlace) {
 TEST(ShapeLine, JoinsArabicLetters) {
   const FontStyle& style =
       FontRegistry::Shared().Style(test::FontByFullName("DejaVu Sans"), false, false);
-  const auto line = ShapeLine(u"\u0628\u0628", style, true);
+  const auto line = LineOf(u"\u0628\u0628", style);
   ASSERT_EQ(line.size(), 1U);
   ASSERT_EQ(line[0].glyphs.size(), 2U);
   EXPECT_NE(line[0].glyphs[0].glyph, line[0].glyphs[1].glyph);
@@ -87,7 +92,7 @@ TEST(ShapeLine, MakesNothingOfControlsAlone) {
 
 TEST(ShapeLine, ShowsABoxForWhatNoFaceHas) {
   const FontStyle& style = FontRegistry::Shared().Style(kDefaultFont, false, false);
-  const auto line = ShapeLine(u"\U000F0000", style, true);
+  const auto line = LineOf(u"\U000F0000", style);
   ASSERT_EQ(line.size(), 1U);
   EXPECT_EQ(line[0].glyphs.at(0).glyph, 0);
 }
@@ -95,8 +100,31 @@ TEST(ShapeLine, ShowsABoxForWhatNoFaceHas) {
 TEST(ShapeLine, PutsTheSecondGlyphBehindTheFirstInEms) {
   const FontStyle& style =
       FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false);
-  const auto line = ShapeLine(u"HA", style, true);
+  const auto line = LineOf(u"HA", style);
   EXPECT_FLOAT_EQ(line.at(0).glyphs.at(1).origin.x, 1479.0F / 2048);
+}
+
+TEST(ShapeLine, GoesOnFromThePen) {
+  const FontStyle& style =
+      FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false);
+  double pen = 0.25;
+  EXPECT_EQ(ShapeLine(u"H", style, true, pen).at(0).glyphs.at(0).origin.x, 0.25F);
+  EXPECT_DOUBLE_EQ(pen, 0.25 + 1479.0 / 2048);
+}
+
+TEST(FirstPiece, IsTheWholeOfALineForAPage) {
+  const std::u16string line(2000, u'a');
+  EXPECT_EQ(FirstPiece(line), line);
+}
+
+TEST(FirstPiece, EndsBehindASpace) {
+  const std::u16string line = std::u16string(1500, u'a') + u' ' + std::u16string(1500, u'b');
+  EXPECT_EQ(FirstPiece(line).size(), 1501U);
+}
+
+TEST(FirstPiece, DoesNotSplitAPair) {
+  const std::u16string line = std::u16string(1999, u'a') + u"\U0001D538";
+  EXPECT_EQ(FirstPiece(line).size(), 1999U);
 }
 
 }  // namespace
