@@ -1,5 +1,7 @@
 #include "platform/atsui/font_catalog.h"
 
+#include <array>
+#include <cstddef>
 #include <new>
 #include <string_view>
 
@@ -14,6 +16,27 @@ using Pattern = std::unique_ptr<FcPattern, PatternDestroyer>;
 struct ObjectSetDestroyer {
   void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
 };
+
+struct CharacterSetDestroyer {
+  void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
+};
+
+// A copy of our own: the library links the parts of its sets by offsets, which leak checkers cannot
+// follow, and this one lives as long as the process.
+std::vector<bool> CharactersOf(const FcCharSet& set) {
+  constexpr std::size_t kEndOfUnicode = 0x110000;
+  constexpr FcChar32 kBits = 32;
+  std::vector<bool> characters(kEndOfUnicode);
+  std::array<FcChar32, FC_CHARSET_MAP_SIZE> page{};
+  FcChar32 next = 0;
+  for (FcChar32 first = FcCharSetFirstPage(&set, page.data(), &next); first != FC_CHARSET_DONE;
+       first = FcCharSetNextPage(&set, page.data(), &next)) {
+    for (FcChar32 i = 0; i < kBits * page.size() && first + i < kEndOfUnicode; ++i) {
+      characters[first + i] = (page[i / kBits] >> (i % kBits) & 1) != 0;
+    }
+  }
+  return characters;
+}
 
 const FcChar8* Text(const std::string& text) {
   return reinterpret_cast<const FcChar8*>(text.c_str());
@@ -54,6 +77,10 @@ Pattern NewPattern() {
 
 }  // namespace
 
+FaceSet::FaceSet(FcFontSet* set, const FcCharSet* covered) : set_(set) {
+  if (covered != nullptr) covered_ = CharactersOf(*covered);
+}
+
 std::size_t FaceSet::Size() const {
   return set_ ? static_cast<std::size_t>(set_->nfont) : 0;
 }
@@ -75,7 +102,7 @@ bool FaceSet::Covers(std::size_t index, char32_t character) const {
 }
 
 bool FaceSet::CoversAnywhere(char32_t character) const {
-  return !covered_ || FcCharSetHasChar(covered_.get(), character) != FcFalse;
+  return covered_.empty() || (character < covered_.size() && covered_[character]);
 }
 
 InstalledFace FaceSet::At(std::size_t index) const {
@@ -139,6 +166,7 @@ FaceSet FontCatalog::StandIns(const std::string& family, int weight, int slant) 
   FcResult result = FcResultMatch;
   FcCharSet* covered = nullptr;
   FcFontSet* const set = FcFontSort(config_.get(), pattern.get(), FcFalse, &covered, &result);
+  const std::unique_ptr<FcCharSet, CharacterSetDestroyer> owned(covered);
   return FaceSet(set, covered);
 }
 

@@ -23,9 +23,9 @@ class FaceSet {
  public:
   FaceSet() = default;
 
-  /// @param set  taken over. @param covered  all that the faces show together, taken over; may be
+  /// @param set  taken over. @param covered  all that the faces show together, borrowed; may be
   ///             null, and then CoversAnywhere is true of every character.
-  explicit FaceSet(FcFontSet* set, FcCharSet* covered = nullptr) : set_(set), covered_(covered) {}
+  explicit FaceSet(FcFontSet* set, const FcCharSet* covered = nullptr);
 
   [[nodiscard]] std::size_t Size() const;
   [[nodiscard]] InstalledFace At(std::size_t index) const;
@@ -38,11 +38,10 @@ class FaceSet {
  private:
   struct Destroyer {
     void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
-    void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
   };
 
   std::unique_ptr<FcFontSet, Destroyer> set_;
-  std::unique_ptr<FcCharSet, Destroyer> covered_;
+  std::vector<bool> covered_;  // by character; empty when nothing is known
 };
 
 /// The fonts of the machine, as Fontconfig's configuration of this process has them. Names are
