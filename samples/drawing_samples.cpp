@@ -12,7 +12,6 @@ namespace {
 using test::At;
 using test::Metafile;
 using test::Points;
-using test::Rgb;
 
 constexpr std::int32_t kCounterClockwise = 1;
 constexpr std::int32_t kClockwise = 2;
