@@ -27,8 +27,8 @@ std::u16string_view Part(std::u16string_view text, UniCharArrayOffset offset, Un
 
 template <class T>
 OSStatus TakeValue(T& destination, ByteCount size, const void* value) {
-  if (size != sizeof destination) return kATSUInvalidAttributeSizeErr;
-  std::memcpy(&destination, value, sizeof destination);
+  if (size != sizeof(T)) return kATSUInvalidAttributeSizeErr;
+  std::memcpy(&destination, value, sizeof(T));
   return noErr;
 }
 

@@ -40,7 +40,7 @@ StyledFace Styled(const Typeface* typeface, const InstalledFace& face, bool isBo
 }  // namespace
 
 FontRegistry& FontRegistry::Shared() {
-  static FontRegistry* const kShared = new FontRegistry;  // threads may outlive static objects
+  static auto* const kShared = new FontRegistry;  // threads may outlive static objects
   return *kShared;
 }
 

@@ -57,8 +57,8 @@ class SubsetTag {
 
 }  // namespace
 
-PdfFont::PdfFont(CGFontRef font, QPDFObjectHandle dictionary)
-    : font_(CFShare(font)), dictionary_(std::move(dictionary)) {
+PdfFont::PdfFont(CGFontRef font, const QPDFObjectHandle& dictionary)
+    : font_(CFShare(font)), dictionary_(dictionary) {
   if (Face().outlines == CGFontOutlines::kCompact) cids_ = CharacterIdentifiers(*font);
 }
 

@@ -29,7 +29,7 @@ class PdfFont {
 
   /// @param font        retained. @param dictionary  an empty one of the document, filled by
   /// Finish.
-  PdfFont(CGFontRef font, QPDFObjectHandle dictionary);
+  PdfFont(CGFontRef font, const QPDFObjectHandle& dictionary);
 
   /// @param text  what the glyph stands for. A TrueType glyph gets a code for every text it stands
   /// for; a CFF

@@ -40,7 +40,9 @@ class PdfWriter {
   QPDFObjectHandle AddImage(const CGImage& image);
 
   /// @return `object` as an object of its own, which others refer to.
-  QPDFObjectHandle AddObject(QPDFObjectHandle object) { return pdf_.makeIndirectObject(object); }
+  QPDFObjectHandle AddObject(const QPDFObjectHandle& object) {
+    return pdf_.makeIndirectObject(object);
+  }
 
   /// @return the document's record of the face, made when it is first asked for. Lives as long as
   /// the writer.
