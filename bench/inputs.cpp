@@ -1,7 +1,10 @@
 #include "inputs.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
+#include <string_view>
 
 #include "support/metafile.h"
 
@@ -38,6 +41,32 @@ Metafile Filled(std::size_t bytes, std::size_t recordSize, const Add& add) {
   return metafile;
 }
 
+/// Goes over the page in short steps of a slowly turning direction, as the lines of a map do.
+class Wanderer {
+ public:
+  Points Walk(std::size_t count) {
+    Points points;
+    for (std::size_t i = 0; i < count; ++i)
+      points.push_back(Step());
+    return points;
+  }
+
+ private:
+  At Step() {
+    seed_ = seed_ * 1664525 + 1013904223;
+    angle_ += (static_cast<double>(seed_ >> 16) / 65536 - 0.5) * 1.2;
+    x_ = std::fmod(x_ + 40 * std::cos(angle_) + kPage, kPage);
+    y_ = std::fmod(y_ + 40 * std::sin(angle_) + kPage, kPage);
+    return {static_cast<std::int32_t>(x_), static_cast<std::int32_t>(y_)};
+  }
+
+  static constexpr double kPage = 32000;
+  std::uint32_t seed_ = 1;
+  double angle_ = 0;
+  double x_ = kPage / 2;
+  double y_ = kPage / 2;
+};
+
 constexpr std::size_t kPolySize = 28 + 4 * kPointsInARecord;
 constexpr std::size_t kLineSize = 16;
 
@@ -61,6 +90,31 @@ Metafile Lines(std::size_t bytes) {
   });
 }
 
+std::vector<unsigned char> Boxes(std::size_t bytes, bool labelled) {
+  constexpr std::uint32_t kPen = 1;
+  constexpr std::uint32_t kBrush = 2;
+  constexpr std::uint32_t kFont = 3;
+  constexpr std::int32_t kColumns = 12;
+  constexpr std::u16string_view kWords[] = {u"Intake", u"Filter 2", u"Pump", u"Valve (open)",
+                                            u"Tank 17"};
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1000, 1400).CreatePen(kPen, 1, test::Rgb(40, 40, 40)).SelectObject(kPen);
+  metafile.CreateFont(kFont, {.face = u"Arial"}).SelectObject(kFont).SetBkMode(test::kTransparent);
+  const std::size_t boxSize = labelled ? 268 : 148;
+  for (std::int32_t i = 0; static_cast<std::size_t>(i) < bytes / boxSize; ++i) {
+    const std::int32_t x = i % kColumns * 80 + 10;
+    const std::int32_t y = i / kColumns * 50 + 10;
+    metafile.CreateBrush(kBrush, test::Rgb(200, 100 + static_cast<std::uint32_t>(i) % 100, 60));
+    metafile.SelectObject(kBrush).Rectangle({x, y, x + 60, y + 30}).DeleteObject(kBrush);
+    metafile.MoveTo(x + 60, y + 15).LineTo(x + 80, y + 15).LineTo(x + 76, y + 12);
+    if (labelled) {
+      const std::u16string_view word = kWords[static_cast<std::size_t>(i) % std::size(kWords)];
+      metafile.TextOut({x + 4, y + 20}, word, std::vector<std::uint32_t>(word.size(), 6));
+    }
+  }
+  return metafile.Build();
+}
+
 }  // namespace
 
 std::vector<Input> AllInputs() {
@@ -70,7 +124,42 @@ std::vector<Input> AllInputs() {
     inputs.push_back({std::string("polybezier16/") + size, Polybeziers(bytes).Build()});
     inputs.push_back({std::string("moveto-lineto/") + size, Lines(bytes).Build()});
   }
+  inputs.push_back({"drawing/20KB", Drawing(20'000)});
+  inputs.push_back({"diagram/20KB", Diagram(20'000)});
+  inputs.push_back({"labelled-diagram/20KB", LabelledDiagram(20'000)});
   return inputs;
+}
+
+std::vector<unsigned char> PointLists(std::size_t bytes) {
+  return Polylines(bytes).Build();
+}
+
+std::vector<unsigned char> Diagram(std::size_t bytes) {
+  return Boxes(bytes, false);
+}
+
+std::vector<unsigned char> LabelledDiagram(std::size_t bytes) {
+  return Boxes(bytes, true);
+}
+
+std::vector<unsigned char> Drawing(std::size_t bytes) {
+  constexpr std::uint32_t kPen = 1;
+  constexpr std::size_t kGroupSize = 28 + 44 + 4 * 200 + 28 + 4 * 61 + 20 * 2 * kLineSize;
+  Metafile metafile;
+  metafile.Bounds(0, 0, 32000, 32000);
+  Wanderer wanderer;
+  for (std::size_t group = 0; group < std::max<std::size_t>(bytes / kGroupSize, 1); ++group) {
+    const auto shade = static_cast<std::uint32_t>(group % 200);
+    metafile.CreatePen(kPen, static_cast<std::int32_t>(group % 5), test::Rgb(shade, 60, 90));
+    metafile.SelectObject(kPen);
+    metafile.Polyline(wanderer.Walk(200)).Polybezier(wanderer.Walk(61));
+    for (int line = 0; line < 20; ++line) {
+      const Points ends = wanderer.Walk(2);
+      metafile.MoveTo(ends[0].x, ends[0].y).LineTo(ends[1].x, ends[1].y);
+    }
+    metafile.DeleteObject(kPen);
+  }
+  return metafile.Build();
 }
 
 Input EmptyPage() {

@@ -15,6 +15,20 @@ struct Input {
 /// Every kind of record, each at about 20 KB and about 10 MB; the same bytes in every run.
 std::vector<Input> AllInputs();
 
+/// A drawing such as maps and plots are made of: in each group a pen, a long winding polyline, a
+/// run of Bezier curves and twenty single lines. @param bytes  about how long the metafile is.
+std::vector<unsigned char> Drawing(std::size_t bytes);
+
+/// Point lists of 301 points each, and nothing else.
+std::vector<unsigned char> PointLists(std::size_t bytes);
+
+/// A diagram as programs write it, object by object: boxes in brushes of their own, joined by
+/// lines.
+std::vector<unsigned char> Diagram(std::size_t bytes);
+
+/// The same, each box with a label in one face.
+std::vector<unsigned char> LabelledDiagram(std::size_t bytes);
+
 /// A metafile without records.
 Input EmptyPage();
 

@@ -18,8 +18,6 @@
 namespace kelvane {
 namespace {
 
-constexpr int kDeflateLevel = 6;
-
 class ConsumerPipeline final : public Pipeline {
  public:
   explicit ConsumerPipeline(CGDataConsumer& consumer)

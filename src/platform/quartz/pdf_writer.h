@@ -27,6 +27,9 @@ namespace kelvane {
 /// std::bad_alloc or what the PDF library throws.
 class PdfWriter {
  public:
+  /// How hard streams are deflated, as libdeflate counts it, from 0 to 12.
+  static constexpr int kDeflateLevel = 6;
+
   PdfWriter();
   ~PdfWriter();
   PdfWriter(const PdfWriter&) = delete;

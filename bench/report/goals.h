@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "report/side_by_side.h"
+
+namespace kelvane::bench {
+
+/// Conversion of large drawings: against deflate alone, parsing against moving memory, growth with
+/// size.
+std::vector<Finding> LargeFiles();
+
+/// The most memory a conversion of 100 MB takes. @param self  path of this program, which is run
+/// again for it.
+std::vector<Finding> Memory(const std::string& self);
+
+/// What this program does when it is run again for Memory: it converts and prints its peak in
+/// bytes.
+void PrintPeak();
+
+/// Conversion of small files in memory, against an empty page.
+std::vector<Finding> SmallFiles();
+
+/// The tool as a process, against the start of comparable tools. @param converter  its path.
+std::vector<Finding> Processes(const std::string& converter);
+
+/// Bytes of PDF against what an optimiser makes of the same file.
+/// @param metafiles  folder of metafiles to convert; left as it is.
+std::vector<Finding> FileSizes(const std::string& metafiles);
+
+/// Conversions a second on two threads against one.
+std::vector<Finding> Threads();
+
+}  // namespace kelvane::bench

@@ -1,0 +1,116 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include <libdeflate.h>
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include "document/emf_file.h"
+#include "frontends/conversion.h"
+#include "inputs.h"
+#include "platform/quartz/pdf_writer.h"
+#include "report/goals.h"
+#include "support/metafile.h"
+
+namespace kelvane::bench {
+namespace {
+
+constexpr int kRuns = 7;
+constexpr std::size_t kMegabyte = 1'000'000;
+
+CFOwned<CFData> Convert(const std::vector<unsigned char>& metafile) {
+  CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
+  ConvertBuffer(metafile.data(), metafile.size(), document.get());
+  return document;
+}
+
+/// The streams of the page's content, inflated.
+std::vector<std::string> ContentOf(const CFData& document) {
+  QPDF pdf;
+  pdf.processMemoryFile("document", reinterpret_cast<const char*>(document.bytes.data()),
+                        document.bytes.size());
+  QPDFObjectHandle page = pdf.getAllPages().at(0);
+  QPDFObjectHandle contents = page.getKey("/Contents");
+  const std::vector<QPDFObjectHandle> streams =
+      contents.isArray() ? contents.getArrayAsVector() : std::vector{contents};
+  std::vector<std::string> pieces;
+  for (QPDFObjectHandle stream : streams) {
+    const auto data = stream.getStreamData();
+    pieces.emplace_back(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
+  }
+  return pieces;
+}
+
+Finding AgainstDeflate() {
+  const std::vector<unsigned char> metafile = Drawing(50 * kMegabyte);
+  const std::vector<std::string> content = ContentOf(*Convert(metafile));
+  std::vector<unsigned char> room(content.front().size() * 2);
+  libdeflate_compressor* compressor = libdeflate_alloc_compressor(PdfWriter::kDeflateLevel);
+  const auto deflate = [&] {
+    for (const std::string& piece : content)
+      libdeflate_zlib_compress(compressor, piece.data(), piece.size(), room.data(), room.size());
+  };
+  const Series ratio = SideBySide([&] { Convert(metafile); }, deflate, kRuns);
+  libdeflate_free_compressor(compressor);
+  return {"whole conversion of 50 MB of lines and curves : deflating its content alone", ratio,
+          kRuns, 2};
+}
+
+/// Keeps a result from being optimised away.
+void Keep(std::uint32_t value) {
+  asm volatile("" : : "r"(value) : "memory");
+}
+
+Finding AgainstMemory() {
+  const std::vector<unsigned char> metafile = PointLists(50 * kMegabyte);
+  std::vector<unsigned char> copy(metafile.size());
+  const auto parse = [&] {
+    EMFFile file(metafile.data(), static_cast<std::int32_t>(metafile.size()));
+    file.ParseEMFFile();
+  };
+  const auto move = [&] {
+    std::memcpy(copy.data(), metafile.data(), metafile.size());
+    std::uint32_t sum = 0;
+    for (std::size_t at = 0; at + sizeof sum <= copy.size(); at += sizeof sum) {
+      std::uint32_t word = 0;
+      std::memcpy(&word, copy.data() + at, sizeof word);
+      sum += word;
+    }
+    Keep(sum);
+  };
+  return {"parsing 50 MB of point lists : copying and summing the same bytes",
+          SideBySide(parse, move, kRuns), kRuns, 6};
+}
+
+Finding Growth() {
+  constexpr std::size_t kSizes[] = {1, 10, 100};
+  std::vector<std::vector<unsigned char>> metafiles;
+  for (const std::size_t megabytes : kSizes)
+    metafiles.push_back(Drawing(megabytes * kMegabyte));
+  std::vector<double> spreads;
+  for (int run = 0; run < kRuns; ++run) {
+    std::vector<double> seconds;
+    for (const auto& metafile : metafiles) {
+      const auto convert = [&] { Convert(metafile); };
+      const int repeats = static_cast<int>(metafiles.back().size() / metafile.size() / 10) + 1;
+      seconds.push_back(SecondsOf(convert, repeats) / static_cast<double>(metafile.size()));
+    }
+    const auto [least, most] = std::ranges::minmax(seconds);
+    spreads.push_back(most / least);
+  }
+  return {"time a megabyte at 1, 10 and 100 MB, the slowest : the fastest", Summarize(spreads),
+          kRuns, 1.15};
+}
+
+}  // namespace
+
+std::vector<Finding> LargeFiles() {
+  return {AgainstDeflate(), AgainstMemory(), Growth()};
+}
+
+}  // namespace kelvane::bench

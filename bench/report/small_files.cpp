@@ -1,0 +1,39 @@
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "frontends/conversion.h"
+#include "inputs.h"
+#include "report/goals.h"
+
+namespace kelvane::bench {
+namespace {
+
+constexpr int kRuns = 31;
+constexpr int kRepeats = 100;
+
+Action Conversion(const std::vector<unsigned char>& metafile) {
+  return [&metafile] {
+    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
+    ConvertBuffer(metafile.data(), metafile.size(), document.get());
+  };
+}
+
+Finding AgainstEmptyPage(const std::string& what, const std::vector<unsigned char>& metafile,
+                         double limit) {
+  const std::vector<unsigned char> empty = EmptyPage().bytes;
+  return {what + " : an empty page",
+          SideBySide(Conversion(metafile), Conversion(empty), kRuns, kRepeats), kRuns, limit};
+}
+
+}  // namespace
+
+std::vector<Finding> SmallFiles() {
+  constexpr std::size_t kSize = 20'000;
+  return {AgainstEmptyPage("20 KB of shapes, in memory", Diagram(kSize), 3),
+          AgainstEmptyPage("20 KB of lines and curves, in memory", Drawing(kSize), 3),
+          AgainstEmptyPage("20 KB of shapes and labels of one open face, in memory",
+                           LabelledDiagram(kSize), 8)};
+}
+
+}  // namespace kelvane::bench

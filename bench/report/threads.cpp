@@ -1,0 +1,34 @@
+#include <thread>
+#include <vector>
+
+#include "frontends/conversion.h"
+#include "inputs.h"
+#include "report/goals.h"
+
+namespace kelvane::bench {
+namespace {
+
+constexpr int kRuns = 15;
+constexpr int kFiles = 1000;
+
+void ConvertMany(const std::vector<unsigned char>& metafile, int count) {
+  for (int i = 0; i < count; ++i) {
+    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
+    ConvertBuffer(metafile.data(), metafile.size(), document.get());
+  }
+}
+
+}  // namespace
+
+std::vector<Finding> Threads() {
+  const std::vector<unsigned char> metafile = LabelledDiagram(20'000);
+  const auto alone = [&] { ConvertMany(metafile, kFiles); };
+  const auto together = [&] {
+    std::jthread other([&] { ConvertMany(metafile, kFiles / 2); });
+    ConvertMany(metafile, kFiles / 2);
+  };
+  return {{"1,000 small files: one thread : two threads", SideBySide(alone, together, kRuns), kRuns,
+           1.8, true}};
+}
+
+}  // namespace kelvane::bench
