@@ -47,8 +47,8 @@ void EMFFile::CheckPosition() const {
   }
 }
 
-std::unique_ptr<Record> EMFFile::CreateRecordByType(unsigned long type) {
-  std::unique_ptr<Record> record = MakeRecord(static_cast<std::uint32_t>(type));
+OwnedRecord EMFFile::CreateRecordByType(unsigned long type) {
+  OwnedRecord record = MakeRecord(static_cast<std::uint32_t>(type), arena);
   record->ReadItem(reader);
   return record;
 }

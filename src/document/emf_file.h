@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 #include "context/abstract_context.h"
 #include "document/emf_header.h"
 #include "document/record.h"
+#include "document/record_factory.h"
 #include "platform/corefoundation/cf_data.h"
 #include "platform/quartz/cg_context.h"
 #include "platform/quartz/cg_data_consumer.h"
@@ -37,11 +37,12 @@ class EMFFile {
   void DrawToPage(CGContextRef surface);
 
   /// @return the record for `type`, read from the reader, which then stands at the record's end.
-  std::unique_ptr<Record> CreateRecordByType(unsigned long type);
+  OwnedRecord CreateRecordByType(unsigned long type);
 
   Reader reader;
   EMFHeader header;
-  std::vector<std::unique_ptr<Record>> records;  // in file order
+  RecordArena arena;
+  std::vector<OwnedRecord> records;  // in file order
   EMFPalette palette;
   AbstractContext context;
 

@@ -1,5 +1,7 @@
 #include "document/record_factory.h"
 
+#include <new>
+
 #include "bitmap/bitmap_records.h"
 #include "document/record_type.h"
 #include "document/skipped_records.h"
@@ -25,171 +27,168 @@
 namespace kelvane {
 namespace {
 
-using draw_modes::DrawFromPointMode;
-using draw_modes::FigureMode;
-
-template <class R>
-std::unique_ptr<Record> MakePoly(FigureMode figureMode, DrawFromPointMode drawFromPoint) {
-  return std::make_unique<R>(figureMode, drawFromPoint);
+template <class R, class... Arguments>
+OwnedRecord Make(RecordArena& arena, Arguments... arguments) {
+  return OwnedRecord(::new (arena.allocate(sizeof(R), alignof(R))) R(arguments...));
 }
 
 }  // namespace
 
-std::unique_ptr<Record> MakeRecord(std::uint32_t type) {
+OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
   using enum RecordType;
-  using enum FigureMode;
-  using enum DrawFromPointMode;
+  using enum draw_modes::FigureMode;
+  using enum draw_modes::DrawFromPointMode;
   switch (static_cast<RecordType>(type)) {
     case EMR_POLYBEZIER:
-      return MakePoly<PolybezierRecord<PointL>>(kBezier, kMoveToFirst);
+      return Make<PolybezierRecord<PointL>>(arena, kBezier, kMoveToFirst);
     case EMR_POLYGON:
-      return MakePoly<PolygonRecord<PointL>>(kPolygon, kMoveToFirst);
+      return Make<PolygonRecord<PointL>>(arena, kPolygon, kMoveToFirst);
     case EMR_POLYLINE:
-      return MakePoly<PolylineRecord<PointL>>(kPolyline, kMoveToFirst);
+      return Make<PolylineRecord<PointL>>(arena, kPolyline, kMoveToFirst);
     case EMR_POLYBEZIERTO:
-      return MakePoly<PolybezierToRecord<PointL>>(kBezier, kContinue);
+      return Make<PolybezierToRecord<PointL>>(arena, kBezier, kContinue);
     case EMR_POLYLINETO:
-      return MakePoly<PolylineToRecord<PointL>>(kPolyline, kContinue);
+      return Make<PolylineToRecord<PointL>>(arena, kPolyline, kContinue);
     case EMR_POLYPOLYLINE:
-      return std::make_unique<PolyPolylineRecord<PointL>>(kPolyline);
+      return Make<PolyPolylineRecord<PointL>>(arena, kPolyline);
     case EMR_POLYPOLYGON:
-      return std::make_unique<PolyPolygonRecord<PointL>>(kPolygon);
+      return Make<PolyPolygonRecord<PointL>>(arena, kPolygon);
     case EMR_SETWINDOWEXTEX:
-      return std::make_unique<SetWindowExtExRecord>();
+      return Make<SetWindowExtExRecord>(arena);
     case EMR_SETWINDOWORGEX:
-      return std::make_unique<SetWindowOrgExRecord>();
+      return Make<SetWindowOrgExRecord>(arena);
     case EMR_SETVIEWPORTEXTEX:
-      return std::make_unique<SetViewPortExtExRecord>();
+      return Make<SetViewPortExtExRecord>(arena);
     case EMR_SETVIEWPORTORGEX:
-      return std::make_unique<SetViewPortOrgExRecord>();
+      return Make<SetViewPortOrgExRecord>(arena);
     case EMR_SETBRUSHORGEX:
-      return std::make_unique<SetBrushOrgExRecord>();
+      return Make<SetBrushOrgExRecord>(arena);
     case EMR_SETPIXELV:
-      return std::make_unique<SetPixelVRecord>();
+      return Make<SetPixelVRecord>(arena);
     case EMR_SETMAPMODE:
-      return std::make_unique<SetMapModeRecord>();
+      return Make<SetMapModeRecord>(arena);
     case EMR_SETBKMODE:
-      return std::make_unique<SetBkModeRecord>();
+      return Make<SetBkModeRecord>(arena);
     case EMR_SETPOLYFILLMODE:
-      return std::make_unique<SetPolyFillModeRecord>();
+      return Make<SetPolyFillModeRecord>(arena);
     case EMR_SETROP2:
-      return std::make_unique<SetRop2Record>();
+      return Make<SetRop2Record>(arena);
     case EMR_SETSTRETCHBLTMODE:
-      return std::make_unique<SetStretchBltModeRecord>();
+      return Make<SetStretchBltModeRecord>(arena);
     case EMR_SETTEXTALIGN:
-      return std::make_unique<SetTextAlignRecord>();
+      return Make<SetTextAlignRecord>(arena);
     case EMR_SETTEXTCOLOR:
-      return std::make_unique<SetTextColorRecord>();
+      return Make<SetTextColorRecord>(arena);
     case EMR_SETBKCOLOR:
-      return std::make_unique<SetBkColorRecord>();
+      return Make<SetBkColorRecord>(arena);
     case EMR_MOVETOEX:
-      return std::make_unique<MoveToExRecord>();
+      return Make<MoveToExRecord>(arena);
     case EMR_SETMETARGN:
-      return std::make_unique<RecognizedButIgnoredRecord>("EMR_SETMETARGN");
+      return Make<RecognizedButIgnoredRecord>(arena, "EMR_SETMETARGN");
     case EMR_INTERSECTCLIPRECT:
-      return std::make_unique<IntersectClipRectRecord>();
+      return Make<IntersectClipRectRecord>(arena);
     case EMR_SCALEVIEWPORTEXTEX:
-      return std::make_unique<ScaleExtExRecord>(false);
+      return Make<ScaleExtExRecord>(arena, false);
     case EMR_SCALEWINDOWEXTEX:
-      return std::make_unique<ScaleExtExRecord>(true);
+      return Make<ScaleExtExRecord>(arena, true);
     case EMR_SAVEDC:
-      return std::make_unique<SaveDCRecord>();
+      return Make<SaveDCRecord>(arena);
     case EMR_RESTOREDC:
-      return std::make_unique<RestoreDCRecord>();
+      return Make<RestoreDCRecord>(arena);
     case EMR_SETWORLDTRANSFORM:
-      return std::make_unique<SetWorldTransformRecord>();
+      return Make<SetWorldTransformRecord>(arena);
     case EMR_MODIFYWORLDTRANSFORM:
-      return std::make_unique<ModifyWorldTransformRecord>();
+      return Make<ModifyWorldTransformRecord>(arena);
     case EMR_SELECTOBJECT:
-      return std::make_unique<SelectObjectRecord>();
+      return Make<SelectObjectRecord>(arena);
     case EMR_CREATEPEN:
-      return std::make_unique<CreatePenRecord>();
+      return Make<CreatePenRecord>(arena);
     case EMR_CREATEBRUSHINDIRECT:
-      return std::make_unique<CreateBrushIndirectRecord>();
+      return Make<CreateBrushIndirectRecord>(arena);
     case EMR_DELETEOBJECT:
-      return std::make_unique<DeleteObjectRecord>();
+      return Make<DeleteObjectRecord>(arena);
     case EMR_ANGLEARC:
-      return std::make_unique<AngleArcRecord>();
+      return Make<AngleArcRecord>(arena);
     case EMR_ELLIPSE:
-      return std::make_unique<EllipseRecord>();
+      return Make<EllipseRecord>(arena);
     case EMR_RECTANGLE:
-      return std::make_unique<RectangleRecord>();
+      return Make<RectangleRecord>(arena);
     case EMR_ROUNDRECT:
-      return std::make_unique<RoundRectangleRecord>();
+      return Make<RoundRectangleRecord>(arena);
     case EMR_ARC:
-      return std::make_unique<ArcRecord>();
+      return Make<ArcRecord>(arena);
     case EMR_CHORD:
-      return std::make_unique<ChordRecord>();
+      return Make<ChordRecord>(arena);
     case EMR_PIE:
-      return std::make_unique<PieRecord>();
+      return Make<PieRecord>(arena);
     case EMR_SELECTPALETTE:
-      return std::make_unique<SelectPaletteRecord>();
+      return Make<SelectPaletteRecord>(arena);
     case EMR_LINETO:
-      return std::make_unique<LineToRecord>();
+      return Make<LineToRecord>(arena);
     case EMR_ARCTO:
-      return std::make_unique<ArcToRecord>();
+      return Make<ArcToRecord>(arena);
     case EMR_POLYDRAW:
-      return std::make_unique<PolyDrawRecord<PointL>>();
+      return Make<PolyDrawRecord<PointL>>(arena);
     case EMR_SETARCDIRECTION:
-      return std::make_unique<SetArcDirectionRecord>();
+      return Make<SetArcDirectionRecord>(arena);
     case EMR_SETMITERLIMIT:
-      return std::make_unique<SetMiterLimitRecord>();
+      return Make<SetMiterLimitRecord>(arena);
     case EMR_BEGINPATH:
-      return std::make_unique<BeginPathRecord>();
+      return Make<BeginPathRecord>(arena);
     case EMR_ENDPATH:
-      return std::make_unique<EndPathRecord>();
+      return Make<EndPathRecord>(arena);
     case EMR_CLOSEFIGURE:
-      return std::make_unique<CloseFigureRecord>();
+      return Make<CloseFigureRecord>(arena);
     case EMR_FILLPATH:
-      return std::make_unique<FillPathRecord>(false, true);
+      return Make<FillPathRecord>(arena, false, true);
     case EMR_STROKEANDFILLPATH:
-      return std::make_unique<FillPathRecord>(true, true);
+      return Make<FillPathRecord>(arena, true, true);
     case EMR_STROKEPATH:
-      return std::make_unique<FillPathRecord>(true, false);
+      return Make<FillPathRecord>(arena, true, false);
     case EMR_SELECTCLIPPATH:
-      return std::make_unique<SelectClipPathRecord>();
+      return Make<SelectClipPathRecord>(arena);
     case EMR_GDICOMMENT:
-      return std::make_unique<GDICommentRecord>();
+      return Make<GDICommentRecord>(arena);
     case EMR_EXTCREATEFONTINDIRECTW:
-      return std::make_unique<ExtCreateFontIndirectWRecord>();
+      return Make<ExtCreateFontIndirectWRecord>(arena);
     case EMR_BITBLT:
-      return std::make_unique<BitBltRecord>();
+      return Make<BitBltRecord>(arena);
     case EMR_STRETCHDIBITS:
-      return std::make_unique<StretchDibitsRecord>();
+      return Make<StretchDibitsRecord>(arena);
     case EMR_EXTTEXTOUTA:
-      return std::make_unique<ExtTextOutRecord<char>>();
+      return Make<ExtTextOutRecord<char>>(arena);
     case EMR_EXTTEXTOUTW:
-      return std::make_unique<ExtTextOutRecord<std::uint16_t>>();
+      return Make<ExtTextOutRecord<std::uint16_t>>(arena);
     case EMR_POLYBEZIER16:
-      return MakePoly<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
+      return Make<PolybezierRecord<Point16>>(arena, kBezier, kMoveToFirst);
     case EMR_POLYGON16:
-      return MakePoly<PolygonRecord<Point16>>(kPolygon, kMoveToFirst);
+      return Make<PolygonRecord<Point16>>(arena, kPolygon, kMoveToFirst);
     case EMR_POLYLINE16:
-      return MakePoly<PolylineRecord<Point16>>(kPolyline, kMoveToFirst);
+      return Make<PolylineRecord<Point16>>(arena, kPolyline, kMoveToFirst);
     case EMR_POLYBEZIERTO16:
-      return MakePoly<PolybezierToRecord<Point16>>(kBezier, kContinue);
+      return Make<PolybezierToRecord<Point16>>(arena, kBezier, kContinue);
     case EMR_POLYLINETO16:
-      return MakePoly<PolylineToRecord<Point16>>(kPolyline, kContinue);
+      return Make<PolylineToRecord<Point16>>(arena, kPolyline, kContinue);
     case EMR_POLYPOLYLINE16:
-      return std::make_unique<PolyPolylineRecord<Point16>>(kPolyline);
+      return Make<PolyPolylineRecord<Point16>>(arena, kPolyline);
     case EMR_POLYPOLYGON16:
-      return std::make_unique<PolyPolygonRecord<Point16>>(kPolygon);
+      return Make<PolyPolygonRecord<Point16>>(arena, kPolygon);
     case EMR_POLYDRAW16:
-      return std::make_unique<PolyDrawRecord<Point16>>();
+      return Make<PolyDrawRecord<Point16>>(arena);
     case EMR_CREATEMONOBRUSH:
     case EMR_CREATEDIBPATTERNBRUSHPT:
-      return std::make_unique<CreateDIBBrushRecord>();
+      return Make<CreateDIBBrushRecord>(arena);
     case EMR_EXTCREATEPEN:
-      return std::make_unique<ExtCreatePenRecord>();
+      return Make<ExtCreatePenRecord>(arena);
     case EMR_SETICMMODE:
-      return std::make_unique<SetICMModeRecord>();
+      return Make<SetICMModeRecord>(arena);
     case EMR_SETLAYOUT:
-      return std::make_unique<SetLayoutRecord>();
+      return Make<SetLayoutRecord>(arena);
     case EMR_HEADER:  // a header met again is skipped
     case EMR_EOF:     // ends the parse before it gets here
       break;
   }
-  return std::make_unique<UnrecognizedRecord>(type);
+  return Make<UnrecognizedRecord>(arena, type);
 }
 
 }  // namespace kelvane

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <span>
 #include <type_traits>
 #include <vector>
@@ -129,7 +128,7 @@ class Reader {
 
  private:
   BufferReader source_;
-  std::deque<unsigned int> checks_;
+  std::vector<std::uint32_t> checks_;
   std::uint32_t sizeDifference_ = 0;
   std::uint64_t checkedBytes_ = 0;
   std::uint64_t decodedBytes_ = 0;  // claimed; never more than the budget

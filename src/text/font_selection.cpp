@@ -44,6 +44,16 @@ ATSUFontID Find(std::string_view name, FontNameCode code) {
   return font;
 }
 
+// Every locale holds ASCII as it is, which spares nearly every unit the way through the locale.
+void Narrow(char16_t unit, char& byte) {
+  if (unit < 0x80) {
+    byte = static_cast<char>(unit);
+    return;
+  }
+  const std::array<wchar_t, 2> wide = {static_cast<wchar_t>(unit), 0};
+  (void)std::wcstombs(&byte, wide.data(), 1);
+}
+
 }  // namespace
 
 std::string convertToCharString(std::u16string_view text) {
@@ -51,8 +61,7 @@ std::string convertToCharString(std::u16string_view text) {
   bytes.reserve(text.size());
   char byte = 0;  // set once: what cannot be converted leaves the byte before it
   for (const char16_t unit : text) {
-    const std::array<wchar_t, 2> wide = {static_cast<wchar_t>(unit), 0};
-    (void)std::wcstombs(&byte, wide.data(), 1);
+    Narrow(unit, byte);
     bytes += byte;
   }
   return bytes;

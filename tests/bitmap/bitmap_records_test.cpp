@@ -201,9 +201,10 @@ TEST(StretchDibitsRecord, OfASizeBeyondTheDataEndsTheParse) {
   EXPECT_THAT(parsed->records, SizeIs(1));
 }
 
-TEST(RecordFactory, MakesTheBitmapRecords) {
-  EXPECT_NE(dynamic_cast<BitBltRecord*>(MakeRecord(76).get()), nullptr);
-  EXPECT_NE(dynamic_cast<StretchDibitsRecord*>(MakeRecord(kStretchDibits).get()), nullptr);
+TEST(BitmapRecords, AreMadeByTheFactory) {
+  RecordArena arena;
+  EXPECT_NE(dynamic_cast<BitBltRecord*>(MakeRecord(76, arena).get()), nullptr);
+  EXPECT_NE(dynamic_cast<StretchDibitsRecord*>(MakeRecord(kStretchDibits, arena).get()), nullptr);
 }
 
 }  // namespace

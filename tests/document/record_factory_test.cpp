@@ -34,9 +34,17 @@ using draw_modes::DrawFromPointMode;
 using draw_modes::FigureMode;
 
 template <class R>
-R& MadeAs(std::unique_ptr<Record>& record) {
+R& MadeAs(OwnedRecord& record) {
   return dynamic_cast<R&>(*record);
 }
+
+class RecordFactory : public testing::Test {
+ protected:
+  OwnedRecord Make(std::uint32_t type) { return MakeRecord(type, arena_); }
+
+ private:
+  RecordArena arena_;
+};
 
 const std::map<std::uint32_t, const std::type_info*>& Classes() {
   static const std::map<std::uint32_t, const std::type_info*> kClasses = {
@@ -117,27 +125,27 @@ const std::map<std::uint32_t, const std::type_info*>& Classes() {
   return kClasses;
 }
 
-TEST(RecordFactory, MakesTheClassOfEveryType) {
+TEST_F(RecordFactory, MakesTheClassOfEveryType) {
   for (std::uint32_t type = 0; type <= 130; ++type) {
     const auto known = Classes().find(type);
     const std::type_info& expected =
         known != Classes().end() ? *known->second : typeid(UnrecognizedRecord);
-    const auto record = MakeRecord(type);
+    const auto record = Make(type);
     const Record& made = *record;
     EXPECT_EQ(std::string(typeid(made).name()), expected.name()) << "type " << type;
     EXPECT_EQ(record->size, 0U);
   }
 }
 
-TEST(RecordFactory, TellsAnUnrecognizedRecordItsType) {
+TEST_F(RecordFactory, TellsAnUnrecognizedRecordItsType) {
   for (const std::uint32_t type : {0U, 1U, 14U, 16U, 29U, 107U, 118U, 0xFFFFFFFFU}) {
-    auto record = MakeRecord(type);
+    auto record = Make(type);
     EXPECT_EQ(MadeAs<UnrecognizedRecord>(record).type, type);
   }
 }
 
-TEST(RecordFactory, NamesTheIgnoredRecord) {
-  auto record = MakeRecord(28);
+TEST_F(RecordFactory, NamesTheIgnoredRecord) {
+  auto record = Make(28);
   EXPECT_EQ(MadeAs<RecognizedButIgnoredRecord>(record).name, "EMR_SETMETARGN");
 }
 
@@ -147,7 +155,7 @@ struct Poly {
   DrawFromPointMode from;
 };
 
-TEST(RecordFactory, TellsPolyRecordsApartByTheirModes) {
+TEST_F(RecordFactory, TellsPolyRecordsApartByTheirModes) {
   constexpr Poly kPolys[] = {
       {2, FigureMode::kBezier, DrawFromPointMode::kMoveToFirst},
       {3, FigureMode::kPolygon, DrawFromPointMode::kMoveToFirst},
@@ -156,25 +164,25 @@ TEST(RecordFactory, TellsPolyRecordsApartByTheirModes) {
       {6, FigureMode::kPolyline, DrawFromPointMode::kContinue},
   };
   for (const Poly& poly : kPolys) {
-    auto wide = MakeRecord(poly.type);
+    auto wide = Make(poly.type);
     EXPECT_EQ(MadeAs<PolyRecord<PointL>>(wide).figureMode, poly.figure);
     EXPECT_EQ(MadeAs<PolyRecord<PointL>>(wide).drawFromPoint, poly.from);
-    auto narrow = MakeRecord(poly.type + 83);
+    auto narrow = Make(poly.type + 83);
     EXPECT_EQ(MadeAs<PolyRecord<Point16>>(narrow).figureMode, poly.figure);
     EXPECT_EQ(MadeAs<PolyRecord<Point16>>(narrow).drawFromPoint, poly.from);
   }
 }
 
-TEST(RecordFactory, TellsPolyPolyRecordsTheirFigureMode) {
-  auto lines = MakeRecord(7);
-  auto polygons = MakeRecord(91);
+TEST_F(RecordFactory, TellsPolyPolyRecordsTheirFigureMode) {
+  auto lines = Make(7);
+  auto polygons = Make(91);
   EXPECT_EQ(MadeAs<PolyPolyRecord<PointL>>(lines).figureMode, FigureMode::kPolyline);
   EXPECT_EQ(MadeAs<PolyPolyRecord<Point16>>(polygons).figureMode, FigureMode::kPolygon);
 }
 
-TEST(RecordFactory, TellsWhichExtentIsScaled) {
-  auto viewport = MakeRecord(31);
-  auto window = MakeRecord(32);
+TEST_F(RecordFactory, TellsWhichExtentIsScaled) {
+  auto viewport = Make(31);
+  auto window = Make(32);
   EXPECT_FALSE(MadeAs<ScaleExtExRecord>(viewport).window);
   EXPECT_TRUE(MadeAs<ScaleExtExRecord>(window).window);
 }
@@ -185,10 +193,10 @@ struct PathPainting {
   bool fills;
 };
 
-TEST(RecordFactory, TellsPathRecordsWhatToPaint) {
+TEST_F(RecordFactory, TellsPathRecordsWhatToPaint) {
   for (const auto& [type, strokes, fills] :
        {PathPainting{62, false, true}, {63, true, true}, {64, true, false}}) {
-    auto record = MakeRecord(type);
+    auto record = Make(type);
     EXPECT_EQ(MadeAs<FillPathRecord>(record).stroke, strokes);
     EXPECT_EQ(MadeAs<FillPathRecord>(record).fill, fills);
   }

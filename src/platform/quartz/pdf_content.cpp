@@ -9,6 +9,7 @@ namespace kelvane {
 namespace {
 
 constexpr std::size_t kPieceSize = std::size_t{1} << 20;
+constexpr std::size_t kMostOperands = 6;  // numbers of one operator
 
 constexpr std::array<std::string_view, 5> kPaintOperators = {"f\n", "f*\n", "S\n", "B\n", "B*\n"};
 
@@ -71,7 +72,7 @@ void PdfContent::TextMode(CGTextDrawingMode mode) {
 void PdfContent::Path(const CGPath& path) {
   EndText();
   path.ForEach([this](CGPath::Element element, const CGPoint* points) {
-    std::array<char, 6 * kNumberRoom> text;
+    std::array<char, kMostOperands * kNumberRoom> text;
     char* out = text.data();
     for (std::size_t i = 0; i < CGPath::PointCount(element); ++i) {
       out = WritePoint(out, points[i]);
@@ -142,12 +143,13 @@ void PdfContent::HandOn() {
 }
 
 void PdfContent::Write(std::initializer_list<CGFloat> operands, std::string_view op) {
-  std::array<char, kNumberRoom> text;
+  std::array<char, kMostOperands * kNumberRoom> text;
+  char* out = text.data();
   for (const CGFloat operand : operands) {
-    char* end = WriteNumber(text.data(), operand);
-    *end++ = ' ';
-    buffer_.append(text.data(), end);
+    out = WriteNumber(out, operand);
+    *out++ = ' ';
   }
+  buffer_.append(text.data(), out);
   Write(op);
 }
 

@@ -71,11 +71,12 @@ PdfWriter::PdfWriter() : compressor_(libdeflate_alloc_compressor(kDeflateLevel))
 PdfWriter::~PdfWriter() = default;
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
-  std::string room(libdeflate_zlib_compress_bound(compressor_.get(), data.size()), '\0');
-  const std::size_t size = libdeflate_zlib_compress(compressor_.get(), data.data(), data.size(),
-                                                    room.data(), room.size());
+  const std::size_t bound = libdeflate_zlib_compress_bound(compressor_.get(), data.size());
+  const auto room = std::make_unique_for_overwrite<unsigned char[]>(bound);
+  const std::size_t size =
+      libdeflate_zlib_compress(compressor_.get(), data.data(), data.size(), room.get(), bound);
   auto deflated = std::make_shared<Buffer>(size);
-  std::copy_n(room.data(), size, deflated->getBuffer());
+  std::copy_n(room.get(), size, deflated->getBuffer());
   return deflated;
 }
 

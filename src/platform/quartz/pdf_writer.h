@@ -28,7 +28,7 @@ namespace kelvane {
 class PdfWriter {
  public:
   /// How hard streams are deflated, as libdeflate counts it, from 0 to 12.
-  static constexpr int kDeflateLevel = 6;
+  static constexpr int kDeflateLevel = 4;
 
   PdfWriter();
   ~PdfWriter();

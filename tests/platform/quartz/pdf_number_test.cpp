@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -53,6 +54,16 @@ INSTANTIATE_TEST_SUITE_P(OutOfRange, NumberText,
                          testing::Values(NumberCase{std::numeric_limits<float>::quiet_NaN(), "0"},
                                          NumberCase{-std::numeric_limits<float>::quiet_NaN(),
                                                     "0"}));
+
+TEST(WriteNumber, WritesEveryShadeOfAColorAsTheStandardLibraryDoes) {
+  for (int shade = -255; shade <= 255; ++shade) {
+    const float value = static_cast<float>(shade) / 256;
+    std::array<char, kNumberRoom> text;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
+    EXPECT_EQ(Written(value), std::string(text.data(), end));
+  }
+}
 
 TEST(WriteNumber, WritesInfinityAsTheLargestNumber) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
