@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 #include <numbers>
+#include <span>
 
 #include "platform/atsui/text_items.h"
 #include "platform/atsui/text_shaper.h"
@@ -67,13 +68,14 @@ struct LinePlace {
   CGAffineTransform matrix;  // text space to user space
 };
 
-void DrawRun(const LinePlace& place, const ShapedRun& run) {
-  CGGlyphRun glyphs = {run.face.typeface->Font(), place.size, place.matrix, run.glyphs};
-  if (run.face.isSlanted) {
+void DrawGlyphs(const LinePlace& place, const StyledFace& face,
+                std::span<const CGPositionedGlyph> placed) {
+  CGGlyphRun glyphs = {face.typeface->Font(), place.size, place.matrix, placed};
+  if (face.isSlanted) {
     glyphs.matrix = CGAffineTransformConcat({1, 0, kSlant, 1, 0, 0}, place.matrix);
   }
   CGContext& context = *place.context;
-  if (!run.face.isEmboldened || context.State().textMode != kCGTextFill) {
+  if (!face.isEmboldened || context.State().textMode != kCGTextFill) {
     return context.DrawGlyphRun(glyphs);
   }
   CGContextSaveGState(&context);
@@ -90,10 +92,15 @@ void DrawRun(const LinePlace& place, const ShapedRun& run) {
 void DrawUnit(const LinePlace& place, std::u16string_view unit, const FontStyle& style,
               bool usesStandIns) {
   if (MarksNothing(unit[0]) || OnlySteers(unit[0])) return;
-  const StyledFace face = FaceFor(unit[0], style, usesStandIns);
-  const auto glyph = face.typeface->GlyphFor(unit[0]);
+  StyledFace face = style.Face();
+  auto glyph = face.typeface->GlyphFor(unit[0]);
+  if (!glyph) {
+    face = FaceFor(unit[0], style, usesStandIns);
+    glyph = face.typeface->GlyphFor(unit[0]);
+  }
   if (!glyph && !face.typeface->ShowsMissing()) return;
-  DrawRun(place, {face, {{glyph.value_or(0), {}, unit}}});
+  const CGPositionedGlyph placed = {glyph.value_or(0), {}, unit};
+  DrawGlyphs(place, face, {&placed, 1});
 }
 
 void DrawLine(const LinePlace& place, std::u16string_view text, const FontStyle& style,
@@ -105,7 +112,7 @@ void DrawLine(const LinePlace& place, std::u16string_view text, const FontStyle&
       for (CGPositionedGlyph& glyph : run.glyphs) {
         glyph.origin = {glyph.origin.x * place.size, glyph.origin.y * place.size};
       }
-      DrawRun(place, run);
+      DrawGlyphs(place, run.face, run.glyphs);
     }
     text.remove_prefix(piece.size());
   }

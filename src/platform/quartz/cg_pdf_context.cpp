@@ -46,6 +46,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     page_ = writer_.AddPage(mediaBox_);
     xobjects_ = {};
     fonts_ = {};
+    font_ = {};
     StartPage();
   }
 
@@ -97,13 +98,24 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
     BeginMark({.text = true});
-    PdfFont& font = writer_.FontFor(run.font);
-    const std::string& name = NameOf(font.Dictionary(), "/Font", "/F", fonts_);
-    const PdfTextStyle style = {name, font.CodeSize(), run.size, run.matrix};
+    if (run.font != font_.face) SetFont(run.font);
+    const PdfTextStyle style = {*font_.name, font_.font->CodeSize(), run.size, run.matrix};
     for (const CGPositionedGlyph& glyph : run.glyphs) {
-      const PdfFont::Code code = font.Encode(glyph.glyph, glyph.text);
+      const PdfFont::Code code = font_.font->Encode(glyph.glyph, glyph.text);
       content_.ShowGlyph(style, glyph.origin, code.value, code.width);
     }
+  }
+
+  /// A face as the page knows it. What it points to stays until the page ends.
+  struct PageFont {
+    CGFontRef face = nullptr;
+    PdfFont* font = nullptr;
+    const std::string* name = nullptr;
+  };
+
+  void SetFont(CGFontRef face) {
+    PdfFont& font = writer_.FontFor(face);
+    font_ = {face, &font, &NameOf(font.Dictionary(), "/Font", "/F", fonts_)};
   }
 
   [[nodiscard]] bool IsUntouched() const {
@@ -175,6 +187,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   PdfContent content_;
   Names xobjects_;
   Names fonts_;
+  PageFont font_;  // of the last glyphs
   std::optional<PendingPage> pending_;
 };
 

@@ -30,7 +30,16 @@ QPDFObjectHandle Integer(long long value) {
 
 QPDFObjectHandle Number(CGFloat value) {
   std::array<char, kNumberRoom> text;
-  return QPDFObjectHandle::parse(std::string(text.data(), WriteNumber(text.data(), value)));
+  return QPDFObjectHandle::newReal(std::string(text.data(), WriteNumber(text.data(), value)));
+}
+
+/// Codes that mean nothing but glyphs of this face.
+QPDFObjectHandle SystemInfo() {
+  auto information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Registry", QPDFObjectHandle::newString("Adobe"));
+  information.replaceKey("/Ordering", QPDFObjectHandle::newString("Identity"));
+  information.replaceKey("/Supplement", Integer(0));
+  return information;
 }
 
 int Flags(const CGFontDescription& face) {
@@ -62,7 +71,16 @@ PdfFont::PdfFont(CGFontRef font, const QPDFObjectHandle& dictionary)
   if (Face().outlines == CGFontOutlines::kCompact) cids_ = CharacterIdentifiers(*font);
 }
 
+// Nearly every glyph stands for one unit, the same one each time.
 PdfFont::Code PdfFont::Encode(CGGlyph glyph, std::u16string_view text) {
+  if (text.size() != 1) return CodeFor(glyph, text);
+  if (glyph >= units_.size()) units_.resize(std::size_t{glyph} + 1);
+  CodeOfUnit& known = units_[glyph];
+  if (known.unit != text[0]) known = {text[0], CodeFor(glyph, text)};
+  return known.code;
+}
+
+PdfFont::Code PdfFont::CodeFor(CGGlyph glyph, std::u16string_view text) {
   std::u16string key(1, static_cast<char16_t>(glyph));
   if (IsTrueType()) key += text;
   const auto known = codes_.find(key);
@@ -98,9 +116,7 @@ void PdfFont::Finish(PdfWriter& writer) {
   cidFont.replaceKey("/Type", Name("Font"));
   cidFont.replaceKey("/Subtype", Name(IsTrueType() ? "CIDFontType2" : "CIDFontType0"));
   cidFont.replaceKey("/BaseFont", Name(name));
-  cidFont.replaceKey(
-      "/CIDSystemInfo",
-      QPDFObjectHandle::parse("<< /Registry (Adobe) /Ordering (Identity) /Supplement 0 >>"));
+  cidFont.replaceKey("/CIDSystemInfo", SystemInfo());
   auto descriptor = writer.AddObject(Descriptor(name));
   cidFont.replaceKey("/FontDescriptor", descriptor);
   cidFont.replaceKey("/W", Widths());

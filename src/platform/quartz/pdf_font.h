@@ -45,6 +45,12 @@ class PdfFont {
   void Finish(PdfWriter& writer);
 
  private:
+  /// The last single unit a glyph stood for.
+  struct CodeOfUnit {
+    char16_t unit = 0;  // 0, which shows nothing, for none
+    Code code = {};
+  };
+
   struct Shown {
     CGGlyph glyph;
     CGFloat width;
@@ -55,6 +61,7 @@ class PdfFont {
   [[nodiscard]] bool IsStandard() const { return Face().outlines == CGFontOutlines::kStandard; }
   [[nodiscard]] bool IsTrueType() const { return Face().outlines == CGFontOutlines::kTrueType; }
 
+  Code CodeFor(CGGlyph glyph, std::u16string_view text);
   [[nodiscard]] std::uint16_t NewCode(CGGlyph glyph) const;
   [[nodiscard]] std::string SubsetName() const;
   [[nodiscard]] QPDFObjectHandle Widths() const;
@@ -65,6 +72,7 @@ class PdfFont {
   CFOwned<const CGFont> font_;
   QPDFObjectHandle dictionary_;
   std::vector<std::uint16_t> cids_;                 // of a CFF face that has them, by glyph
+  std::vector<CodeOfUnit> units_;                   // by glyph
   std::unordered_map<std::u16string, Code> codes_;  // by the glyph, as one unit, and the text
   std::map<std::uint16_t, Shown> shown_;            // by code
 };

@@ -1,5 +1,7 @@
 #include "platform/quartz/pdf_font_program.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <new>
 
@@ -35,6 +37,13 @@ constexpr hb_tag_t kDroppedTables[] = {
     HB_TAG('M', 'A', 'T', 'H'), HB_TAG('C', 'O', 'L', 'R'), HB_TAG('C', 'P', 'A', 'L'),
     HB_TAG('V', 'D', 'M', 'X'), HB_TAG('h', 'd', 'm', 'x'), HB_TAG('L', 'T', 'S', 'H')};
 
+/// The face's tables without those that are dropped anyway: what they say of all the characters and
+/// glyphs of the face would be gathered first.
+hb_blob_t* KeptTable(hb_face_t* /*face*/, hb_tag_t table, void* whole) {
+  if (std::ranges::find(kDroppedTables, table) != std::end(kDroppedTables)) return hb_blob_get_empty();
+  return hb_face_reference_table(static_cast<hb_face_t*>(whole), table);
+}
+
 Face FaceOf(const CGFont& font) {
   const auto program = font.Program();
   const Blob file(hb_blob_create(program.data(), static_cast<unsigned>(program.size()),
@@ -66,7 +75,8 @@ Plan MakePlan(hb_face_t* face, const std::set<CGGlyph>& glyphs, bool keepsNumber
 
 std::optional<PdfFontProgram> SubsetProgram(const CGFont& font, const std::set<CGGlyph>& glyphs) {
   const bool isCompact = font.Description().outlines == CGFontOutlines::kCompact;
-  const Face face = FaceOf(font);
+  const Face whole = FaceOf(font);
+  const Face face(hb_face_create_for_tables(KeptTable, whole.get(), nullptr));
   const Plan plan = MakePlan(face.get(), glyphs, isCompact);
   const Face subset(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
   if (!subset) return std::nullopt;

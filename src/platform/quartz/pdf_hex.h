@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,8 +12,11 @@ namespace kelvane {
 /// @param bytes  1 or 2.
 inline void AppendHex(std::string& out, std::uint16_t value, int bytes) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
-  for (int shift = 8 * bytes - 4; shift >= 0; shift -= 4)
-    out += kDigits[(value >> shift) & 15];
+  std::array<char, 4> digits{};
+  for (std::size_t i = 0; i < digits.size(); ++i)
+    digits[i] = kDigits[(value >> (12 - 4 * i)) & 15];
+  const auto count = static_cast<std::size_t>(2 * bytes);
+  out.append(digits.end() - count, digits.end());
 }
 
 }  // namespace kelvane
