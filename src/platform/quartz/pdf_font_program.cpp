@@ -40,7 +40,8 @@ constexpr hb_tag_t kDroppedTables[] = {
 /// The face's tables without those that are dropped anyway: what they say of all the characters and
 /// glyphs of the face would be gathered first.
 hb_blob_t* KeptTable(hb_face_t* /*face*/, hb_tag_t table, void* whole) {
-  if (std::ranges::find(kDroppedTables, table) != std::end(kDroppedTables)) return hb_blob_get_empty();
+  if (std::ranges::find(kDroppedTables, table) != std::end(kDroppedTables))
+    return hb_blob_get_empty();
   return hb_face_reference_table(static_cast<hb_face_t*>(whole), table);
 }
 

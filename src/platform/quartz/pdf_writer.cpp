@@ -60,8 +60,7 @@ void PdfWriter::CompressorDeleter::operator()(libdeflate_compressor* compressor)
   libdeflate_free_compressor(compressor);
 }
 
-PdfWriter::PdfWriter() : compressor_(libdeflate_alloc_compressor(kDeflateLevel)) {
-  if (!compressor_) throw std::bad_alloc();
+PdfWriter::PdfWriter() {
   pdf_.emptyPDF();
   auto information = QPDFObjectHandle::newDictionary();
   information.replaceKey("/Producer", QPDFObjectHandle::newString("kelvane " KELVANE_VERSION));
@@ -71,6 +70,9 @@ PdfWriter::PdfWriter() : compressor_(libdeflate_alloc_compressor(kDeflateLevel))
 PdfWriter::~PdfWriter() = default;
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
+  // Not before it is needed: its tables take more memory than most documents.
+  if (!compressor_) compressor_.reset(libdeflate_alloc_compressor(kDeflateLevel));
+  if (!compressor_) throw std::bad_alloc();
   const std::size_t bound = libdeflate_zlib_compress_bound(compressor_.get(), data.size());
   const auto room = std::make_unique_for_overwrite<unsigned char[]>(bound);
   const std::size_t size =

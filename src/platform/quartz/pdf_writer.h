@@ -79,7 +79,8 @@ class PdfWriter {
                                const std::shared_ptr<Buffer>& deflated);
 
   QPDF pdf_;
-  std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor_;
+  std::unique_ptr<libdeflate_compressor, CompressorDeleter>
+      compressor_;                                            // null until a stream is added
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
   std::map<CGFontRef, std::size_t> fontIndexes_;
   std::deque<PdfFont> fonts_;  // in the order of their first use
