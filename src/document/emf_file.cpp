@@ -74,8 +74,12 @@ CFOwned<CGDataConsumer> EMFFile::CreateDataConsumer(CFMutableDataRef data) const
   return CFOwned<CGDataConsumer>(CGDataConsumerCreateWithCFData(data));
 }
 
+CGRect EMFFile::PageBox() const {
+  return GetImageBox(context, header.fields.rclBounds);
+}
+
 CFOwned<CGContext> EMFFile::CreatePDFContext(CFMutableDataRef data) const {
-  const CGRect pageBox = GetImageBox(context, header.fields.rclBounds);
+  const CGRect pageBox = PageBox();
   const CFOwned<CGDataConsumer> consumer = CreateDataConsumer(data);
   return CFOwned<CGContext>(CGPDFContextCreate(consumer.get(), &pageBox, nullptr));
 }
@@ -83,7 +87,7 @@ CFOwned<CGContext> EMFFile::CreatePDFContext(CFMutableDataRef data) const {
 void EMFFile::BeginPage(CGContextRef surface) const {
   constexpr CGFloat kBlack[] = {0, 0, 0, 1};
   constexpr CGFloat kWhite[] = {1, 1, 1, 1};
-  const CGRect pageBox = GetImageBox(context, header.fields.rclBounds);
+  const CGRect pageBox = PageBox();
   CGContextBeginPage(surface, &pageBox);
   const CFOwned<const CGColorSpace> rgb(CGColorSpaceCreateDeviceRGB());
   CGContextSetFillColorSpace(surface, rgb.get());

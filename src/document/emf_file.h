@@ -47,6 +47,7 @@ class EMFFile {
   AbstractContext context;
 
  private:
+  [[nodiscard]] CGRect PageBox() const;
   [[nodiscard]] CFOwned<CGDataConsumer> CreateDataConsumer(CFMutableDataRef data) const;
   [[nodiscard]] CFOwned<CGContext> CreatePDFContext(CFMutableDataRef data) const;
   void BeginPage(CGContextRef surface) const;

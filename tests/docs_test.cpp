@@ -1,0 +1,66 @@
+#include <cstdint>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "document/record_factory.h"
+#include "document/skipped_records.h"
+#include "support/files.h"
+
+namespace kelvane {
+namespace {
+
+const std::string kRoot = KELVANE_SOURCE_DIR "/";
+
+TEST(Readme, ShowsTheExampleThatIsCompiled) {
+  const std::string example = test::ReadFile(kRoot + "tests/frontends/readme_example.c");
+  EXPECT_NE(test::ReadFile(kRoot + "README.md").find("```c\n" + example + "```\n"),
+            std::string::npos);
+}
+
+TEST(Readme, NamesASampleThatIsThere) {
+  EXPECT_NE(test::ReadFile(kRoot + "README.md").find("./dev convert samples/shapes.emf"),
+            std::string::npos);
+  EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
+}
+
+/// What docs/records.md says of each type.
+std::map<std::uint32_t, std::string> DescribedRecords() {
+  std::map<std::uint32_t, std::string> described;
+  std::istringstream table(test::ReadFile(kRoot + "docs/records.md"));
+  for (std::string line; std::getline(table, line);) {
+    std::istringstream row(line);
+    std::string bar;
+    std::uint32_t type = 0;
+    if (row >> bar >> type && bar == "|") described[type] = line.substr(line.find(" | ", 8) + 3);
+  }
+  return described;
+}
+
+TEST(RecordsPage, SaysOfExactlyTheUnknownTypesThatTheyAreSkipped) {
+  constexpr std::uint32_t kHeader = 1;  // neither ever gets to the factory
+  constexpr std::uint32_t kEnd = 14;
+  const auto described = DescribedRecords();
+  RecordArena arena;
+  for (std::uint32_t type = 0; type <= 130; ++type) {
+    if (type == kHeader || type == kEnd) continue;
+    const OwnedRecord record = MakeRecord(type, arena);
+    const bool isUnknown = dynamic_cast<UnrecognizedRecord*>(record.get()) != nullptr;
+    const auto row = described.find(type);
+    const bool isSkipped = row == described.end() || row->second == "Skipped. |";
+    EXPECT_EQ(isSkipped, isUnknown) << "type " << type;
+  }
+}
+
+TEST(RecordsPage, HasEveryTypeOfTheFormat) {
+  const auto described = DescribedRecords();
+  for (std::uint32_t type = 1; type <= 122; ++type) {
+    const bool isUnassigned = type == 69 || type == 107 || type == 117;
+    EXPECT_EQ(described.contains(type), !isUnassigned) << "type " << type;
+  }
+}
+
+}  // namespace
+}  // namespace kelvane
