@@ -19,7 +19,7 @@ constexpr std::uint32_t Brush(Ink ink) {
   return 1 + ink;
 }
 constexpr std::uint32_t Pen(Ink ink) {
-  return 1 + kColors.size() + ink;
+  return static_cast<std::uint32_t>(1 + kColors.size() + ink);
 }
 inline constexpr std::uint32_t kFirstFreeIndex = 1 + 2 * kColors.size();
 
