@@ -21,5 +21,14 @@ TEST(Readme, NamesASampleThatIsThere) {
   EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
 }
 
+TEST(Readme, ShowsTheCommandsOfACallerThatIsBuilt) {
+  const std::string project = test::ReadFile(kRoot + "tests/consumer/cpp/CMakeLists.txt");
+  for (const std::string command : {"find_package(kelvane REQUIRED)\n",
+                                    "target_link_libraries(program PRIVATE kelvane::kelvane)\n"}) {
+    EXPECT_NE(test::ReadFile(kRoot + "README.md").find("    " + command), std::string::npos);
+    EXPECT_NE(project.find("\n" + command), std::string::npos);
+  }
+}
+
 }  // namespace
 }  // namespace kelvane
