@@ -1,3 +1,4 @@
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
   const std::string package = libraries + "cmake/kelvane/";
   const std::string soname = "libkelvane.so." + LibraryABI();
   const std::string library = "libkelvane.so." + LibraryVersion();
-  EXPECT_EQ(InstalledTree().Files(), (Names{
+  EXPECT_EQ(InstalledTree().Files(), (std::set<std::string>{
                                          "bin/kelvaneConverter",
                                          "include/kelvane/kelvane.h",
                                          package + "kelvaneConfig.cmake",

@@ -1,8 +1,8 @@
 #include "support/install.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 
 namespace kelvane::test {
 namespace {
@@ -32,17 +32,15 @@ std::string InstalledTree::operator/(std::string_view name) const {
   return (std::filesystem::path(folder_.Path().string() + kPrefix) / name).string();
 }
 
-std::vector<std::string> InstalledTree::Files() const {
+std::set<std::string> InstalledTree::Files() const {
   const std::filesystem::path root = *this / "";
-  std::vector<std::string> files;
+  std::set<std::string> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     if (entry.is_directory()) continue;
-    files.push_back(entry.path().lexically_relative(root).string());
-    if (entry.is_symlink()) {
-      files.back() += " -> " + std::filesystem::read_symlink(entry.path()).string();
-    }
+    std::string name = entry.path().lexically_relative(root).string();
+    if (entry.is_symlink()) name += " -> " + std::filesystem::read_symlink(entry.path()).string();
+    files.insert(std::move(name));
   }
-  std::sort(files.begin(), files.end());
   return files;
 }
 

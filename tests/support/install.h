@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,8 @@ class InstalledTree {
   /// The path of a file or folder in it. @param name  from the prefix.
   [[nodiscard]] std::string operator/(std::string_view name) const;
 
-  /// The files in it, from the prefix and in order; a link with where it leads, as in "a -> b".
-  [[nodiscard]] std::vector<std::string> Files() const;
+  /// The files in it, from the prefix; a link with where it leads, as in "a -> b".
+  [[nodiscard]] std::set<std::string> Files() const;
 
   /// The folder of libraries, from the prefix: "lib", or what the build was configured for.
   [[nodiscard]] static std::string LibraryFolder();
