@@ -26,6 +26,15 @@ TEST(Readme, NamesASampleThatIsThere) {
   EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
 }
 
+TEST(Readme, ShowsTheCommandsOfACallerThatIsBuilt) {
+  const std::string project = test::ReadFile(kRoot + "tests/consumer/cpp/CMakeLists.txt");
+  for (const std::string command : {"find_package(kelvane REQUIRED)\n",
+                                    "target_link_libraries(program PRIVATE kelvane::kelvane)\n"}) {
+    EXPECT_NE(test::ReadFile(kRoot + "README.md").find("    " + command), std::string::npos);
+    EXPECT_NE(project.find("\n" + command), std::string::npos);
+  }
+}
+
 /// What docs/records.md says of each type.
 std::map<std::uint32_t, std::string> DescribedRecords() {
   std::map<std::uint32_t, std::string> described;

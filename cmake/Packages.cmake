@@ -1,0 +1,43 @@
+# Debian packages of what is installed: one a component.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "Kelvane developers <kelvane@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package begins with its own
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL library development converter)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SOURCE kelvane)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0kelvane1)  # older than what a distribution makes of the same version
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libkelvane${KELVANE_ABI})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS fonts-liberation)
+set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows Enhanced Metafiles into PDF
+A call turns a metafile (EMF), in memory or in a file, into a PDF of one page.
+Lines stay vectors, and text stays text that can be searched and copied. Input
+is not trusted: whatever it is, there is a document or an error.
+
+This package contains the shared library.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libkelvane-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Windows Enhanced Metafiles to PDF - development files
+A call turns a metafile (EMF), in memory or in a file, into a PDF of one page.
+
+This package contains the header, which is C, and what pkg-config and CMake
+need to build programs that use the library.")
+
+set(CPACK_DEBIAN_CONVERTER_PACKAGE_NAME kelvane)
+set(CPACK_DEBIAN_CONVERTER_PACKAGE_SECTION graphics)
+set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows Enhanced Metafiles into one-page PDFs
+The tool kelvaneConverter writes a PDF beside a metafile (EMF). Lines stay
+vectors, and text stays text that can be searched and copied. It is made for
+build pipelines, TeX and document servers, and for files nobody vouches for.")
+
+set(CPACK_KELVANE_ABI ${KELVANE_ABI})
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/../packaging/finish_staging.cmake)
+include(CPack)

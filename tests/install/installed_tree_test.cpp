@@ -1,0 +1,73 @@
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/converter.h"
+#include "support/files.h"
+#include "support/install.h"
+#include "support/process.h"
+
+namespace kelvane::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
+  const std::string libraries = InstalledTree::LibraryFolder() + "/";
+  const std::string package = libraries + "cmake/kelvane/";
+  const std::string soname = "libkelvane.so." + LibraryABI();
+  const std::string library = "libkelvane.so." + LibraryVersion();
+  EXPECT_EQ(InstalledTree().Files(), (std::set<std::string>{
+                                         "bin/kelvaneConverter",
+                                         "include/kelvane/kelvane.h",
+                                         package + "kelvaneConfig.cmake",
+                                         package + "kelvaneConfigVersion.cmake",
+                                         package + "kelvaneTargets-" + BuildType() + ".cmake",
+                                         package + "kelvaneTargets.cmake",
+                                         libraries + "libkelvane.so -> " + soname,
+                                         libraries + library,
+                                         libraries + soname + " -> " + library,
+                                         libraries + "pkgconfig/kelvane.pc",
+                                         "share/man/man1/kelvaneConverter.1",
+                                     }));
+}
+
+TEST(InstalledTree, HasAToolThatFindsItsLibrary) {
+  const InstalledTree tree;
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.emf", ReadFile(KELVANE_SOURCE_DIR "/samples/shapes.emf"));
+  const ProcessResult result =
+      test::Run({"env", "-u", "LD_LIBRARY_PATH", tree / "bin/kelvaneConverter", folder / "a.emf"});
+  EXPECT_EQ(result.output, kSuccess);
+  EXPECT_EQ(NamesIn(folder), (Names{"a.emf", "a.pdf"}));
+}
+
+// Instead of a fixed place, which would be the build's or could be planted.
+TEST(InstalledTree, HasAToolThatLooksForItsLibraryBesideItself) {
+  const InstalledTree tree;
+  EXPECT_NE(test::Run({"readelf", "-d", tree / "bin/kelvaneConverter"})
+                .output.find("runpath: [$ORIGIN/../" + InstalledTree::LibraryFolder() + "]"),
+            std::string::npos);
+}
+
+TEST(InstalledTree, HasALibraryThatProgramsKnowByItsABI) {
+  const InstalledTree tree;
+  const std::string entries =
+      test::Run({"readelf", "-d", tree / (InstalledTree::LibraryFolder() + "/libkelvane.so")})
+          .output;
+  EXPECT_NE(entries.find("soname: [libkelvane.so." + LibraryABI() + "]"), std::string::npos);
+  EXPECT_EQ(entries.find("runpath"), std::string::npos);
+}
+
+TEST(InstalledTree, NamesNoFolderOfTheBuildOrOfItsPrefix) {
+  const InstalledTree tree;
+  const ProcessResult found =
+      test::Run({"grep", "-rIE", KELVANE_SOURCE_DIR "|/opt/some|/usr/local", tree / ""});
+  EXPECT_EQ(found.output, "");
+  EXPECT_EQ(found.status, 1) << "grep tells so that nothing matches";
+}
+
+}  // namespace
+}  // namespace kelvane::test

@@ -1,0 +1,63 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/install.h"
+#include "support/process.h"
+
+namespace kelvane::test {
+namespace {
+
+using Command = std::vector<std::string>;
+
+/// A compiler with a language standard, and a file that includes the header and nothing else.
+struct Dialect {
+  const char* name;
+  const char* compiler;
+  const char* standard;
+  const char* source;
+};
+
+// No other folder of headers is looked at: it needs none, and another copy cannot be taken for it.
+ProcessResult Compile(const Dialect& dialect, const std::string& includeFolder) {
+  return Run({dialect.compiler, dialect.standard, "-Wall", "-Wextra", "-Wpedantic", "-Wconversion",
+              "-Wshadow", "-Werror", "-fsyntax-only", "-nostdinc", "-I", includeFolder,
+              dialect.source});
+}
+
+bool IsThere(const std::string& compiler) {
+  return Run({compiler, "--version"}).status == 0;
+}
+
+class PublicHeader : public testing::TestWithParam<Dialect> {
+ protected:
+  void SetUp() override {
+    if (!IsThere(GetParam().compiler)) GTEST_SKIP() << "there is no " << GetParam().compiler;
+  }
+};
+
+TEST_P(PublicHeader, CompilesAloneAndWithoutWarnings) {
+  const ProcessResult result = Compile(GetParam(), KELVANE_SOURCE_DIR "/include");
+  EXPECT_EQ(result.output, "");
+  EXPECT_EQ(result.status, 0);
+}
+
+TEST_P(PublicHeader, CompilesWhereItIsInstalled) {
+  const ProcessResult result = Compile(GetParam(), InstalledTree() / "include");
+  EXPECT_EQ(result.output, "");
+  EXPECT_EQ(result.status, 0);
+}
+
+constexpr const char* kInC = KELVANE_SOURCE_DIR "/tests/install/header_alone.c";
+constexpr const char* kInCpp = KELVANE_SOURCE_DIR "/tests/install/header_alone.cpp";
+
+INSTANTIATE_TEST_SUITE_P(, PublicHeader,
+                         testing::Values(Dialect{"GccC99", "gcc", "-std=c99", kInC},
+                                         Dialect{"GccCpp17", "g++", "-std=c++17", kInCpp},
+                                         Dialect{"ClangC99", "clang", "-std=c99", kInC},
+                                         Dialect{"ClangCpp17", "clang++", "-std=c++17", kInCpp}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace kelvane::test
