@@ -15,8 +15,9 @@ void StartPeak();
 
 /// Kinds of requests that can be made to fail.
 enum class Request : std::uint8_t {
-  kNew,     // operator new, which throws
-  kMalloc,  // all others, which return null
+  kOwnNew,  // operator new, which throws, called by our library and not by one that it calls
+  kNew,     // the same, called by anybody
+  kMalloc,  // all others, which return null, called by anybody
 };
 
 /// For as long as it lives one request of this thread fails: the one after `count` others.

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <new>
+#include <stdexcept>
 #include <string>
 
 #include <libdeflate.h>
@@ -64,6 +65,9 @@ void PdfWriter::CompressorDeleter::operator()(libdeflate_compressor* compressor)
 
 PdfWriter::PdfWriter() : compressor_(libdeflate_alloc_compressor(kDeflateLevel)) {
   if (!compressor_) throw std::bad_alloc();
+  // Not even an empty document can be read when memory runs out, and it must not be mended then.
+  pdf_.setAttemptRecovery(false);
+  pdf_.setSuppressWarnings(true);  // which would be printed
   pdf_.emptyPDF();
   auto information = QPDFObjectHandle::newDictionary();
   information.replaceKey("/Producer", QPDFObjectHandle::newString("kelvane " KELVANE_VERSION));
@@ -184,6 +188,8 @@ void PdfWriter::Write(CGDataConsumer& consumer) {
   writer.setStreamDataMode(qpdf_s_preserve);
   writer.setDeterministicID(true);
   writer.write();
+  // The library goes on without an object that it cannot read, even when only memory ran out.
+  if (pdf_.anyWarnings()) throw std::runtime_error("the document lost some of its objects");
   consumer.Commit();
 }
 
