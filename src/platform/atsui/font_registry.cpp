@@ -72,10 +72,13 @@ const FontCatalog& FontRegistry::Catalog() {
 }
 
 const Typeface* FontRegistry::Open(const InstalledFace& face) {
-  const auto [entry, isNew] = typefaces_.try_emplace({face.path, face.index});
-  if (isNew) {
-    entry->second =
-        face.path.empty() ? Typeface::StandardHelvetica() : Typeface::Open(face.path, face.index);
+  const FaceKey key = {face.path, face.index};
+  auto entry = typefaces_.find(key);
+  if (entry == typefaces_.end()) {
+    entry = typefaces_
+                .emplace(key, face.path.empty() ? Typeface::StandardHelvetica()
+                                                : Typeface::Open(face.path, face.index))
+                .first;
   }
   return entry->second.get();
 }
@@ -100,22 +103,24 @@ std::optional<InstalledFace> FontRegistry::RegularFace(const std::string& family
 }
 
 ATSUFontID FontRegistry::IdOf(const InstalledFace& face) {
+  const FaceKey key = {face.path, face.index};
+  const auto known = ids_.find(key);
+  if (known != ids_.end()) return known->second;
   const auto id = kFirstFont + static_cast<ATSUFontID>(ids_.size());
-  const auto [entry, isNew] = ids_.try_emplace({face.path, face.index}, id);
-  if (isNew) fonts_[id] = {face, Catalog().FacesOfFamily(face.family), {}};
-  return entry->second;
+  fonts_[id] = {face, Catalog().FacesOfFamily(face.family), {}};
+  ids_.emplace(key, id);
+  return id;
 }
 
 FontRegistry::Font& FontRegistry::FontOf(ATSUFontID id) {
   const auto known = fonts_.find(id);
   if (known != fonts_.end()) return known->second;
-  const auto [entry, isNew] = fonts_.try_emplace(kDefaultFont);
-  if (isNew) {
-    const InstalledFace face = DefaultFace();
-    entry->second = {face, {face}, {}};
-    if (!face.path.empty()) entry->second.family = Catalog().FacesOfFamily(face.family);
-  }
-  return entry->second;
+  const auto standard = fonts_.find(kDefaultFont);
+  if (standard != fonts_.end()) return standard->second;
+  const InstalledFace face = DefaultFace();
+  Font font = {face, {face}, {}};
+  if (!face.path.empty()) font.family = Catalog().FacesOfFamily(face.family);
+  return fonts_.emplace(kDefaultFont, std::move(font)).first->second;
 }
 
 // The face that comes closest to Helvetica; without any font, Helvetica itself as readers have it.

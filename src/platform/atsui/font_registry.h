@@ -83,7 +83,8 @@ class FontRegistry {
   using FaceKey = std::pair<std::string, unsigned>;  // file and member
   using Names = std::unordered_map<std::string, ATSUFontID>;
 
-  // All of these are called under the lock.
+  // All of these are called under the lock. What is remembered is remembered whole: one that throws
+  // leaves the question as open as it was.
   template <class LookUp>
   ATSUFontID FindOnce(Names& known, const std::string& name, const LookUp& lookUp);
   const FontCatalog& Catalog();
