@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "hostile/hostile_files.h"
 #include "limits/allocations.h"
 #include "limits/input_families.h"
 #include "support/files.h"
@@ -117,6 +118,13 @@ void ExpectWithin(const Limit& limit, const char* folder) {
 
 TEST(MemoryOfAFile, IsWithinLimitsForEveryFindOfOld) {
   ExpectWithin(kAnyInput, "tests/regression");
+}
+
+TEST(MemoryOfAFile, IsWithinLimitsForEveryHostileFile) {
+  for (const HostileFile& file : HostileFiles()) {
+    EXPECT_LT(PeakInMemory(file.bytes), kAnyInput.For(file.bytes.size())) << file.name;
+    EXPECT_LT(PeakFromFile(file.bytes), kAnyInput.For(file.bytes.size())) << file.name;
+  }
 }
 
 // With what the fonts take, which are read for the first of them that has text.
