@@ -10,7 +10,8 @@ namespace {
 constexpr const char* kDefaultFamily = "Helvetica";
 constexpr ATSUFontID kFirstFont = 10000;  // above the default's
 
-// Names and characters come from anybody's file; what is remembered of them is bounded.
+// Names and characters come from anybody's file; what is remembered of them is bounded, for all
+// fonts together. What no font has is found out as fast as it could be remembered.
 constexpr std::size_t kMostNames = 4096;
 constexpr std::size_t kMostStandIns = 65536;
 
@@ -127,7 +128,7 @@ FontRegistry::Font& FontRegistry::FontOf(ATSUFontID id) {
 InstalledFace FontRegistry::DefaultFace() {
   const FaceSet faces = Catalog().StandIns(kDefaultFamily, FC_WEIGHT_REGULAR, FC_SLANT_ROMAN);
   for (std::size_t i = 0; i < faces.Size(); ++i) {
-    if (faces.IsUsable(i) && Open(faces.At(i)) != nullptr) return faces.At(i);
+    if (Open(faces.At(i)) != nullptr) return faces.At(i);
   }
   return Regular();
 }
@@ -150,26 +151,41 @@ const FontStyle& FontRegistry::MakeStyle(const Font& font, bool isBold, bool isI
 
 std::optional<StyledFace> FontRegistry::StandIn(const FontStyle& style, char32_t character) {
   const std::scoped_lock lock(mutex_);
-  auto& known = style.standIns_;
-  auto entry = known.find(character);
-  if (entry == known.end()) {
-    if (known.size() >= kMostStandIns) known.clear();
-    entry = known.emplace(character, FindStandIn(style, character)).first;
+  auto known = style.standIns_.find(character);
+  if (known == style.standIns_.end()) {
+    const FaceSet& candidates = Candidates(style);
+    if (!candidates.CoversAnywhere(character)) return std::nullopt;
+    known = Remember(style, character, FindStandIn(style, candidates, character));
   }
-  if (entry->second.typeface == nullptr) return std::nullopt;
-  return entry->second;
+  if (known->second.typeface == nullptr) return std::nullopt;
+  return known->second;
 }
 
-StyledFace FontRegistry::FindStandIn(const FontStyle& style, char32_t character) {
-  const InstalledFace& wanted = style.wanted_;
+FontStyle::StandIns::iterator FontRegistry::Remember(const FontStyle& style, char32_t character,
+                                                     const StyledFace& face) {
+  if (standInCount_ >= kMostStandIns) {
+    for (const FontStyle& other : styles_)
+      other.standIns_ = {};
+    standInCount_ = 0;
+  }
+  const auto entry = style.standIns_.emplace(character, face).first;
+  ++standInCount_;
+  return entry;
+}
+
+const FaceSet& FontRegistry::Candidates(const FontStyle& style) {
   if (!style.candidates_) {
+    const InstalledFace& wanted = style.wanted_;
     style.candidates_ = Catalog().StandIns(wanted.family, wanted.weight, wanted.slant);
   }
-  const FaceSet& faces = *style.candidates_;
-  if (!faces.CoversAnywhere(character)) return {};
-  for (std::size_t i = 0; i < faces.Size(); ++i) {
-    if (!faces.IsUsable(i) || !faces.Covers(i, character)) continue;
-    const InstalledFace face = faces.At(i);
+  return *style.candidates_;
+}
+
+StyledFace FontRegistry::FindStandIn(const FontStyle& style, const FaceSet& candidates,
+                                     char32_t character) {
+  for (std::size_t i = 0; i < candidates.Size(); ++i) {
+    if (!candidates.Covers(i, character)) continue;
+    const InstalledFace face = candidates.At(i);
     const Typeface* const typeface = Open(face);
     if (typeface != nullptr && typeface->GlyphFor(character)) {
       return Styled(typeface, face, style.isBold_, style.isItalic_);
