@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "context/transform.h"
 #include "objects/object.h"
@@ -84,7 +84,7 @@ class AbstractContext {
   std::int32_t inPath = 0;     // not 0 inside a path bracket: drawing records only add to the path
   std::int32_t clockwise = 0;  // arc direction, as CGContextAddArc takes it
   CGContextRef context = nullptr;  // the surface; borrowed
-  std::vector<XForm> savedTransforms;
+  std::deque<XForm> savedTransforms;
   std::string sourcePath;  // the input's path, when there is one
   ContextColor bkColor;
   ContextColor fillColor;

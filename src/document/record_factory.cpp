@@ -1,7 +1,5 @@
 #include "document/record_factory.h"
 
-#include <new>
-
 #include "bitmap/bitmap_records.h"
 #include "document/record_type.h"
 #include "document/skipped_records.h"
@@ -25,170 +23,161 @@
 #include "text/text_records.h"
 
 namespace kelvane {
-namespace {
-
-template <class R, class... Arguments>
-OwnedRecord Make(RecordArena& arena, Arguments... arguments) {
-  return OwnedRecord(::new (arena.allocate(sizeof(R), alignof(R))) R(arguments...));
-}
-
-}  // namespace
-
 OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
   using enum RecordType;
   using enum draw_modes::FigureMode;
   using enum draw_modes::DrawFromPointMode;
   switch (static_cast<RecordType>(type)) {
     case EMR_POLYBEZIER:
-      return Make<PolybezierRecord<PointL>>(arena, kBezier, kMoveToFirst);
+      return arena.Make<PolybezierRecord<PointL>>(kBezier, kMoveToFirst);
     case EMR_POLYGON:
-      return Make<PolygonRecord<PointL>>(arena, kPolygon, kMoveToFirst);
+      return arena.Make<PolygonRecord<PointL>>(kPolygon, kMoveToFirst);
     case EMR_POLYLINE:
-      return Make<PolylineRecord<PointL>>(arena, kPolyline, kMoveToFirst);
+      return arena.Make<PolylineRecord<PointL>>(kPolyline, kMoveToFirst);
     case EMR_POLYBEZIERTO:
-      return Make<PolybezierToRecord<PointL>>(arena, kBezier, kContinue);
+      return arena.Make<PolybezierToRecord<PointL>>(kBezier, kContinue);
     case EMR_POLYLINETO:
-      return Make<PolylineToRecord<PointL>>(arena, kPolyline, kContinue);
+      return arena.Make<PolylineToRecord<PointL>>(kPolyline, kContinue);
     case EMR_POLYPOLYLINE:
-      return Make<PolyPolylineRecord<PointL>>(arena, kPolyline);
+      return arena.Make<PolyPolylineRecord<PointL>>(kPolyline);
     case EMR_POLYPOLYGON:
-      return Make<PolyPolygonRecord<PointL>>(arena, kPolygon);
+      return arena.Make<PolyPolygonRecord<PointL>>(kPolygon);
     case EMR_SETWINDOWEXTEX:
-      return Make<SetWindowExtExRecord>(arena);
+      return arena.Make<SetWindowExtExRecord>();
     case EMR_SETWINDOWORGEX:
-      return Make<SetWindowOrgExRecord>(arena);
+      return arena.Make<SetWindowOrgExRecord>();
     case EMR_SETVIEWPORTEXTEX:
-      return Make<SetViewPortExtExRecord>(arena);
+      return arena.Make<SetViewPortExtExRecord>();
     case EMR_SETVIEWPORTORGEX:
-      return Make<SetViewPortOrgExRecord>(arena);
+      return arena.Make<SetViewPortOrgExRecord>();
     case EMR_SETBRUSHORGEX:
-      return Make<SetBrushOrgExRecord>(arena);
+      return arena.Make<SetBrushOrgExRecord>();
     case EMR_SETPIXELV:
-      return Make<SetPixelVRecord>(arena);
+      return arena.Make<SetPixelVRecord>();
     case EMR_SETMAPMODE:
-      return Make<SetMapModeRecord>(arena);
+      return arena.Make<SetMapModeRecord>();
     case EMR_SETBKMODE:
-      return Make<SetBkModeRecord>(arena);
+      return arena.Make<SetBkModeRecord>();
     case EMR_SETPOLYFILLMODE:
-      return Make<SetPolyFillModeRecord>(arena);
+      return arena.Make<SetPolyFillModeRecord>();
     case EMR_SETROP2:
-      return Make<SetRop2Record>(arena);
+      return arena.Make<SetRop2Record>();
     case EMR_SETSTRETCHBLTMODE:
-      return Make<SetStretchBltModeRecord>(arena);
+      return arena.Make<SetStretchBltModeRecord>();
     case EMR_SETTEXTALIGN:
-      return Make<SetTextAlignRecord>(arena);
+      return arena.Make<SetTextAlignRecord>();
     case EMR_SETTEXTCOLOR:
-      return Make<SetTextColorRecord>(arena);
+      return arena.Make<SetTextColorRecord>();
     case EMR_SETBKCOLOR:
-      return Make<SetBkColorRecord>(arena);
+      return arena.Make<SetBkColorRecord>();
     case EMR_MOVETOEX:
-      return Make<MoveToExRecord>(arena);
+      return arena.Make<MoveToExRecord>();
     case EMR_SETMETARGN:
-      return Make<RecognizedButIgnoredRecord>(arena, "EMR_SETMETARGN");
+      return arena.Make<RecognizedButIgnoredRecord>("EMR_SETMETARGN");
     case EMR_INTERSECTCLIPRECT:
-      return Make<IntersectClipRectRecord>(arena);
+      return arena.Make<IntersectClipRectRecord>();
     case EMR_SCALEVIEWPORTEXTEX:
-      return Make<ScaleExtExRecord>(arena, false);
+      return arena.Make<ScaleExtExRecord>(false);
     case EMR_SCALEWINDOWEXTEX:
-      return Make<ScaleExtExRecord>(arena, true);
+      return arena.Make<ScaleExtExRecord>(true);
     case EMR_SAVEDC:
-      return Make<SaveDCRecord>(arena);
+      return arena.Make<SaveDCRecord>();
     case EMR_RESTOREDC:
-      return Make<RestoreDCRecord>(arena);
+      return arena.Make<RestoreDCRecord>();
     case EMR_SETWORLDTRANSFORM:
-      return Make<SetWorldTransformRecord>(arena);
+      return arena.Make<SetWorldTransformRecord>();
     case EMR_MODIFYWORLDTRANSFORM:
-      return Make<ModifyWorldTransformRecord>(arena);
+      return arena.Make<ModifyWorldTransformRecord>();
     case EMR_SELECTOBJECT:
-      return Make<SelectObjectRecord>(arena);
+      return arena.Make<SelectObjectRecord>();
     case EMR_CREATEPEN:
-      return Make<CreatePenRecord>(arena);
+      return arena.Make<CreatePenRecord>();
     case EMR_CREATEBRUSHINDIRECT:
-      return Make<CreateBrushIndirectRecord>(arena);
+      return arena.Make<CreateBrushIndirectRecord>();
     case EMR_DELETEOBJECT:
-      return Make<DeleteObjectRecord>(arena);
+      return arena.Make<DeleteObjectRecord>();
     case EMR_ANGLEARC:
-      return Make<AngleArcRecord>(arena);
+      return arena.Make<AngleArcRecord>();
     case EMR_ELLIPSE:
-      return Make<EllipseRecord>(arena);
+      return arena.Make<EllipseRecord>();
     case EMR_RECTANGLE:
-      return Make<RectangleRecord>(arena);
+      return arena.Make<RectangleRecord>();
     case EMR_ROUNDRECT:
-      return Make<RoundRectangleRecord>(arena);
+      return arena.Make<RoundRectangleRecord>();
     case EMR_ARC:
-      return Make<ArcRecord>(arena);
+      return arena.Make<ArcRecord>();
     case EMR_CHORD:
-      return Make<ChordRecord>(arena);
+      return arena.Make<ChordRecord>();
     case EMR_PIE:
-      return Make<PieRecord>(arena);
+      return arena.Make<PieRecord>();
     case EMR_SELECTPALETTE:
-      return Make<SelectPaletteRecord>(arena);
+      return arena.Make<SelectPaletteRecord>();
     case EMR_LINETO:
-      return Make<LineToRecord>(arena);
+      return arena.Make<LineToRecord>();
     case EMR_ARCTO:
-      return Make<ArcToRecord>(arena);
+      return arena.Make<ArcToRecord>();
     case EMR_POLYDRAW:
-      return Make<PolyDrawRecord<PointL>>(arena);
+      return arena.Make<PolyDrawRecord<PointL>>();
     case EMR_SETARCDIRECTION:
-      return Make<SetArcDirectionRecord>(arena);
+      return arena.Make<SetArcDirectionRecord>();
     case EMR_SETMITERLIMIT:
-      return Make<SetMiterLimitRecord>(arena);
+      return arena.Make<SetMiterLimitRecord>();
     case EMR_BEGINPATH:
-      return Make<BeginPathRecord>(arena);
+      return arena.Make<BeginPathRecord>();
     case EMR_ENDPATH:
-      return Make<EndPathRecord>(arena);
+      return arena.Make<EndPathRecord>();
     case EMR_CLOSEFIGURE:
-      return Make<CloseFigureRecord>(arena);
+      return arena.Make<CloseFigureRecord>();
     case EMR_FILLPATH:
-      return Make<FillPathRecord>(arena, false, true);
+      return arena.Make<FillPathRecord>(false, true);
     case EMR_STROKEANDFILLPATH:
-      return Make<FillPathRecord>(arena, true, true);
+      return arena.Make<FillPathRecord>(true, true);
     case EMR_STROKEPATH:
-      return Make<FillPathRecord>(arena, true, false);
+      return arena.Make<FillPathRecord>(true, false);
     case EMR_SELECTCLIPPATH:
-      return Make<SelectClipPathRecord>(arena);
+      return arena.Make<SelectClipPathRecord>();
     case EMR_GDICOMMENT:
-      return Make<GDICommentRecord>(arena);
+      return arena.Make<GDICommentRecord>();
     case EMR_EXTCREATEFONTINDIRECTW:
-      return Make<ExtCreateFontIndirectWRecord>(arena);
+      return arena.Make<ExtCreateFontIndirectWRecord>();
     case EMR_BITBLT:
-      return Make<BitBltRecord>(arena);
+      return arena.Make<BitBltRecord>();
     case EMR_STRETCHDIBITS:
-      return Make<StretchDibitsRecord>(arena);
+      return arena.Make<StretchDibitsRecord>();
     case EMR_EXTTEXTOUTA:
-      return Make<ExtTextOutRecord<char>>(arena);
+      return arena.Make<ExtTextOutRecord<char>>();
     case EMR_EXTTEXTOUTW:
-      return Make<ExtTextOutRecord<std::uint16_t>>(arena);
+      return arena.Make<ExtTextOutRecord<std::uint16_t>>();
     case EMR_POLYBEZIER16:
-      return Make<PolybezierRecord<Point16>>(arena, kBezier, kMoveToFirst);
+      return arena.Make<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
     case EMR_POLYGON16:
-      return Make<PolygonRecord<Point16>>(arena, kPolygon, kMoveToFirst);
+      return arena.Make<PolygonRecord<Point16>>(kPolygon, kMoveToFirst);
     case EMR_POLYLINE16:
-      return Make<PolylineRecord<Point16>>(arena, kPolyline, kMoveToFirst);
+      return arena.Make<PolylineRecord<Point16>>(kPolyline, kMoveToFirst);
     case EMR_POLYBEZIERTO16:
-      return Make<PolybezierToRecord<Point16>>(arena, kBezier, kContinue);
+      return arena.Make<PolybezierToRecord<Point16>>(kBezier, kContinue);
     case EMR_POLYLINETO16:
-      return Make<PolylineToRecord<Point16>>(arena, kPolyline, kContinue);
+      return arena.Make<PolylineToRecord<Point16>>(kPolyline, kContinue);
     case EMR_POLYPOLYLINE16:
-      return Make<PolyPolylineRecord<Point16>>(arena, kPolyline);
+      return arena.Make<PolyPolylineRecord<Point16>>(kPolyline);
     case EMR_POLYPOLYGON16:
-      return Make<PolyPolygonRecord<Point16>>(arena, kPolygon);
+      return arena.Make<PolyPolygonRecord<Point16>>(kPolygon);
     case EMR_POLYDRAW16:
-      return Make<PolyDrawRecord<Point16>>(arena);
+      return arena.Make<PolyDrawRecord<Point16>>();
     case EMR_CREATEMONOBRUSH:
     case EMR_CREATEDIBPATTERNBRUSHPT:
-      return Make<CreateDIBBrushRecord>(arena);
+      return arena.Make<CreateDIBBrushRecord>();
     case EMR_EXTCREATEPEN:
-      return Make<ExtCreatePenRecord>(arena);
+      return arena.Make<ExtCreatePenRecord>();
     case EMR_SETICMMODE:
-      return Make<SetICMModeRecord>(arena);
+      return arena.Make<SetICMModeRecord>();
     case EMR_SETLAYOUT:
-      return Make<SetLayoutRecord>(arena);
+      return arena.Make<SetLayoutRecord>();
     case EMR_HEADER:  // a header met again is skipped
     case EMR_EOF:     // ends the parse before it gets here
       break;
   }
-  return Make<UnrecognizedRecord>(arena, type);
+  return arena.Make<UnrecognizedRecord>(type);
 }
 
 }  // namespace kelvane

@@ -56,6 +56,7 @@ void WriteFirstPage(CGPDFDocumentRef document, CFURLRef url) {
   CGContextBeginPage(surface.get(), &box);
   CGContextDrawPDFDocument(surface.get(), box, document, kPage);
   CGContextEndPage(surface.get());
+  if (!document->IsSound()) throw std::runtime_error("the document cannot be read back");
   CGPDFContextClose(surface.get());
 }
 

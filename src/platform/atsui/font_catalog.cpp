@@ -69,6 +69,21 @@ InstalledFace FaceOf(const FcPattern* pattern) {
           IntegerOf(pattern, FC_WIDTH, FC_WIDTH_NORMAL)};
 }
 
+// A face of a variable font is listed for each of its named instances, and once for the font as a
+// whole, whose outlines are those of the file. The instance's number stands above the member's.
+bool IsUsable(const FcPattern* pattern) {
+  const std::string format = StringOf(pattern, FC_FONTFORMAT);
+  const int instance = IntegerOf(pattern, FC_INDEX, 0) >> 16;
+  return (format == "TrueType" || format == "CFF") && Is(pattern, FC_OUTLINE) &&
+         (instance == 0 || Is(pattern, FC_VARIABLE));
+}
+
+const FcCharSet* CharacterSetOf(const FcPattern* pattern) {
+  FcCharSet* characters = nullptr;
+  FcPatternGetCharSet(pattern, FC_CHARSET, 0, &characters);
+  return characters;
+}
+
 Pattern NewPattern() {
   Pattern pattern(FcPatternCreate());
   if (!pattern) throw std::bad_alloc();
@@ -77,28 +92,18 @@ Pattern NewPattern() {
 
 }  // namespace
 
+// What is asked of every face for each character is looked up once: looking up a property takes
+// longer than the question.
 FaceSet::FaceSet(FcFontSet* set, const FcCharSet* covered) : set_(set) {
   if (covered != nullptr) covered_ = CharactersOf(*covered);
-}
-
-std::size_t FaceSet::Size() const {
-  return set_ ? static_cast<std::size_t>(set_->nfont) : 0;
-}
-
-// A face of a variable font is listed for each of its named instances, and once for the font as a
-// whole, whose outlines are those of the file. The instance's number stands above the member's.
-bool FaceSet::IsUsable(std::size_t index) const {
-  const FcPattern* const pattern = set_->fonts[index];
-  const std::string format = StringOf(pattern, FC_FONTFORMAT);
-  const int instance = IntegerOf(pattern, FC_INDEX, 0) >> 16;
-  return (format == "TrueType" || format == "CFF") && Is(pattern, FC_OUTLINE) &&
-         (instance == 0 || Is(pattern, FC_VARIABLE));
+  for (int i = 0; set != nullptr && i < set->nfont; ++i) {
+    if (IsUsable(set->fonts[i])) faces_.push_back({set->fonts[i], CharacterSetOf(set->fonts[i])});
+  }
 }
 
 bool FaceSet::Covers(std::size_t index, char32_t character) const {
-  FcCharSet* characters = nullptr;
-  return FcPatternGetCharSet(set_->fonts[index], FC_CHARSET, 0, &characters) == FcResultMatch &&
-         FcCharSetHasChar(characters, character) != FcFalse;
+  const FcCharSet* const characters = faces_[index].characters;
+  return characters != nullptr && FcCharSetHasChar(characters, character) != FcFalse;
 }
 
 bool FaceSet::CoversAnywhere(char32_t character) const {
@@ -106,7 +111,7 @@ bool FaceSet::CoversAnywhere(char32_t character) const {
 }
 
 InstalledFace FaceSet::At(std::size_t index) const {
-  return FaceOf(set_->fonts[index]);
+  return FaceOf(faces_[index].pattern);
 }
 
 FontCatalog::FontCatalog() : config_(FcInitLoadConfigAndFonts()) {}
@@ -129,9 +134,8 @@ std::vector<InstalledFace> FontCatalog::FacesWith(const char* property,
                        FC_OUTLINE, FC_VARIABLE, nullptr));
   const FaceSet found(FcFontList(config_.get(), pattern.get(), objects.get()));
   std::vector<InstalledFace> faces;
-  for (std::size_t i = 0; i < found.Size(); ++i) {
-    if (found.IsUsable(i)) faces.push_back(found.At(i));
-  }
+  for (std::size_t i = 0; i < found.Size(); ++i)
+    faces.push_back(found.At(i));
   return faces;
 }
 

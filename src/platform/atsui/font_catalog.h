@@ -18,20 +18,18 @@ struct InstalledFace {
   int width = 0;
 };
 
-/// Faces in an order, with what each can show.
+/// Faces of outlines in files that a document can carry, in an order, with what each can show.
 class FaceSet {
  public:
   FaceSet() = default;
 
-  /// @param set  taken over. @param covered  all that the faces show together, borrowed; may be
-  ///             null, and then CoversAnywhere is true of every character.
+  /// @param set  taken over; faces that cannot be used are left out. @param covered  all that the
+  ///             faces show together, borrowed; may be null, and then CoversAnywhere is true of
+  ///             every character.
   explicit FaceSet(FcFontSet* set, const FcCharSet* covered = nullptr);
 
-  [[nodiscard]] std::size_t Size() const;
+  [[nodiscard]] std::size_t Size() const { return faces_.size(); }
   [[nodiscard]] InstalledFace At(std::size_t index) const;
-
-  /// True for a face of outlines in a file that a document can carry.
-  [[nodiscard]] bool IsUsable(std::size_t index) const;
   [[nodiscard]] bool Covers(std::size_t index, char32_t character) const;
   [[nodiscard]] bool CoversAnywhere(char32_t character) const;
 
@@ -40,7 +38,14 @@ class FaceSet {
     void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
   };
 
+  /// A usable face of the set, and the characters it has, borrowed from there; null for none.
+  struct Face {
+    const FcPattern* pattern;
+    const FcCharSet* characters;
+  };
+
   std::unique_ptr<FcFontSet, Destroyer> set_;
+  std::vector<Face> faces_;
   std::vector<bool> covered_;  // by character; empty when nothing is known
 };
 

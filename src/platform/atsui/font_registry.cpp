@@ -10,7 +10,8 @@ namespace {
 constexpr const char* kDefaultFamily = "Helvetica";
 constexpr ATSUFontID kFirstFont = 10000;  // above the default's
 
-// Names and characters come from anybody's file; what is remembered of them is bounded.
+// Names and characters come from anybody's file; what is remembered of them is bounded, for all
+// fonts together. What no font has is found out as fast as it could be remembered.
 constexpr std::size_t kMostNames = 4096;
 constexpr std::size_t kMostStandIns = 65536;
 
@@ -72,10 +73,13 @@ const FontCatalog& FontRegistry::Catalog() {
 }
 
 const Typeface* FontRegistry::Open(const InstalledFace& face) {
-  const auto [entry, isNew] = typefaces_.try_emplace({face.path, face.index});
-  if (isNew) {
-    entry->second =
-        face.path.empty() ? Typeface::StandardHelvetica() : Typeface::Open(face.path, face.index);
+  const FaceKey key = {face.path, face.index};
+  auto entry = typefaces_.find(key);
+  if (entry == typefaces_.end()) {
+    entry = typefaces_
+                .emplace(key, face.path.empty() ? Typeface::StandardHelvetica()
+                                                : Typeface::Open(face.path, face.index))
+                .first;
   }
   return entry->second.get();
 }
@@ -100,29 +104,31 @@ std::optional<InstalledFace> FontRegistry::RegularFace(const std::string& family
 }
 
 ATSUFontID FontRegistry::IdOf(const InstalledFace& face) {
+  const FaceKey key = {face.path, face.index};
+  const auto known = ids_.find(key);
+  if (known != ids_.end()) return known->second;
   const auto id = kFirstFont + static_cast<ATSUFontID>(ids_.size());
-  const auto [entry, isNew] = ids_.try_emplace({face.path, face.index}, id);
-  if (isNew) fonts_[id] = {face, Catalog().FacesOfFamily(face.family), {}};
-  return entry->second;
+  fonts_[id] = {face, Catalog().FacesOfFamily(face.family), {}};
+  ids_.emplace(key, id);
+  return id;
 }
 
 FontRegistry::Font& FontRegistry::FontOf(ATSUFontID id) {
   const auto known = fonts_.find(id);
   if (known != fonts_.end()) return known->second;
-  const auto [entry, isNew] = fonts_.try_emplace(kDefaultFont);
-  if (isNew) {
-    const InstalledFace face = DefaultFace();
-    entry->second = {face, {face}, {}};
-    if (!face.path.empty()) entry->second.family = Catalog().FacesOfFamily(face.family);
-  }
-  return entry->second;
+  const auto standard = fonts_.find(kDefaultFont);
+  if (standard != fonts_.end()) return standard->second;
+  const InstalledFace face = DefaultFace();
+  Font font = {face, {face}, {}};
+  if (!face.path.empty()) font.family = Catalog().FacesOfFamily(face.family);
+  return fonts_.emplace(kDefaultFont, std::move(font)).first->second;
 }
 
 // The face that comes closest to Helvetica; without any font, Helvetica itself as readers have it.
 InstalledFace FontRegistry::DefaultFace() {
   const FaceSet faces = Catalog().StandIns(kDefaultFamily, FC_WEIGHT_REGULAR, FC_SLANT_ROMAN);
   for (std::size_t i = 0; i < faces.Size(); ++i) {
-    if (faces.IsUsable(i) && Open(faces.At(i)) != nullptr) return faces.At(i);
+    if (Open(faces.At(i)) != nullptr) return faces.At(i);
   }
   return Regular();
 }
@@ -145,26 +151,41 @@ const FontStyle& FontRegistry::MakeStyle(const Font& font, bool isBold, bool isI
 
 std::optional<StyledFace> FontRegistry::StandIn(const FontStyle& style, char32_t character) {
   const std::scoped_lock lock(mutex_);
-  auto& known = style.standIns_;
-  auto entry = known.find(character);
-  if (entry == known.end()) {
-    if (known.size() >= kMostStandIns) known.clear();
-    entry = known.emplace(character, FindStandIn(style, character)).first;
+  auto known = style.standIns_.find(character);
+  if (known == style.standIns_.end()) {
+    const FaceSet& candidates = Candidates(style);
+    if (!candidates.CoversAnywhere(character)) return std::nullopt;
+    known = Remember(style, character, FindStandIn(style, candidates, character));
   }
-  if (entry->second.typeface == nullptr) return std::nullopt;
-  return entry->second;
+  if (known->second.typeface == nullptr) return std::nullopt;
+  return known->second;
 }
 
-StyledFace FontRegistry::FindStandIn(const FontStyle& style, char32_t character) {
-  const InstalledFace& wanted = style.wanted_;
+FontStyle::StandIns::iterator FontRegistry::Remember(const FontStyle& style, char32_t character,
+                                                     const StyledFace& face) {
+  if (standInCount_ >= kMostStandIns) {
+    for (const FontStyle& other : styles_)
+      other.standIns_ = {};
+    standInCount_ = 0;
+  }
+  const auto entry = style.standIns_.emplace(character, face).first;
+  ++standInCount_;
+  return entry;
+}
+
+const FaceSet& FontRegistry::Candidates(const FontStyle& style) {
   if (!style.candidates_) {
+    const InstalledFace& wanted = style.wanted_;
     style.candidates_ = Catalog().StandIns(wanted.family, wanted.weight, wanted.slant);
   }
-  const FaceSet& faces = *style.candidates_;
-  if (!faces.CoversAnywhere(character)) return {};
-  for (std::size_t i = 0; i < faces.Size(); ++i) {
-    if (!faces.IsUsable(i) || !faces.Covers(i, character)) continue;
-    const InstalledFace face = faces.At(i);
+  return *style.candidates_;
+}
+
+StyledFace FontRegistry::FindStandIn(const FontStyle& style, const FaceSet& candidates,
+                                     char32_t character) {
+  for (std::size_t i = 0; i < candidates.Size(); ++i) {
+    if (!candidates.Covers(i, character)) continue;
+    const InstalledFace face = candidates.At(i);
     const Typeface* const typeface = Open(face);
     if (typeface != nullptr && typeface->GlyphFor(character)) {
       return Styled(typeface, face, style.isBold_, style.isItalic_);

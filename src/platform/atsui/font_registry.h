@@ -42,9 +42,11 @@ class FontStyle {
   bool isBold_;
   bool isItalic_;
 
+  using StandIns = std::unordered_map<char32_t, StyledFace>;  // without a typeface: there is none
+
   // What is known of characters that the face does not have; read and written under the lock.
   mutable std::optional<FaceSet> candidates_;
-  mutable std::unordered_map<char32_t, StyledFace> standIns_;
+  mutable StandIns standIns_;
 };
 
 /// The fonts of this process: each is looked up, opened and read once, for all threads. The
@@ -83,7 +85,8 @@ class FontRegistry {
   using FaceKey = std::pair<std::string, unsigned>;  // file and member
   using Names = std::unordered_map<std::string, ATSUFontID>;
 
-  // All of these are called under the lock.
+  // All of these are called under the lock. What is remembered is remembered whole: one that throws
+  // leaves the question as open as it was.
   template <class LookUp>
   ATSUFontID FindOnce(Names& known, const std::string& name, const LookUp& lookUp);
   const FontCatalog& Catalog();
@@ -95,7 +98,10 @@ class FontRegistry {
   Font& FontOf(ATSUFontID id);
   InstalledFace DefaultFace();
   const FontStyle& MakeStyle(const Font& font, bool isBold, bool isItalic);
-  StyledFace FindStandIn(const FontStyle& style, char32_t character);
+  const FaceSet& Candidates(const FontStyle& style);
+  StyledFace FindStandIn(const FontStyle& style, const FaceSet& candidates, char32_t character);
+  FontStyle::StandIns::iterator Remember(const FontStyle& style, char32_t character,
+                                         const StyledFace& face);
 
   std::mutex mutex_;
   std::optional<FontCatalog> catalog_;
@@ -105,6 +111,7 @@ class FontRegistry {
   Names fullNames_;
   Names families_;
   std::deque<FontStyle> styles_;
+  std::size_t standInCount_ = 0;  // remembered in all styles
 };
 
 }  // namespace kelvane

@@ -24,20 +24,19 @@ void CGContext::EndPage() {
 
 void CGContext::ResetPage() {
   state_ = {};
-  saved_.clear();
+  saved_.Clear();
   clips_.clear();
   path_.Clear();
   textMatrix_ = {};
 }
 
 void CGContext::SaveGState() {
-  saved_.push_back(state_);
+  saved_.Push(state_);
 }
 
 void CGContext::RestoreGState() {
-  if (saved_.empty()) return;
-  state_ = saved_.back();
-  saved_.pop_back();
+  if (saved_.IsEmpty()) return;
+  state_ = saved_.Pop();
   clips_.resize(state_.clipCount);
 }
 
@@ -70,7 +69,7 @@ void CGContext::DrawPath(CGPathDrawingMode mode) {
 
 void CGContext::Clip() {
   if (path_.HasSegments() && path_.IsFinite()) {
-    clips_.push_back({std::exchange(path_, {}), nextClipSerial_++, saved_.size()});
+    clips_.push_back({std::exchange(path_, {}), nextClipSerial_++, saved_.Depth()});
     state_.clipCount = clips_.size();
   } else if (!path_.IsEmpty() && path_.IsFinite()) {
     state_.hidesAll = true;

@@ -13,6 +13,7 @@
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 #include "platform/quartz/cg_pdf_document.h"
+#include "platform/quartz/cg_saved_states.h"
 
 namespace kelvane {
 
@@ -88,7 +89,7 @@ class CGContext : public CFObject {
   void ResetPage();
 
   CGGraphicsState state_;
-  std::vector<CGGraphicsState> saved_;
+  CGSavedStates saved_;
   std::vector<CGClip> clips_;  // the first state_.clipCount are in effect
   std::uint64_t nextClipSerial_ = 1;
   CGPath path_;

@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,6 +22,13 @@ class DataConsumer final : public CGDataConsumer {
 
   void Write(std::span<const unsigned char> bytes) override {
     CFDataAppendBytes(data_.get(), bytes.data(), static_cast<CFIndex>(bytes.size()));
+  }
+
+  // Not for data that holds more already: a little room for each of many documents would mean a
+  // copy of all of them for each.
+  void Expect(std::size_t count) override {
+    std::vector<unsigned char>& bytes = data_->bytes;
+    if (bytes.size() < count) bytes.reserve(bytes.size() + count);
   }
 
   void Commit() override { committedLength_ = data_->bytes.size(); }
@@ -51,29 +59,37 @@ std::string RandomName() {
   return {name.data(), static_cast<std::size_t>(length)};
 }
 
-/// A file with a name of its own beside its final place. The name is new and is never followed when
-/// somebody has planted a link there; what the file holds reaches the final name whole or not at
-/// all.
+/// @return the descriptor, or one above the standard streams in its place: where one of those is
+///         closed, what is printed to it must not end up in the document. -1 for failure.
+int AboveStandardStreams(int descriptor) {
+  if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
+  const int above = fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+  close(descriptor);
+  return above;
+}
+
+/// The link through which a file without a name can be given one.
+std::array<char, 32> LinkTo(int descriptor) {
+  std::array<char, 32> link{};
+  (void)std::snprintf(link.data(), link.size(), "/proc/self/fd/%d", descriptor);
+  return link;
+}
+
+/// A file beside its final place, of no name or of one of its own until it is complete. The name is
+/// new and is never followed when somebody has planted a link there; what the file holds reaches
+/// the final name whole or not at all.
 class FileConsumer final : public CGDataConsumer {
  public:
   explicit FileConsumer(std::string path) : path_(std::move(path)) {}
 
   /// @return false, with errno set, when no file can be created beside the path.
   bool Create() {
-    constexpr int kAttempts = 16;
-    for (int i = 0; i < kAttempts; ++i) {
-      temporaryPath_ = FolderOf(path_) + RandomName();
-      const int descriptor =
-          open(temporaryPath_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-      if (descriptor >= 0) {
-        temporaryExists_ = true;
-        file_ = fdopen(descriptor, "wb");
-        if (file_ == nullptr) close(descriptor);
-        return file_ != nullptr;
-      }
-      if (errno != EEXIST) return false;
-    }
-    return false;
+    int descriptor = AboveStandardStreams(OpenNameless());
+    if (descriptor < 0) descriptor = AboveStandardStreams(OpenNamed());
+    if (descriptor < 0) return false;
+    file_ = fdopen(descriptor, "wb");
+    if (file_ == nullptr) close(descriptor);
+    return file_ != nullptr;
   }
 
   void Write(std::span<const unsigned char> bytes) override {
@@ -83,22 +99,63 @@ class FileConsumer final : public CGDataConsumer {
   }
 
   void Commit() override {
+    if (std::fflush(file_) != 0) ThrowErrno("writing the document");
+    if (!hasTemporaryName_ && !GiveTemporaryName()) ThrowErrno("naming the document");
     std::FILE* const file = std::exchange(file_, nullptr);
     if (std::fclose(file) != 0) ThrowErrno("writing the document");
     if (std::rename(temporaryPath_.c_str(), path_.c_str()) != 0) ThrowErrno("naming the document");
-    temporaryExists_ = false;
+    hasTemporaryName_ = false;
   }
 
  private:
   ~FileConsumer() override {
     if (file_ != nullptr) (void)std::fclose(file_);
-    if (temporaryExists_) unlink(temporaryPath_.c_str());
+    if (hasTemporaryName_) unlink(temporaryPath_.c_str());
+  }
+
+  /// A process that is ended leaves nothing of such a file. Not every file system has them.
+  [[nodiscard]] int OpenNameless() const {
+    const std::string folder = FolderOf(path_) + ".";
+    const int descriptor = open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
+    if (descriptor < 0 || access(LinkTo(descriptor).data(), F_OK) == 0) return descriptor;
+    close(descriptor);
+    return -1;
+  }
+
+  int OpenNamed() {
+    int descriptor = -1;
+    hasTemporaryName_ = TakeTemporaryName([&](const char* path) {
+      descriptor = open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+      return descriptor >= 0;
+    });
+    return descriptor;
+  }
+
+  bool GiveTemporaryName() {
+    const auto link = LinkTo(fileno(file_));
+    hasTemporaryName_ = TakeTemporaryName([&](const char* path) {
+      return linkat(AT_FDCWD, link.data(), AT_FDCWD, path, AT_SYMLINK_FOLLOW) == 0;
+    });
+    return hasTemporaryName_;
+  }
+
+  /// @param take  tries to make a file of the path, which fails with EEXIST when there is one.
+  /// @return false, with errno set, when that cannot be done.
+  template <class Take>
+  bool TakeTemporaryName(const Take& take) {
+    constexpr int kAttempts = 16;
+    for (int i = 0; i < kAttempts; ++i) {
+      temporaryPath_ = FolderOf(path_) + RandomName();
+      if (take(temporaryPath_.c_str())) return true;
+      if (errno != EEXIST) return false;
+    }
+    return false;
   }
 
   std::string path_;
   std::string temporaryPath_;
   std::FILE* file_ = nullptr;
-  bool temporaryExists_ = false;
+  bool hasTemporaryName_ = false;
 };
 
 }  // namespace

@@ -16,6 +16,10 @@ class CGDataConsumer : public CFObject {
   /// Throws std::bad_alloc or std::system_error; the document is then abandoned.
   virtual void Write(std::span<const unsigned char> bytes) = 0;
 
+  /// Says about how many bytes will be written, so that room can be made for them at once. Throws
+  /// std::bad_alloc.
+  virtual void Expect(std::size_t /*count*/) {}
+
   /// Makes what was written count. Called once, and nothing is written afterwards. Throws
   /// std::system_error.
   virtual void Commit() = 0;

@@ -40,6 +40,8 @@ struct CGGraphicsState {
   CGFloat lineWidth = 1;  // user space
   CGFloat miterLimit = 10;
   std::size_t clipCount = 0;  // how many of the page's clips are in effect, oldest first
+
+  friend bool operator==(const CGGraphicsState&, const CGGraphicsState&) = default;
 };
 
 /// One clip in effect: the area all later marks are cut to, together with the clips before it.

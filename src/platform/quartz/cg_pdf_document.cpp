@@ -22,6 +22,10 @@ CGPDFDocument::CGPDFDocument(CGDataProviderRef source)
 
 CGPDFDocument::~CGPDFDocument() = default;
 
+bool CGPDFDocument::IsSound() const {
+  return !pdf->anyWarnings();
+}
+
 CGPDFDocumentRef CGPDFDocumentCreateWithProvider(CGDataProviderRef provider) {
   if (provider == nullptr) return nullptr;
   try {

@@ -27,6 +27,10 @@ class CGPDFDocument final : public CFObject {
   /// one.
   explicit CGPDFDocument(CGDataProviderRef source);
 
+  /// @return whether all that was read of the document so far could be read. What cannot be read is
+  ///         left out without an error.
+  [[nodiscard]] bool IsSound() const;
+
   const CFOwned<const CGDataProvider> provider;  // outlives `pdf`, which reads from it
   const std::unique_ptr<QPDF> pdf;
   std::vector<CGPDFPage> pages;

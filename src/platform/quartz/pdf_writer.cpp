@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <new>
+#include <stdexcept>
 #include <string>
 
 #include <libdeflate.h>
@@ -17,6 +18,8 @@
 
 namespace kelvane {
 namespace {
+
+constexpr std::size_t kObjectRoom = 256;  // bytes that most objects stay below, their streams apart
 
 class ConsumerPipeline final : public Pipeline {
  public:
@@ -61,6 +64,9 @@ void PdfWriter::CompressorDeleter::operator()(libdeflate_compressor* compressor)
 }
 
 PdfWriter::PdfWriter() {
+  // Not even an empty document can be read when memory runs out, and it must not be mended then.
+  pdf_.setAttemptRecovery(false);
+  pdf_.setSuppressWarnings(true);  // which would be printed
   pdf_.emptyPDF();
   auto information = QPDFObjectHandle::newDictionary();
   information.replaceKey("/Producer", QPDFObjectHandle::newString("kelvane " KELVANE_VERSION));
@@ -79,6 +85,7 @@ std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) 
       libdeflate_zlib_compress(compressor_.get(), data.data(), data.size(), room.get(), bound);
   auto deflated = std::make_shared<Buffer>(size);
   std::copy_n(room.get(), size, deflated->getBuffer());
+  deflatedBytes_ += size;
   return deflated;
 }
 
@@ -177,6 +184,7 @@ QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
 void PdfWriter::Write(CGDataConsumer& consumer) {
   for (PdfFont& font : fonts_)
     font.Finish(*this);
+  consumer.Expect(deflatedBytes_ + pdf_.getObjectCount() * kObjectRoom);
   ConsumerPipeline pipeline(consumer);
   QPDFWriter writer(pdf_);
   writer.setOutputPipeline(&pipeline);
@@ -185,6 +193,8 @@ void PdfWriter::Write(CGDataConsumer& consumer) {
   writer.setStreamDataMode(qpdf_s_preserve);
   writer.setDeterministicID(true);
   writer.write();
+  // The library goes on without an object that it cannot read, even when only memory ran out.
+  if (pdf_.anyWarnings()) throw std::runtime_error("the document lost some of its objects");
   consumer.Commit();
 }
 

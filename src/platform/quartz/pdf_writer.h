@@ -79,6 +79,7 @@ class PdfWriter {
                                const std::shared_ptr<Buffer>& deflated);
 
   QPDF pdf_;
+  std::size_t deflatedBytes_ = 0;  // of all streams
   std::unique_ptr<libdeflate_compressor, CompressorDeleter>
       compressor_;                                            // null until a stream is added
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`

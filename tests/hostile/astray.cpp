@@ -1,0 +1,96 @@
+#include "hostile/hostile_files.h"
+
+namespace kelvane::test {
+namespace {
+
+constexpr std::uint32_t kUnknownType = 77;
+constexpr std::size_t kHeaderSizeAt = 4;
+
+/// A line, a record that states the size, and another line.
+std::vector<unsigned char> BetweenLines(std::uint32_t type, std::uint32_t size, const Bytes& body) {
+  Metafile metafile;
+  AddLine(metafile).RecordOfSize(type, size, body);
+  return AddLine(metafile).Build();
+}
+
+/// Records of 28 bytes, each of which claims `count` points.
+std::vector<unsigned char> Overlapping(int records, std::uint32_t count) {
+  Metafile metafile;
+  for (int i = 0; i < records; ++i)
+    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(count));
+  return metafile.Build();
+}
+
+std::vector<unsigned char> CutShort(std::vector<unsigned char> file, std::size_t bytes) {
+  file.resize(file.size() - bytes);
+  return file;
+}
+
+}  // namespace
+
+std::vector<HostileFile> FilesThatLeadAstray() {
+  const Bytes line = Bytes().Zeros(16).U32(2).Point(1, 2).Point(3, 4);
+  const std::string twice = std::string(kLineTrace) + kLineTrace;
+  std::vector<HostileFile> files = {
+      // Records that do not lead on: the parse ends with them.
+      {"size_0_of_a_skipped_record", BetweenLines(kUnknownType, 0, Bytes().Zeros(8)), 0,
+       kLineTrace},
+      {"size_4_of_a_skipped_record", BetweenLines(kUnknownType, 4, Bytes().Zeros(8)), 0,
+       kLineTrace},
+      {"size_3_of_a_skipped_record", BetweenLines(kUnknownType, 3, Bytes().Zeros(8)), 0,
+       kLineTrace},
+      {"size_0_of_a_drawn_record", BetweenLines(87, 0, line), 0, twice},
+      {"size_4_of_a_drawn_record", BetweenLines(87, 4, line), 0, twice},
+      {"size_that_wraps_to_the_file_before", BetweenLines(87, 0xFFFFFF9C, line), 0, twice},
+
+      // Records on top of each other.
+      {"overlapping_without_end", Overlapping(8000, 0x10000000), -1},
+      {"overlapping_fonts",
+       [] {
+         Metafile metafile;
+         for (int i = 0; i < 100000; ++i)
+           metafile.RecordOfSize(82, 8);
+         return metafile.Build();
+       }(),
+       -1},
+
+      // Ends.
+      {"header_size_past_the_end", WithField(Metafile().Build(), kHeaderSizeAt, 0x7FFFFFFF), -1},
+      {"header_size_at_the_end", WithField(Metafile().Build(), kHeaderSizeAt, 129), -1},
+      {"header_size_negative", WithField(Metafile().Build(), kHeaderSizeAt, 0xFFFFFFF0), -1},
+      {"skipped_record_past_the_end",
+       CutShort(Metafile().Record(kUnknownType, Bytes().Zeros(60)).BuildWithoutEnd(), 20), -1},
+      {"skipped_record_of_four_gigabytes", BetweenLines(kUnknownType, 0xFFFFFFFC, {}), 0,
+       kLineTrace},
+      {"drawn_record_cut_short",
+       CutShort(Metafile().Polyline({{1, 2}, {3, 4}, {5, 6}}).BuildWithoutEnd(), 4), 0, kLineTrace},
+      {"type_at_the_very_end",
+       [] {
+         Metafile metafile;
+         auto file = AddLine(metafile).BuildWithoutEnd();
+         file.insert(file.end(), {87, 0, 0, 0});
+         return file;
+       }(),
+       0, kLineTrace},
+      {"records_behind_the_end",
+       [] {
+         Metafile metafile;
+         return AddLine(metafile.RecordOfSize(14, 20, Bytes().Zeros(12))).Build();
+       }(),
+       0, ""},
+      {"no_header", {2, 0, 0, 0, 8, 0, 0, 0}, -1},
+      {"header_alone", CutShort(Metafile().BuildWithoutEnd(), 0), 0, ""},
+      {"half_a_header", CutShort(Metafile().BuildWithoutEnd(), 60), -1},
+
+      // Without its own fields, skipped by its size.
+      {"poly_draw",
+       [] {
+         Metafile metafile;
+         return AddLine(metafile.Record(56, Bytes().U32(0xFFFFFFFF).Zeros(40))).Build();
+       }(),
+       0, kLineTrace},
+  };
+  return files;
+}
+
+}  // namespace kelvane::test

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "support/metafile.h"
+
+namespace kelvane::test {
+
+/// A metafile that was made to do harm, and exactly what comes of it.
+struct HostileFile {
+  std::string name;
+  std::vector<unsigned char> bytes;
+  int status = 0;                          // of the conversion
+  std::string trace = {};                  // what is drawn, when the status is 0
+  std::vector<unsigned char> pixels = {};  // of the one image, where that is the point
+};
+
+/// All of them, in the groups of their files.
+std::vector<HostileFile> HostileFiles();
+
+std::vector<HostileFile> FilesThatPromiseTooMuch();  // counts, sizes, offsets
+std::vector<HostileFile> FilesThatLeadAstray();      // records that overlap, end early, go nowhere
+std::vector<HostileFile> FilesOfBadBitmaps();
+std::vector<HostileFile> FilesOfBadValues();  // numbers, handles, states
+
+/// A line to see whether what follows is still read, and what is drawn of it.
+inline constexpr const char* kLineTrace = "move 1 -2\nline 3 -4\nstroke\n";
+inline Metafile& AddLine(Metafile& metafile) {
+  return metafile.Polyline({{1, 2}, {3, 4}});
+}
+
+/// @return the file with a field of four bytes replaced.
+std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
+                                     std::uint32_t value);
+
+}  // namespace kelvane::test

@@ -1,0 +1,80 @@
+#include "hostile/hostile_files.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/quartz/cg_trace_context.h"
+#include "support/converter.h"
+#include "support/files.h"
+#include "support/library.h"
+#include "support/pdf.h"
+#include "support/playback.h"
+
+namespace kelvane::test {
+
+void PrintTo(const HostileFile& file, std::ostream* out) {
+  *out << file.name;
+}
+
+namespace {
+
+class AHostileFile : public testing::TestWithParam<HostileFile> {
+ protected:
+  void SetUp() override { WriteFile(folder_ / "a.emf", GetParam().bytes); }
+
+  const TemporaryFolder folder_;
+};
+
+/// What is drawn between the beginning of the page and its end.
+std::string TraceOf(const std::vector<unsigned char>& bytes) {
+  ParsedMetafile parsed(bytes);
+  std::string trace;
+  const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
+  parsed->DrawToPage(surface.get());
+  const std::size_t first = trace.find('\n') + 1;
+  return trace.substr(first, trace.rfind("end-page\n") - first);
+}
+
+TEST_P(AHostileFile, EndsAsItMust) {
+  using Names = std::vector<std::string>;
+  const ProcessResult result = RunConverter({folder_ / "a.emf"});
+  EXPECT_EQ(result.status, GetParam().status & 0xFF);
+  EXPECT_LT(result.processorSeconds, 1);
+  EXPECT_EQ(NamesIn(folder_), result.status == 0 ? (Names{"a.emf", "a.pdf"}) : Names{"a.emf"});
+  if (result.status == 0) {
+    EXPECT_EQ(ComplaintsAbout(folder_ / "a.pdf"), "");
+  }
+}
+
+class AHostileFileThatConverts : public AHostileFile {};
+
+TEST_P(AHostileFileThatConverts, DrawsWhatCanBeDrawnOfIt) {
+  EXPECT_EQ(TraceOf(GetParam().bytes), GetParam().trace);
+  if (GetParam().pixels.empty()) return;
+  ASSERT_EQ(RunConverter({folder_ / "a.emf"}).status, 0);
+  const auto images = Pdf(ReadFile(folder_ / "a.pdf")).Images();
+  ASSERT_EQ(images.size(), 1U);
+  EXPECT_EQ(images[0], GetParam().pixels);
+}
+
+// A byte less can be read there, so that only the status of files cut short may differ.
+TEST_P(AHostileFile, MakesADocumentInMemoryOnlyWhereItMakesAFile) {
+  const Conversion made = ConvertInMemory(GetParam().bytes);
+  EXPECT_TRUE(made.status == 0 || made.status == -1);
+  if (GetParam().status != 0) {
+    EXPECT_EQ(made.output, "");
+  }
+}
+
+std::vector<HostileFile> FilesThatConvert() {
+  std::vector<HostileFile> files = HostileFiles();
+  std::erase_if(files, [](const HostileFile& file) { return file.status != 0; });
+  return files;
+}
+
+INSTANTIATE_TEST_SUITE_P(, AHostileFileThatConverts, testing::ValuesIn(FilesThatConvert()),
+                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(, AHostileFile, testing::ValuesIn(HostileFiles()),
+                         [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace kelvane::test

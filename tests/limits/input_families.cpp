@@ -1,0 +1,297 @@
+#include "limits/input_families.h"
+
+#include <cstdint>
+
+#include "support/metafile.h"
+
+namespace kelvane::test {
+namespace {
+
+using File = std::vector<unsigned char>;
+
+constexpr std::size_t kFixed = 128 + 332 + 12;  // header, end and font
+
+std::uint32_t Number(std::size_t value) {
+  return static_cast<std::uint32_t>(value);
+}
+
+std::int32_t Signed(std::size_t value) {
+  return static_cast<std::int32_t>(value);
+}
+
+/// A coordinate on the page, another one for each number.
+std::int32_t Scattered(std::size_t number) {
+  return static_cast<std::int32_t>(Number(number) * 2654435761U >> 22);  // below 1024
+}
+
+/// Repeats what `add` adds, `bytes` of it at a time.
+template <class Add>
+File Repeated(std::size_t size, std::size_t bytes, const Add& add) {
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1024, 1024).CreateFont(1, {}).SelectObject(1);
+  for (std::size_t i = 0; i * bytes + kFixed < size; ++i)
+    add(metafile, i);
+  return metafile.Build();
+}
+
+Points ScatteredPoints(std::size_t count) {
+  Points points;
+  for (std::size_t i = 0; i < count; ++i)
+    points.push_back({Scattered(i), Scattered(3 * i + 1)});
+  return points;
+}
+
+// Records.
+
+File Saves(std::size_t size) {
+  return Repeated(size, 8, [](Metafile& metafile, std::size_t) { metafile.SaveDC(); });
+}
+
+File Attributes(std::size_t size) {
+  return Repeated(size, 12,
+                  [](Metafile& metafile, std::size_t i) { metafile.SetTextColor(Number(i)); });
+}
+
+File Comments(std::size_t size) {
+  return Repeated(size, 12,
+                  [](Metafile& metafile, std::size_t) { metafile.Record(70, Bytes().U32(0)); });
+}
+
+File Lines(std::size_t size) {
+  return Repeated(size, 36, [](Metafile& metafile, std::size_t i) {
+    metafile.Polyline({{Scattered(i), 1}, {3, Scattered(i + 1)}});
+  });
+}
+
+File Ellipses(std::size_t size) {
+  return Repeated(size, 24, [](Metafile& metafile, std::size_t i) {
+    metafile.Ellipse({Scattered(i), 1, Scattered(i + 1), 100});
+  });
+}
+
+File Pens(std::size_t size) {
+  return Repeated(size, 28 + 12 + 36, [](Metafile& metafile, std::size_t i) {
+    metafile.CreatePen(Number(i), Signed(i % 7), Number(i)).SelectObject(Number(i));
+    metafile.Polyline({{Scattered(i), 1}, {3, Scattered(i + 1)}});
+  });
+}
+
+File UnevenStrokes(std::size_t size) {
+  return Repeated(size, 36 + 36, [](Metafile& metafile, std::size_t i) {
+    metafile.ModifyWorldTransform({1, 0.25F, 0, 1.5F, 0, static_cast<float>(i % 64)}, 4);
+    metafile.Polyline({{Scattered(i), 1}, {3, Scattered(i + 1)}});
+  });
+}
+
+// Each clip lies inside the one before, and none is given back.
+File NestedClips(std::size_t size) {
+  return Repeated(size, 8 + 8 + 24 + 8 + 12 + 24, [](Metafile& metafile, std::size_t i) {
+    metafile.SaveDC().BeginPath().Rectangle({0, 0, 1000, Scattered(i)}).EndPath();
+    metafile.SelectClipPath(1).Rectangle({1, 2, 3, 4});
+  });
+}
+
+// Points.
+
+File ManyPoints(std::size_t size) {
+  return Metafile().Bounds(0, 0, 1024, 1024).Polyline(ScatteredPoints(size / 4)).Build();
+}
+
+File ManyCurves(std::size_t size) {
+  return Metafile().Bounds(0, 0, 1024, 1024).Polybezier(ScatteredPoints(size / 4)).Build();
+}
+
+File ManyFigures(std::size_t size) {
+  const std::vector<Points> figures(size / 12, Points{{1, 2}, {3, 4}});
+  return Metafile().Bounds(0, 0, 1024, 1024).PolyPolygon(figures).Build();
+}
+
+File AnOpenPath(std::size_t size) {
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1024, 1024).BeginPath().MoveTo(0, 0);
+  for (std::size_t i = 0; i * 16 < size; ++i)
+    metafile.LineTo(Scattered(i), Scattered(2 * i));
+  return metafile.Build();
+}
+
+// Text.
+
+File LinesOfText(std::size_t size) {
+  const std::u16string line(u"The quick brown fox jumps over the lazy dog, twice 0123456789.  ");
+  const std::vector<std::uint32_t> spacing(line.size(), 6);
+  return Repeated(size, 76 + 6 * line.size(), [&](Metafile& metafile, std::size_t i) {
+    metafile.TextOut({Scattered(i), Scattered(i + 1)}, line, spacing);
+  });
+}
+
+File SingleUnits(std::size_t size) {
+  return Repeated(size, 80, [](Metafile& metafile, std::size_t i) {
+    metafile.TextOut({Scattered(i), Scattered(i + 1)}, std::u16string(1, u'a'));
+  });
+}
+
+/// One line of text in one record; `escapement` 0 draws its units one by one.
+File LineOfText(std::u16string_view text, std::int32_t escapement) {
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1024, 1024).CreateFont(1, {.escapement = escapement}).SelectObject(1);
+  return metafile.TextOut({1, 2}, text).Build();
+}
+
+File OneLine(std::size_t size) {
+  return LineOfText(std::u16string(size / 2, u'x'), 0);
+}
+
+File OneTurnedLine(std::size_t size) {
+  return LineOfText(std::u16string(size / 2, u'x'), 300);
+}
+
+/// All of the basic plane in turn, which no one face has.
+std::u16string DifferentUnits(std::size_t count) {
+  std::u16string text;
+  for (std::size_t i = 0; i < count; ++i)
+    text += static_cast<char16_t>(0x20 + i % 0xD000);
+  return text;
+}
+
+File DifferentCharacters(std::size_t size) {
+  return LineOfText(DifferentUnits(size / 2), 0);
+}
+
+File DifferentCharactersTurned(std::size_t size) {
+  return LineOfText(DifferentUnits(size / 2), 300);
+}
+
+File PairsOfUnits(std::size_t size) {
+  std::u16string text;
+  for (std::size_t i = 0; i * 4 < size; ++i) {
+    text += static_cast<char16_t>(0xD800 + i / 0x400 % 0x400);
+    text += static_cast<char16_t>(0xDC00 + i % 0x400);
+  }
+  return LineOfText(text, 300);
+}
+
+File MarksOnMarks(std::size_t size) {
+  return LineOfText(std::u16string(size / 2, u'\u0301'), 300);
+}
+
+File RightToLeft(std::size_t size) {
+  std::u16string text;
+  for (std::size_t i = 0; i * 2 < size; ++i)
+    text += i % 3 == 0 ? u'(' : static_cast<char16_t>(u'\u05D0' + i % 27);
+  return LineOfText(text, 300);
+}
+
+File NarrowText(std::size_t size) {
+  Metafile metafile;
+  metafile.CreateFont(1, {}).SelectObject(1);
+  return metafile.TextOutA({1, 2}, std::string(size, 'a')).Build();
+}
+
+File FontNames(std::size_t size) {
+  return Repeated(size, 332 + 12 + 80, [](Metafile& metafile, std::size_t i) {
+    const std::string digits = std::to_string(i);
+    const FontAttributes font = {.face = std::u16string(digits.begin(), digits.end())};
+    metafile.CreateFont(1, font).SelectObject(1).TextOut({1, 2}, u"a");
+  });
+}
+
+// Bitmaps.
+
+Bytes Bitmap(std::int32_t width, std::int32_t height, std::size_t bytes) {
+  Bytes bitmap;
+  bitmap.BitmapHeader({.width = width, .height = height});
+  for (std::size_t i = 0; i * 4 < bytes; ++i)
+    bitmap.U32(Number(i) * 2654435761U);
+  return bitmap;
+}
+
+File WholeBitmaps(std::size_t size) {
+  return Repeated(size, 120 + 12288, [](Metafile& metafile, std::size_t i) {
+    const std::int32_t left = Signed(i % 512);
+    metafile.StretchDibits({left, 0, left + 64, 64}, Bitmap(64, 64, 12288));
+  });
+}
+
+File SmallBitmaps(std::size_t size) {
+  return Repeated(size, 120 + 4, [](Metafile& metafile, std::size_t i) {
+    const auto color = Number(i);
+    metafile.StretchDibits({1, 2, 3, 4}, Bytes().BitmapHeader({}).U32(color));
+  });
+}
+
+// All that may be decoded, from next to nothing.
+File ATruncatedBitmap(std::size_t size) {
+  const std::int32_t rows = Signed((8 * size + (std::size_t{16} << 20)) / 3072);
+  return Metafile().StretchDibits({0, 0, 9, 9}, Bitmap(1024, rows, size)).Build();
+}
+
+File TruncatedBitmaps(std::size_t size) {
+  return Repeated(size, 124, [](Metafile& metafile, std::size_t i) {
+    metafile.StretchDibits({1, 2, 3, 4},
+                           Bytes().BitmapHeader({.width = 16, .height = 16}).U32(Number(i)));
+  });
+}
+
+// Records that do not keep to their own bytes.
+
+File OverlappingPoints(std::size_t size) {
+  return Repeated(size, 28, [](Metafile& metafile, std::size_t) {
+    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(0x10000000));
+  });
+}
+
+// As much as one parse may read, in points of four bytes.
+File BarelyOverlappingPoints(std::size_t size) {
+  return Repeated(size, 28, [](Metafile& metafile, std::size_t) {
+    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(44));
+  });
+}
+
+// Each record is read from the ones behind it, and kept.
+template <std::uint32_t kType>
+File Overlapping(std::size_t size) {
+  return Repeated(size, 8,
+                  [](Metafile& metafile, std::size_t) { metafile.RecordOfSize(kType, 8); });
+}
+
+}  // namespace
+
+const std::vector<InputFamily>& InputFamilies() {
+  static const std::vector<InputFamily> kFamilies = {
+      {"saves", true, Saves},
+      {"attributes", true, Attributes},
+      {"comments", true, Comments},
+      {"lines", true, Lines},
+      {"ellipses", true, Ellipses},
+      {"pens", true, Pens},
+      {"uneven_strokes", true, UnevenStrokes},
+      {"nested_clips", true, NestedClips},
+      {"many_points", true, ManyPoints},
+      {"many_curves", true, ManyCurves},
+      {"many_figures", true, ManyFigures},
+      {"an_open_path", true, AnOpenPath},
+      {"lines_of_text", true, LinesOfText},
+      {"single_units", true, SingleUnits},
+      {"one_line", true, OneLine},
+      {"one_turned_line", true, OneTurnedLine},
+      {"different_characters", true, DifferentCharacters},
+      {"different_characters_turned", true, DifferentCharactersTurned},
+      {"pairs_of_units", true, PairsOfUnits},
+      {"marks_on_marks", true, MarksOnMarks},
+      {"right_to_left", true, RightToLeft},
+      {"narrow_text", true, NarrowText},
+      {"font_names", true, FontNames},
+      {"whole_bitmaps", false, WholeBitmaps},
+      {"small_bitmaps", false, SmallBitmaps},
+      {"a_truncated_bitmap", false, ATruncatedBitmap},
+      {"truncated_bitmaps", false, TruncatedBitmaps},
+      {"overlapping_points", false, OverlappingPoints},
+      {"barely_overlapping_points", false, BarelyOverlappingPoints},
+      {"overlapping_texts", false, Overlapping<84>},
+      {"overlapping_fonts", false, Overlapping<82>},
+      {"overlapping_bitmaps", false, Overlapping<81>},
+  };
+  return kFamilies;
+}
+
+}  // namespace kelvane::test

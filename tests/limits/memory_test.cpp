@@ -1,0 +1,147 @@
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "hostile/hostile_files.h"
+#include "limits/allocations.h"
+#include "limits/input_families.h"
+#include "support/files.h"
+#include "support/library.h"
+#include "support/metafile.h"
+
+namespace kelvane::test {
+
+void PrintTo(const InputFamily& family, std::ostream* out) {
+  *out << family.name;
+}
+
+namespace {
+
+using File = std::vector<unsigned char>;
+
+constexpr std::size_t kMebibyte = 1 << 20;
+
+/// What a conversion may have in use at once, above what was in use before it.
+struct Limit {
+  std::size_t timesInput;
+  std::size_t constant;
+
+  [[nodiscard]] std::size_t For(std::size_t inputSize) const {
+    return timesInput * inputSize + constant;
+  }
+};
+
+constexpr Limit kAnyInput = {64, 96 * kMebibyte};
+constexpr Limit kPlainInput = {12, 48 * kMebibyte};  // well-formed, without bitmaps
+
+std::size_t PeakInMemory(const File& file) {
+  const std::size_t before = LiveBytes();
+  StartPeak();
+  ConvertInMemory(file);
+  return PeakBytes() - before;
+}
+
+std::size_t PeakFromFile(const File& file) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.emf", file);
+  const std::string path = folder / "a.emf";
+  const std::size_t before = LiveBytes();
+  StartPeak();
+  ReadFromFile(path.c_str());
+  return PeakBytes() - before;
+}
+
+/// Converts some text, so that the fonts are read and stay read.
+void ReadFonts() {
+  Metafile metafile;
+  metafile.CreateFont(1, {}).SelectObject(1).TextOut({1, 2}, u"a\u4E2D");
+  ConvertInMemory(metafile.Build());
+}
+
+// The smallest inputs show the constant, the growth of an input what each of its bytes takes.
+
+class MemoryOfAFamily : public testing::TestWithParam<InputFamily> {
+ protected:
+  static constexpr std::size_t kSmall = kMebibyte / 2;
+  static constexpr std::size_t kLarge = 2 * kMebibyte;
+
+  void SetUp() override { ReadFonts(); }
+
+  static Limit Allowed() { return GetParam().isPlain ? kPlainInput : kAnyInput; }
+
+  static void ExpectWithinLimits(std::size_t (*peakOf)(const File&)) {
+    const File small = GetParam().make(kSmall);
+    const File large = GetParam().make(kLarge);
+    const std::size_t smallPeak = peakOf(small);
+    const std::size_t largePeak = peakOf(large);
+    RecordProperty("peak", std::to_string(largePeak));
+    EXPECT_LT(smallPeak, Allowed().For(small.size()));
+    EXPECT_LT(largePeak, Allowed().For(large.size()));
+    EXPECT_LT(largePeak, smallPeak + Allowed().timesInput * (large.size() - small.size()));
+  }
+};
+
+TEST_P(MemoryOfAFamily, IsWithinLimitsInMemory) {
+  ExpectWithinLimits(PeakInMemory);
+}
+
+TEST_P(MemoryOfAFamily, IsWithinLimitsFromAFile) {
+  ExpectWithinLimits(PeakFromFile);
+}
+
+INSTANTIATE_TEST_SUITE_P(, MemoryOfAFamily, testing::ValuesIn(InputFamilies()),
+                         [](const auto& row) { return row.param.name; });
+
+// Files.
+
+std::vector<std::filesystem::path> MetafilesIn(const char* folder) {
+  std::vector<std::filesystem::path> paths;
+  for (const auto& entry :
+       std::filesystem::directory_iterator(std::filesystem::path(KELVANE_SOURCE_DIR) / folder)) {
+    if (entry.path().extension() == ".emf") paths.push_back(entry.path());
+  }
+  return paths;
+}
+
+void ExpectWithin(const Limit& limit, const char* folder) {
+  const auto paths = MetafilesIn(folder);
+  ASSERT_FALSE(paths.empty());
+  for (const auto& path : paths) {
+    const std::string text = ReadFile(path);
+    const File file(text.begin(), text.end());
+    EXPECT_LT(PeakInMemory(file), limit.For(file.size())) << path;
+    EXPECT_LT(PeakFromFile(file), limit.For(file.size())) << path;
+  }
+}
+
+TEST(MemoryOfAFile, IsWithinLimitsForEveryFindOfOld) {
+  ExpectWithin(kAnyInput, "tests/regression");
+}
+
+TEST(MemoryOfAFile, IsWithinLimitsForEveryHostileFile) {
+  for (const HostileFile& file : HostileFiles()) {
+    EXPECT_LT(PeakInMemory(file.bytes), kAnyInput.For(file.bytes.size())) << file.name;
+    EXPECT_LT(PeakFromFile(file.bytes), kAnyInput.For(file.bytes.size())) << file.name;
+  }
+}
+
+// With what the fonts take, which are read for the first of them that has text.
+TEST(MemoryOfAFile, IsWithinLimitsForEverySample) {
+  ExpectWithin(kPlainInput, "samples");
+}
+
+TEST(Memory, IsGivenBack) {
+  ReadFonts();
+  for (const InputFamily& family : InputFamilies()) {
+    const File file = family.make(30000);
+    ConvertInMemory(file);  // what is kept for the next time, of fonts and characters
+    const std::size_t before = LiveBytes();
+    ConvertInMemory(file);
+    EXPECT_EQ(LiveBytes(), before) << family.name;
+  }
+}
+
+}  // namespace
+}  // namespace kelvane::test
