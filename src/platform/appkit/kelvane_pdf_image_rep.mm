@@ -64,7 +64,7 @@ Owned<NSImage> ImageOfPage(PopplerPage* page, BitmapSize size) {
   const NSRect area = NSMakeRect(0, 0, size.width, size.height);
   Owned<NSImage> image([[NSImage alloc] initWithSize:area.size]);
   const ImageFocus focus(image.get());
-  NSDrawBitmap(area, size.width, size.height, 8, 4, 32, size.width * 4, NO, YES,
+  NSDrawBitmap(area, size.width, size.height, 8, 4, 32, NSInteger{size.width} * 4, NO, YES,
                NSDeviceRGBColorSpace, planes.data());
   return image;
 }

@@ -42,7 +42,7 @@ std::vector<unsigned char> Page() {
 }
 
 /// The least that one leaked representation of the page would take: its PDF.
-constexpr std::ptrdiff_t kLeakOfEach = kTimes * 1000;
+constexpr std::ptrdiff_t kLeakOfEach = std::ptrdiff_t{1000} * kTimes;
 
 /// Counts how often the objects of a class are freed, for as long as it lives. One a class.
 template <const char* const& kClass>
