@@ -17,8 +17,8 @@
 - (instancetype)initWithData:(NSData*)data;
 
 /// Draws in the current graphics context, the page fitted into the receiver's size at the origin,
-/// at the resolution of the context. NO when there is no context, when it leaves no room, and when
-/// memory runs out.
+/// at the resolution of the context. NO when there is no context, when it has no room for the page
+/// or gives it more than 32767 pixels a side, and when memory runs out.
 - (BOOL)draw;
 
 @end
