@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/quartz/cg_trace_context.h"
 #include "support/corpus.h"
 #include "support/files.h"
 #include "support/playback.h"
@@ -46,13 +45,6 @@ Letters LettersOfTheRecords(ParsedMetafile& metafile) {
     if (text != nullptr) AddLetters(text->text, letters);
   }
   return letters;
-}
-
-std::string TraceOf(ParsedMetafile& metafile) {
-  std::string trace;
-  const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
-  metafile->DrawToPage(surface.get());
-  return trace;
 }
 
 /// The last numbers of a line.
@@ -100,13 +92,13 @@ class RealText : public testing::TestWithParam<std::string> {};
 TEST_P(RealText, IsDrawnToTheLastLetter) {
   ParsedMetafile metafile(CorpusBytes("real", GetParam()));
   const Letters wanted = LettersOfTheRecords(metafile);
-  EXPECT_EQ(Missing(wanted, LettersOfTheTrace(TraceOf(metafile))), "");
+  EXPECT_EQ(Missing(wanted, LettersOfTheTrace(FullTrace(metafile))), "");
 }
 
 TEST_P(RealText, IsFoundByAReader) {
   const std::vector<unsigned char> bytes = CorpusBytes("real", GetParam());
   ParsedMetafile metafile(bytes);
-  const Letters wanted = LettersOnThePage(TraceOf(metafile));
+  const Letters wanted = LettersOnThePage(FullTrace(metafile));
   if (wanted.empty()) return;
   const TemporaryFolder folder;
   WriteFile(folder / "page.pdf", ConvertToPdf(bytes));

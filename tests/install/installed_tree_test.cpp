@@ -19,19 +19,32 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
   const std::string package = libraries + "cmake/kelvane/";
   const std::string soname = "libkelvane.so." + LibraryABI();
   const std::string library = "libkelvane.so." + LibraryVersion();
-  EXPECT_EQ(InstalledTree().Files(), (std::set<std::string>{
-                                         "bin/kelvaneConverter",
-                                         "include/kelvane/kelvane.h",
-                                         package + "kelvaneConfig.cmake",
-                                         package + "kelvaneConfigVersion.cmake",
-                                         package + "kelvaneTargets-" + BuildType() + ".cmake",
-                                         package + "kelvaneTargets.cmake",
-                                         libraries + "libkelvane.so -> " + soname,
-                                         libraries + library,
-                                         libraries + soname + " -> " + library,
-                                         libraries + "pkgconfig/kelvane.pc",
-                                         "share/man/man1/kelvaneConverter.1",
-                                     }));
+  std::set<std::string> expected = {
+      "bin/kelvaneConverter",
+      "include/kelvane/kelvane.h",
+      package + "kelvaneConfig.cmake",
+      package + "kelvaneConfigVersion.cmake",
+      package + "kelvaneTargets-" + BuildType() + ".cmake",
+      package + "kelvaneTargets.cmake",
+      libraries + "libkelvane.so -> " + soname,
+      libraries + library,
+      libraries + soname + " -> " + library,
+      libraries + "pkgconfig/kelvane.pc",
+      "share/man/man1/kelvaneConverter.1",
+  };
+  if (HasAppKit()) {
+    const std::string appKit = "libkelvane-appkit.so";
+    const std::string bundle = "lib/GNUstep/Bundles/kelvane.bundle/";
+    expected.insert({
+        "include/kelvane/torvi_emf_image_rep.h",
+        libraries + appKit + " -> " + appKit + "." + LibraryABI(),
+        libraries + appKit + "." + LibraryABI() + " -> " + appKit + "." + LibraryVersion(),
+        libraries + appKit + "." + LibraryVersion(),
+        bundle + "kelvane",
+        bundle + "Resources/Info-gnustep.plist",
+    });
+  }
+  EXPECT_EQ(InstalledTree().Files(), expected);
 }
 
 TEST(InstalledTree, HasAToolThatFindsItsLibrary) {

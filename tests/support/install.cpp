@@ -77,4 +77,8 @@ std::string BuildType() {
   return KELVANE_BUILD_TYPE;
 }
 
+bool HasAppKit() {
+  return KELVANE_HAS_APPKIT != 0;
+}
+
 }  // namespace kelvane::test

@@ -46,4 +46,7 @@ std::string LibraryVersion();
 std::string LibraryABI();
 std::string BuildType();
 
+/// Whether the build has the AppKit part, which is installed with it.
+bool HasAppKit();
+
 }  // namespace kelvane::test

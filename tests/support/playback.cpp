@@ -21,12 +21,16 @@ TracedPage::TracedPage() : surface_(CGTraceContextCreate(trace_)) {
   context_.context = surface_.get();
 }
 
-std::string FullTrace(const Metafile& metafile) {
-  ParsedMetafile parsed(metafile.Build());
+std::string FullTrace(ParsedMetafile& metafile) {
   std::string trace;
   const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
-  parsed->DrawToPage(surface.get());
+  metafile->DrawToPage(surface.get());
   return trace;
+}
+
+std::string FullTrace(const Metafile& metafile) {
+  ParsedMetafile parsed(metafile.Build());
+  return FullTrace(parsed);
 }
 
 std::string Trace(const Metafile& metafile) {

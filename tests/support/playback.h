@@ -43,6 +43,7 @@ class TracedPage {
 };
 
 /// @return the trace of the whole playback, page lines included.
+std::string FullTrace(ParsedMetafile& metafile);
 std::string FullTrace(const Metafile& metafile);
 
 /// @return the trace of the playback between the page's first line and its last.
