@@ -100,7 +100,7 @@ class ConverterOnASmallDisk : public testing::Test {
   ProcessResult OnADisk(const std::string& size, const std::string& commands) {
     std::filesystem::create_directory(disk_.Path() / "disk");
     return test::Run({"timeout", "10", "unshare", "-m", "sh", "-c",
-                      "mount -t tmpfs -o size=" + size + " none \"$0\" && cd \"$0\" && " + commands,
+                      "mount -t tmpfs -o size=" + size + R"( none "$0" && cd "$0" && )" + commands,
                       disk_ / "disk", folder_.Path().string(), KELVANE_CONVERTER});
   }
 
