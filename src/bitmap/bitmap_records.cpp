@@ -13,6 +13,11 @@ constexpr std::uint32_t kLeaveDestination = 0x00AA0029;
 constexpr std::uint32_t kPatInvert = 0x005A0049;
 constexpr std::uint32_t kSrcInvert = 0x00660046;
 
+// An image takes far more than its pixels in a document. Records that overlap could share the bytes
+// of a bitmap and still make an image each, so bytes behind a record's own end count as many
+// decoded ones.
+constexpr std::uint64_t kPriceOfABorrowedByte = 8;
+
 }  // namespace
 
 void BitBltRecord::drawToPDF(AbstractContext& context) const {
@@ -43,8 +48,11 @@ void StretchDibitsRecord::read(Reader& reader) {
     flipped = true;
   }
   dib.read(reader);
-  if (const std::int64_t rest = end - reader.getPosition(); rest > 0) {
+  const std::int64_t rest = end - reader.getPosition();
+  if (rest > 0) {
     (void)reader.TakeBytes(static_cast<std::size_t>(rest));
+  } else if (!reader.ClaimDecodedBytes(kPriceOfABorrowedByte * static_cast<std::uint64_t>(-rest))) {
+    dib.data.clear();
   }
 }
 

@@ -254,6 +254,16 @@ File Overlapping(std::size_t size) {
                   [](Metafile& metafile, std::size_t) { metafile.RecordOfSize(kType, 8); });
 }
 
+// A small bitmap every 36 bytes, each another one: its header lies in the records behind it, whose
+// words are fields of several headers at once, and so do its colours and its eight pixels.
+File OverlappingSmallBitmaps(std::size_t size) {
+  constexpr std::uint32_t kDepth = 24 << 16 | 1;
+  return Repeated(size, 36, [](Metafile& metafile, std::size_t i) {
+    const Bytes words = Bytes().U32(40).U32(8).U32(1).U32(kDepth).U32(0).U32(Number(i)).U32(0);
+    metafile.RecordOfSize(81, 36, words);
+  });
+}
+
 }  // namespace
 
 const std::vector<InputFamily>& InputFamilies() {
@@ -290,6 +300,7 @@ const std::vector<InputFamily>& InputFamilies() {
       {"overlapping_texts", false, Overlapping<84>},
       {"overlapping_fonts", false, Overlapping<82>},
       {"overlapping_bitmaps", false, Overlapping<81>},
+      {"overlapping_small_bitmaps", false, OverlappingSmallBitmaps},
   };
   return kFamilies;
 }

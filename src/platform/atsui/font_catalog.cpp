@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <new>
 #include <string_view>
+#include <utility>
 
 namespace kelvane {
 namespace {
@@ -23,10 +24,10 @@ struct CharacterSetDestroyer {
 
 // A copy of our own: the library links the parts of its sets by offsets, which leak checkers cannot
 // follow, and this one lives as long as the process.
-std::vector<bool> CharactersOf(const FcCharSet& set) {
+std::shared_ptr<const Characters> CharactersOf(const FcCharSet& set) {
   constexpr std::size_t kEndOfUnicode = 0x110000;
   constexpr FcChar32 kBits = 32;
-  std::vector<bool> characters(kEndOfUnicode);
+  Characters characters(kEndOfUnicode);
   std::array<FcChar32, FC_CHARSET_MAP_SIZE> page{};
   FcChar32 next = 0;
   for (FcChar32 first = FcCharSetFirstPage(&set, page.data(), &next); first != FC_CHARSET_DONE;
@@ -35,7 +36,7 @@ std::vector<bool> CharactersOf(const FcCharSet& set) {
       characters[first + i] = (page[i / kBits] >> (i % kBits) & 1) != 0;
     }
   }
-  return characters;
+  return std::make_shared<const Characters>(std::move(characters));
 }
 
 const FcChar8* Text(const std::string& text) {
@@ -94,10 +95,11 @@ Pattern NewPattern() {
 
 // What is asked of every face for each character is looked up once: looking up a property takes
 // longer than the question.
-FaceSet::FaceSet(FcFontSet* set, const FcCharSet* covered) : set_(set) {
-  if (covered != nullptr) covered_ = CharactersOf(*covered);
-  for (int i = 0; set != nullptr && i < set->nfont; ++i) {
-    if (IsUsable(set->fonts[i])) faces_.push_back({set->fonts[i], CharacterSetOf(set->fonts[i])});
+FaceSet::FaceSet(FontSet set, std::shared_ptr<const Characters> covered)
+    : set_(std::move(set)), covered_(std::move(covered)) {
+  for (int i = 0; set_ && i < set_->nfont; ++i) {
+    const FcPattern* const pattern = set_->fonts[i];
+    if (IsUsable(pattern)) faces_.push_back({pattern, CharacterSetOf(pattern)});
   }
 }
 
@@ -107,7 +109,7 @@ bool FaceSet::Covers(std::size_t index, char32_t character) const {
 }
 
 bool FaceSet::CoversAnywhere(char32_t character) const {
-  return covered_.empty() || (character < covered_.size() && covered_[character]);
+  return covered_ == nullptr || (character < covered_->size() && (*covered_)[character]);
 }
 
 InstalledFace FaceSet::At(std::size_t index) const {
@@ -132,7 +134,7 @@ std::vector<InstalledFace> FontCatalog::FacesWith(const char* property,
   const std::unique_ptr<FcObjectSet, ObjectSetDestroyer> objects(
       FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_WEIGHT, FC_SLANT, FC_WIDTH, FC_FONTFORMAT,
                        FC_OUTLINE, FC_VARIABLE, nullptr));
-  const FaceSet found(FcFontList(config_.get(), pattern.get(), objects.get()));
+  const FaceSet found(FaceSet::FontSet(FcFontList(config_.get(), pattern.get(), objects.get())));
   std::vector<InstalledFace> faces;
   for (std::size_t i = 0; i < found.Size(); ++i)
     faces.push_back(found.At(i));
@@ -157,7 +159,7 @@ std::vector<std::string> FontCatalog::Equivalents(const std::string& family) con
   return families;
 }
 
-FaceSet FontCatalog::StandIns(const std::string& family, int weight, int slant) const {
+FaceSet FontCatalog::StandIns(const std::string& family, int weight, int slant) {
   if (!config_) return {};
   const Pattern pattern = NewPattern();
   FcPatternAddString(pattern.get(), FC_FAMILY, Text(family));
@@ -169,9 +171,11 @@ FaceSet FontCatalog::StandIns(const std::string& family, int weight, int slant) 
   FcDefaultSubstitute(pattern.get());
   FcResult result = FcResultMatch;
   FcCharSet* covered = nullptr;
-  FcFontSet* const set = FcFontSort(config_.get(), pattern.get(), FcFalse, &covered, &result);
+  FaceSet::FontSet set(FcFontSort(config_.get(), pattern.get(), FcFalse, &covered, &result));
   const std::unique_ptr<FcCharSet, CharacterSetDestroyer> owned(covered);
-  return FaceSet(set, covered);
+  // Whatever the order, the faces are all there are.
+  if (covered_ == nullptr && covered != nullptr) covered_ = CharactersOf(*covered);
+  return FaceSet(std::move(set), covered_);
 }
 
 }  // namespace kelvane

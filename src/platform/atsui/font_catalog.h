@@ -18,15 +18,23 @@ struct InstalledFace {
   int width = 0;
 };
 
+/// Characters, as bits by their numbers.
+using Characters = std::vector<bool>;
+
 /// Faces of outlines in files that a document can carry, in an order, with what each can show.
 class FaceSet {
  public:
+  struct Destroyer {
+    void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
+  };
+  using FontSet = std::unique_ptr<FcFontSet, Destroyer>;
+
   FaceSet() = default;
 
-  /// @param set  taken over; faces that cannot be used are left out. @param covered  all that the
-  ///             faces show together, borrowed; may be null, and then CoversAnywhere is true of
-  ///             every character.
-  explicit FaceSet(FcFontSet* set, const FcCharSet* covered = nullptr);
+  /// @param set  may be null; faces that cannot be used are left out. @param covered  all that the
+  ///             faces show together; may be null, and then CoversAnywhere is true of every
+  ///             character.
+  explicit FaceSet(FontSet set, std::shared_ptr<const Characters> covered = nullptr);
 
   [[nodiscard]] std::size_t Size() const { return faces_.size(); }
   [[nodiscard]] InstalledFace At(std::size_t index) const;
@@ -34,19 +42,15 @@ class FaceSet {
   [[nodiscard]] bool CoversAnywhere(char32_t character) const;
 
  private:
-  struct Destroyer {
-    void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
-  };
-
   /// A usable face of the set, and the characters it has, borrowed from there; null for none.
   struct Face {
     const FcPattern* pattern;
     const FcCharSet* characters;
   };
 
-  std::unique_ptr<FcFontSet, Destroyer> set_;
+  FontSet set_;
   std::vector<Face> faces_;
-  std::vector<bool> covered_;  // by character; empty when nothing is known
+  std::shared_ptr<const Characters> covered_;
 };
 
 /// The fonts of the machine, as Fontconfig's configuration of this process has them. Names are
@@ -65,7 +69,7 @@ class FontCatalog {
   [[nodiscard]] std::vector<std::string> Equivalents(const std::string& family) const;
 
   /// @return every face, the closest to the one asked for first, whatever the locale.
-  [[nodiscard]] FaceSet StandIns(const std::string& family, int weight, int slant) const;
+  [[nodiscard]] FaceSet StandIns(const std::string& family, int weight, int slant);
 
  private:
   struct Destroyer {
@@ -76,6 +80,7 @@ class FontCatalog {
                                                      const std::string& value) const;
 
   std::unique_ptr<FcConfig, Destroyer> config_;  // null when not even a fallback could be made
+  std::shared_ptr<const Characters> covered_;    // by all faces together; null until it is asked
 };
 
 }  // namespace kelvane

@@ -67,7 +67,7 @@ ATSUFontID FontRegistry::FindOnce(Names& known, const std::string& name, const L
   return known[name] = face ? IdOf(*face) : kNoFont;
 }
 
-const FontCatalog& FontRegistry::Catalog() {
+FontCatalog& FontRegistry::Catalog() {
   if (!catalog_) catalog_.emplace();
   return *catalog_;
 }

@@ -89,7 +89,7 @@ class FontRegistry {
   // leaves the question as open as it was.
   template <class LookUp>
   ATSUFontID FindOnce(Names& known, const std::string& name, const LookUp& lookUp);
-  const FontCatalog& Catalog();
+  FontCatalog& Catalog();
   const Typeface* Open(const InstalledFace& face);
   std::optional<InstalledFace> Closest(std::vector<InstalledFace> faces,
                                        const InstalledFace& wanted);
