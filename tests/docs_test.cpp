@@ -1,5 +1,7 @@
 #include <cstdint>
+#include <filesystem>
 #include <map>
+#include <regex>
 #include <sstream>
 #include <string>
 
@@ -24,6 +26,17 @@ TEST(Readme, NamesASampleThatIsThere) {
   EXPECT_NE(test::ReadFile(kRoot + "README.md").find("./dev convert samples/shapes.emf"),
             std::string::npos);
   EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
+}
+
+TEST(Readme, LeadsToPagesThatAreThere) {
+  const std::string readme = test::ReadFile(kRoot + "README.md");
+  const std::regex link("\\]\\(([^)]+)\\)");
+  int links = 0;
+  for (std::sregex_iterator match(readme.begin(), readme.end(), link), end; match != end; ++match) {
+    EXPECT_TRUE(std::filesystem::exists(kRoot + (*match)[1].str())) << (*match)[1];
+    ++links;
+  }
+  EXPECT_GT(links, 5);
 }
 
 TEST(Readme, ShowsTheCommandsOfACallerThatIsBuilt) {
