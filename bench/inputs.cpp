@@ -144,7 +144,7 @@ std::vector<unsigned char> LabelledDiagram(std::size_t bytes) {
 
 std::vector<unsigned char> Drawing(std::size_t bytes) {
   constexpr std::uint32_t kPen = 1;
-  constexpr std::size_t kGroupSize = 28 + 44 + 4 * 200 + 28 + 4 * 61 + 20 * 2 * kLineSize;
+  constexpr std::size_t kGroupSize = 28 + 44 + 4 * 200 + 28 + 4 * 61 + 40 * kLineSize;
   Metafile metafile;
   metafile.Bounds(0, 0, 32000, 32000);
   Wanderer wanderer;

@@ -5,12 +5,11 @@
 
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include "inputs.h"
 #include "report/goals.h"
 #include "support/files.h"
-
-extern char** environ;
 
 namespace kelvane::bench {
 namespace {
@@ -20,6 +19,7 @@ constexpr int kRuns = 101;
 /// Runs a program to its end, its output thrown away.
 void Start(const std::vector<std::string>& command) {
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& argument : command)
     arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);

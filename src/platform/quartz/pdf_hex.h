@@ -15,8 +15,7 @@ inline void AppendHex(std::string& out, std::uint16_t value, int bytes) {
   std::array<char, 4> digits{};
   for (std::size_t i = 0; i < digits.size(); ++i)
     digits[i] = kDigits[(value >> (12 - 4 * i)) & 15];
-  const auto count = static_cast<std::size_t>(2 * bytes);
-  out.append(digits.end() - count, digits.end());
+  out.append(digits.end() - std::ptrdiff_t{2} * bytes, digits.end());
 }
 
 }  // namespace kelvane
