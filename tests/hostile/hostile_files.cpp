@@ -1,5 +1,7 @@
 #include "hostile/hostile_files.h"
 
+#include <algorithm>
+
 namespace kelvane::test {
 
 std::vector<HostileFile> HostileFiles() {
@@ -13,9 +15,7 @@ std::vector<HostileFile> HostileFiles() {
 
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
                                      std::uint32_t value) {
-  for (std::size_t i = 0; i < 4; ++i) {
-    file[offset + i] = static_cast<unsigned char>(value >> (8 * i));
-  }
+  std::ranges::copy(Bytes().U32(value).Data(), file.begin() + static_cast<std::ptrdiff_t>(offset));
   return file;
 }
 

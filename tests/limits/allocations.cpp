@@ -41,7 +41,7 @@ thread_local Failure failure;
 
 /// The code of one shared library.
 struct CodeRange {
-  std::string_view library;
+  std::string_view name;
   std::uintptr_t start = 0;
   std::uintptr_t end = 0;
 
@@ -53,7 +53,7 @@ struct CodeRange {
 
 int FindCode(dl_phdr_info* object, std::size_t /*size*/, void* found) {
   auto& range = *static_cast<CodeRange*>(found);
-  if (std::string_view(object->dlpi_name).find(range.library) == std::string_view::npos) return 0;
+  if (std::string_view(object->dlpi_name).find(range.name) == std::string_view::npos) return 0;
   const std::span segments(object->dlpi_phdr, object->dlpi_phnum);
   for (const auto& segment : segments) {
     if (segment.p_type != PT_LOAD || (segment.p_flags & PF_X) == 0) continue;
@@ -63,8 +63,8 @@ int FindCode(dl_phdr_info* object, std::size_t /*size*/, void* found) {
   return 1;
 }
 
-CodeRange CodeOf(std::string_view library) {
-  CodeRange range = {library};
+CodeRange CodeOf(std::string_view name) {
+  CodeRange range = {name};
   dl_iterate_phdr(FindCode, &range);
   return range;
 }
