@@ -3,8 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "conversion.h"
 #include "document/emf_file.h"
-#include "frontends/conversion.h"
 #include "inputs.h"
 
 namespace kelvane::bench {
@@ -23,11 +23,9 @@ void Parse(benchmark::State& state, const Input& input) {
   CountBytes(state, input);
 }
 
-void Convert(benchmark::State& state, const Input& input) {
+void ConvertInput(benchmark::State& state, const Input& input) {
   for (auto _ : state) {
-    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-    ConvertBuffer(input.bytes.data(), input.bytes.size(), document.get());
-    benchmark::DoNotOptimize(document->bytes.data());
+    benchmark::DoNotOptimize(Convert(input.bytes)->bytes.data());
   }
   CountBytes(state, input);
 }
@@ -39,9 +37,9 @@ void RegisterAll() {
   };
   for (const Input& input : AllInputs()) {
     add("parse/", Parse, input);
-    add("convert/", Convert, input);
+    add("convert/", ConvertInput, input);
   }
-  add("convert/", Convert, EmptyPage());
+  add("convert/", ConvertInput, EmptyPage());
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "frontends/conversion.h"
+#include "conversion.h"
 #include "platform/atsui/font_registry.h"
 #include "support/metafile.h"
 
@@ -35,9 +35,7 @@ std::vector<unsigned char> TextFrom(char16_t first, std::int32_t escapement) {
 void ConvertText(benchmark::State& state, char16_t first, std::int32_t escapement) {
   const std::vector<unsigned char> metafile = TextFrom(first, escapement);
   for (auto _ : state) {
-    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-    ConvertBuffer(metafile.data(), metafile.size(), document.get());
-    benchmark::DoNotOptimize(document->bytes.data());
+    benchmark::DoNotOptimize(bench::Convert(metafile)->bytes.data());
   }
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kUnits));
 }

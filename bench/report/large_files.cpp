@@ -10,8 +10,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include "conversion.h"
 #include "document/emf_file.h"
-#include "frontends/conversion.h"
 #include "inputs.h"
 #include "platform/quartz/pdf_writer.h"
 #include "report/goals.h"
@@ -22,12 +22,6 @@ namespace {
 
 constexpr int kRuns = 7;
 constexpr std::size_t kMegabyte = 1'000'000;
-
-CFOwned<CFData> Convert(const std::vector<unsigned char>& metafile) {
-  CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  ConvertBuffer(metafile.data(), metafile.size(), document.get());
-  return document;
-}
 
 /// The streams of the page's content, inflated.
 std::vector<std::string> ContentOf(const CFData& document) {

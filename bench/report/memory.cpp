@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frontends/conversion.h"
+#include "conversion.h"
 #include "inputs.h"
 #include "report/goals.h"
 #include "support/process.h"
@@ -42,8 +42,7 @@ std::vector<unsigned char> TheDrawing() {
 void PrintPeak() {
   const std::vector<unsigned char> metafile = TheDrawing();
   ForgetPeak();
-  const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  ConvertBuffer(metafile.data(), metafile.size(), document.get());
+  Convert(metafile);
   std::printf("%.0f\n", Peak());
 }
 

@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "frontends/conversion.h"
+#include "conversion.h"
 #include "inputs.h"
 #include "report/goals.h"
 
@@ -13,10 +13,7 @@ constexpr int kRuns = 31;
 constexpr int kRepeats = 100;
 
 Action Conversion(const std::vector<unsigned char>& metafile) {
-  return [&metafile] {
-    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-    ConvertBuffer(metafile.data(), metafile.size(), document.get());
-  };
+  return [&metafile] { Convert(metafile); };
 }
 
 Finding AgainstEmptyPage(const std::string& what, const std::vector<unsigned char>& metafile,

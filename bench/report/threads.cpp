@@ -1,7 +1,7 @@
 #include <thread>
 #include <vector>
 
-#include "frontends/conversion.h"
+#include "conversion.h"
 #include "inputs.h"
 #include "report/goals.h"
 
@@ -12,10 +12,8 @@ constexpr int kRuns = 15;
 constexpr int kFiles = 1000;
 
 void ConvertMany(const std::vector<unsigned char>& metafile, int count) {
-  for (int i = 0; i < count; ++i) {
-    const CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
-    ConvertBuffer(metafile.data(), metafile.size(), document.get());
-  }
+  for (int i = 0; i < count; ++i)
+    Convert(metafile);
 }
 
 }  // namespace
