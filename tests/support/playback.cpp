@@ -33,11 +33,16 @@ std::string FullTrace(const Metafile& metafile) {
   return FullTrace(parsed);
 }
 
-std::string Trace(const Metafile& metafile) {
+std::string Trace(ParsedMetafile& metafile) {
   const std::string trace = FullTrace(metafile);
   const std::size_t first = trace.find('\n') + 1;
   const std::size_t last = trace.rfind("end-page\n");
   return trace.substr(first, last - first);
+}
+
+std::string Trace(const Metafile& metafile) {
+  ParsedMetafile parsed(metafile.Build());
+  return Trace(parsed);
 }
 
 std::string ConvertToPdf(const std::vector<unsigned char>& metafile) {

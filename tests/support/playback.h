@@ -47,6 +47,7 @@ std::string FullTrace(ParsedMetafile& metafile);
 std::string FullTrace(const Metafile& metafile);
 
 /// @return the trace of the playback between the page's first line and its last.
+std::string Trace(ParsedMetafile& metafile);
 std::string Trace(const Metafile& metafile);
 
 /// Converts in memory as KELVANE does. Throws what the conversion throws.
