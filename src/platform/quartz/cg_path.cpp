@@ -1,20 +1,41 @@
 #include "platform/quartz/cg_path.h"
 
+#include <algorithm>
+
 namespace kelvane {
+namespace {
+
+template <class T>
+void MakeRoom(std::vector<T>& values, std::size_t more) {
+  const std::size_t needed = values.size() + more;
+  if (needed > values.capacity()) values.reserve(std::max(needed, 2 * values.capacity()));
+}
+
+}  // namespace
+
+// Elements and their points stay in step even when memory runs out.
+template <class... Points>
+void CGPath::Append(Element element, Points... points) {
+  MakeRoom(elements_, 1);
+  MakeRoom(points_, sizeof...(points));
+  elements_.push_back(element);
+  (points_.push_back(points), ...);
+  finite_ = finite_ && (kelvane::IsFinite(points) && ...);
+}
 
 void CGPath::MoveTo(CGPoint point) {
   if (OpenMoveAtEnd()) {
     elements_.pop_back();
     points_.pop_back();
   }
-  Append(Element::kMove, {point});
+  Append(Element::kMove, point);
   subpathStart_ = currentPoint_ = point;
 }
 
 void CGPath::LineTo(CGPoint point) {
   if (IsEmpty()) return MoveTo(point);
   ReopenSubpath();
-  Append(Element::kLine, {point});
+  Append(Element::kLine, point);
   currentPoint_ = point;
   hasSegments_ = true;
 }
@@ -22,7 +43,7 @@ void CGPath::LineTo(CGPoint point) {
 void CGPath::CurveTo(CGPoint control1, CGPoint control2, CGPoint end) {
   if (IsEmpty()) return MoveTo(end);
   ReopenSubpath();
-  Append(Element::kCurve, {control1, control2, end});
+  Append(Element::kCurve, control1, control2, end);
   currentPoint_ = end;
   hasSegments_ = true;
 }
@@ -31,7 +52,7 @@ void CGPath::Close() {
   if (IsEmpty()) return;
   const Element last = elements_.back();
   if (last != Element::kLine && last != Element::kCurve) return;
-  Append(Element::kClose, {});
+  Append(Element::kClose);
   currentPoint_ = subpathStart_;
 }
 
@@ -40,7 +61,7 @@ void CGPath::AddRectangle(CGPoint corner, CGSize size) {
     elements_.pop_back();
     points_.pop_back();
   }
-  Append(Element::kRectangle, {corner, {size.width, size.height}});
+  Append(Element::kRectangle, corner, CGPoint{size.width, size.height});
   subpathStart_ = currentPoint_ = corner;
   hasSegments_ = true;
 }
@@ -87,19 +108,6 @@ void CGPath::Clear() {
   subpathStart_ = currentPoint_ = {};
   hasSegments_ = false;
   finite_ = true;
-}
-
-// Elements and their points stay in step even when memory runs out between the two.
-void CGPath::Append(Element element, std::initializer_list<CGPoint> points) {
-  points_.insert(points_.end(), points);
-  try {
-    elements_.push_back(element);
-  } catch (...) {
-    points_.resize(points_.size() - points.size());
-    throw;
-  }
-  for (const CGPoint point : points)
-    finite_ = finite_ && kelvane::IsFinite(point);
 }
 
 // Output formats leave open where a segment after a closed subpath starts; a move says it.

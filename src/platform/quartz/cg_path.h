@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <vector>
 
 #include "platform/quartz/cg_geometry.h"
@@ -87,7 +86,8 @@ class CGPath {
   }
 
  private:
-  void Append(Element element, std::initializer_list<CGPoint> points);
+  template <class... Points>
+  void Append(Element element, Points... points);
   void ReopenSubpath();
   [[nodiscard]] bool OpenMoveAtEnd() const {
     return !elements_.empty() && elements_.back() == Element::kMove;

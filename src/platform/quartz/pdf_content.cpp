@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/quartz/pdf_hex.h"
 #include "platform/quartz/pdf_number.h"
 
 namespace kelvane {
@@ -12,6 +13,8 @@ constexpr std::size_t kPieceSize = std::size_t{1} << 20;
 constexpr std::size_t kMostOperands = 6;  // numbers of one operator
 
 constexpr std::array<std::string_view, 5> kPaintOperators = {"f\n", "f*\n", "S\n", "B\n", "B*\n"};
+
+constexpr std::size_t kOperationRoom = kMostOperands * (kNumberRoom + 1) + 4;  // with its operands
 
 // By element: move, line, curve, close, rectangle.
 constexpr std::array<std::string_view, 5> kPathOperators = {"m\n", "l\n", "c\n", "h\n", "re\n"};
@@ -72,14 +75,13 @@ void PdfContent::TextMode(CGTextDrawingMode mode) {
 void PdfContent::Path(const CGPath& path) {
   EndText();
   path.ForEach([this](CGPath::Element element, const CGPoint* points) {
-    std::array<char, kMostOperands * kNumberRoom> text;
-    char* out = text.data();
+    char* out = text_.Room(kOperationRoom);
     for (std::size_t i = 0; i < CGPath::PointCount(element); ++i) {
       out = WritePoint(out, points[i]);
     }
-    const std::string_view name = kPathOperators[static_cast<std::size_t>(element)];
-    out = std::copy(name.begin(), name.end(), out);
-    Write({text.data(), static_cast<std::size_t>(out - text.data())});
+    for (const char letter : kPathOperators[static_cast<std::size_t>(element)])
+      *out++ = letter;
+    EndOperatorAt(out);
   });
 }
 
@@ -93,7 +95,7 @@ void PdfContent::Clip() {
 
 void PdfContent::DrawXObject(std::string_view name) {
   EndText();
-  Write(name);
+  text_.Append(name);
   Write(" Do\n");
 }
 
@@ -102,25 +104,36 @@ void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint1
   const auto gap = line_.Gap(style, origin);
   if (!gap) {
     EndLine();
-    line_.Start(style, origin);
+    StartLine(style, origin);
   }
-  line_.Add(gap.value_or(0), code, width);
+  char* out = text_.Room(kOperationRoom);
+  if (gap.value_or(0) != 0) {
+    *out++ = '>';
+    out = WriteNumber(out, -*gap);
+    *out++ = '<';
+  }
+  text_.EndAt(WriteHex(out, code, style.codeSize));
+  line_.Add(gap.value_or(0), width);
 }
 
-void PdfContent::EndLine() {
-  if (line_.IsEmpty()) return;
+void PdfContent::StartLine(const PdfTextStyle& style, CGPoint origin) {
   if (!inText_) Write("BT\n");
   inText_ = true;
-  if (font_.name != line_.Font() || font_.size != line_.Size()) {
-    font_ = {std::string(line_.Font()), line_.Size()};
-    Write(font_.name);
-    Write(" ");
+  line_.Start(style, origin);
+  if (font_.name != style.font || font_.size != style.size) {
+    font_ = {std::string(style.font), style.size};
+    text_.Append(font_.name);
+    text_.Append(" ");
     Write({font_.size}, "Tf\n");
   }
   const CGAffineTransform& t = line_.Matrix();
   Write({t.a, t.b, t.c, t.d, t.tx, t.ty}, "Tm\n");
-  Write(line_.Operand());
-  Write("TJ\n");
+  text_.Append("[<");
+}
+
+void PdfContent::EndLine() {
+  if (line_.IsEmpty()) return;
+  Write(">]TJ\n");
   line_.Clear();
 }
 
@@ -137,26 +150,27 @@ void PdfContent::Finish() {
 }
 
 void PdfContent::HandOn() {
-  if (buffer_.empty()) return;
-  sink_(buffer_);
-  buffer_.clear();
+  if (text_.IsEmpty()) return;
+  sink_(text_.View());
+  text_.Clear();
 }
 
 void PdfContent::Write(std::initializer_list<CGFloat> operands, std::string_view op) {
-  std::array<char, kMostOperands * kNumberRoom> text;
-  char* out = text.data();
+  char* out = text_.Room(kOperationRoom);
   for (const CGFloat operand : operands) {
     out = WriteNumber(out, operand);
     *out++ = ' ';
   }
-  buffer_.append(text.data(), out);
-  Write(op);
+  EndOperatorAt(std::copy(op.begin(), op.end(), out));
 }
 
-// Every operator ends with the text that is written last, so a piece never ends inside one.
-void PdfContent::Write(std::string_view text) {
-  buffer_ += text;
-  if (buffer_.size() >= kPieceSize && text.ends_with('\n')) HandOn();
+void PdfContent::Write(std::string_view op) {
+  EndOperatorAt(std::copy(op.begin(), op.end(), text_.Room(op.size())));
+}
+
+void PdfContent::EndOperatorAt(const char* end) {
+  text_.EndAt(end);
+  if (text_.View().size() >= kPieceSize) HandOn();
 }
 
 }  // namespace kelvane

@@ -12,6 +12,7 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_path.h"
+#include "platform/quartz/pdf_text_buffer.h"
 #include "platform/quartz/pdf_text_line.h"
 
 namespace kelvane {
@@ -43,18 +44,20 @@ class PdfContent {
   void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, CGFloat width);
 
   /// True while nothing waits to be handed on.
-  [[nodiscard]] bool IsEmpty() const { return buffer_.empty() && line_.IsEmpty(); }
+  [[nodiscard]] bool IsEmpty() const { return text_.IsEmpty(); }
 
   /// Hands on what is left. What is written afterwards is a content of its own.
   void Finish();
 
  private:
   void Write(std::initializer_list<CGFloat> operands, std::string_view op);
-  void Write(std::string_view text);
+  void Write(std::string_view op);
+  void EndOperatorAt(const char* end);
   void HandOn();
 
   // Colours and the like may stand inside a text object, between two lines; everything else ends
   // it.
+  void StartLine(const PdfTextStyle& style, CGPoint origin);
   void EndLine();
   void EndText();
 
@@ -64,8 +67,8 @@ class PdfContent {
   };
 
   Sink sink_;
-  std::string buffer_;
-  PdfTextLine line_;  // not yet written
+  PdfTextBuffer text_;  // not yet handed on
+  PdfTextLine line_;    // the one not yet ended
   bool inText_ = false;
   Font font_;
   std::vector<Font> savedFonts_;

@@ -1,10 +1,6 @@
 #include "platform/quartz/pdf_text_line.h"
 
-#include <array>
 #include <cmath>
-
-#include "platform/quartz/pdf_hex.h"
-#include "platform/quartz/pdf_number.h"
 
 namespace kelvane {
 namespace {
@@ -46,7 +42,6 @@ bool HasSameAxes(const CGAffineTransform& one, const CGAffineTransform& other) {
 
 void PdfTextLine::Start(const PdfTextStyle& style, CGPoint origin) {
   font_ = style.font;
-  codeSize_ = style.codeSize;
   size_ = style.size;
   matrix_ = style.matrix;
   const CGPoint onPage = CGPointApplyAffineTransform(origin, style.matrix);
@@ -56,7 +51,6 @@ void PdfTextLine::Start(const PdfTextStyle& style, CGPoint origin) {
   quantum_ = Quantum(size_ * scale_);
   pen_ = 0;
   count_ = 0;
-  strings_ = "[<";
 }
 
 std::optional<CGFloat> PdfTextLine::Gap(const PdfTextStyle& style, CGPoint origin) const {
@@ -75,14 +69,7 @@ std::optional<CGFloat> PdfTextLine::Gap(const PdfTextStyle& style, CGPoint origi
   return static_cast<CGFloat>(gap);
 }
 
-void PdfTextLine::Add(CGFloat gap, std::uint16_t code, CGFloat width) {
-  if (gap != 0) {
-    std::array<char, kNumberRoom> number;
-    strings_ += '>';
-    strings_.append(number.data(), WriteNumber(number.data(), -gap));
-    strings_ += '<';
-  }
-  AppendHex(strings_, code, codeSize_);
+void PdfTextLine::Add(CGFloat gap, CGFloat width) {
   pen_ += (static_cast<double>(gap) + width) * size_ / 1000;
   ++count_;
 }

@@ -22,7 +22,7 @@ struct PdfTextStyle {
 /// points an em, and relatively finer above, whatever came before on the line.
 class PdfTextLine {
  public:
-  /// Starts over with a first glyph at `origin` of the style's text space.
+  /// Starts over, its first glyph to come at `origin` of the style's text space.
   void Start(const PdfTextStyle& style, CGPoint origin);
 
   /// @return how far the pen has to move for a glyph in thousandths of an em, as it will be
@@ -30,32 +30,27 @@ class PdfTextLine {
   ///         the glyph does not continue the line.
   [[nodiscard]] std::optional<CGFloat> Gap(const PdfTextStyle& style, CGPoint origin) const;
 
-  /// Adds a glyph. @param gap  what Gap gave, or 0 for the first. @param width  thousandths of an
-  /// em.
-  void Add(CGFloat gap, std::uint16_t code, CGFloat width);
+  /// Moves the pen over a gap and a glyph. @param gap  what Gap gave, or 0 for the first.
+  /// @param width  thousandths of an em.
+  void Add(CGFloat gap, CGFloat width);
 
+  /// True for a line without glyphs.
   [[nodiscard]] bool IsEmpty() const { return count_ == 0; }
   void Clear() { count_ = 0; }
 
   [[nodiscard]] std::string_view Font() const { return font_; }
   [[nodiscard]] CGFloat Size() const { return size_; }
-  [[nodiscard]] const CGAffineTransform& Matrix() const {
-    return matrix_;
-  }  // origin at the first glyph
-
-  /// @return the operand of TJ: "[<0001>-50<0002>]".
-  [[nodiscard]] std::string Operand() const { return strings_ + ">]"; }
+  /// @return text space as it is with the first glyph at its origin, to page space.
+  [[nodiscard]] const CGAffineTransform& Matrix() const { return matrix_; }
 
  private:
   std::string font_;
-  int codeSize_ = 2;
   CGFloat size_ = 0;
   CGAffineTransform matrix_;
   double scale_ = 1;    // page units a text space unit
   double quantum_ = 1;  // of adjustments, thousandths of an em
   double pen_ = 0;      // behind the last glyph, text space units from the first
   int count_ = 0;
-  std::string strings_;
 };
 
 }  // namespace kelvane

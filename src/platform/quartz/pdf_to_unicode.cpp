@@ -1,6 +1,7 @@
 #include "platform/quartz/pdf_to_unicode.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/quartz/pdf_hex.h"
 
@@ -27,16 +28,22 @@ constexpr std::string_view kTail =
 constexpr std::size_t kMostLinesInBlock = 100;
 constexpr std::size_t kMostUnits = 256;  // of UTF-16 that one code may stand for: 512 bytes
 
+constexpr std::size_t kBytesAround = std::string_view("<> <>\n").size();
+
 }  // namespace
 
 void ToUnicodeMap::Add(std::uint16_t code, std::u16string_view text) {
   if (text.empty()) return;
-  std::string line = "<";
-  AppendHex(line, code, 2);
-  line += "> <";
-  for (const char16_t unit : text.substr(0, kMostUnits))
-    AppendHex(line, unit, 2);
-  lines_.push_back(line += ">\n");
+  const std::u16string_view kept = text.substr(0, kMostUnits);
+  std::string line(kBytesAround + 4 * (1 + kept.size()), ' ');
+  char* out = line.data();
+  *out++ = '<';
+  out = WriteHex(out, code, 2);
+  out = std::ranges::copy(std::string_view("> <"), out).out;
+  for (const char16_t unit : kept)
+    out = WriteHex(out, unit, 2);
+  std::ranges::copy(std::string_view(">\n"), out);
+  lines_.push_back(std::move(line));
 }
 
 std::string ToUnicodeMap::Text() const {

@@ -123,6 +123,32 @@ TEST(PdfContent, ShowsNeighbouringGlyphsAsOneLine) {
             "BT\n/F1 10 Tf\n1 0 0 1 0 0 Tm\n[<0001>-100<0002>]TJ\nET\n");
 }
 
+TEST(PdfContent, WritesCodesOfOneByte) {
+  EXPECT_EQ(Written([](PdfContent& content) {
+              content.ShowGlyph({"/F1", 1, 10, {}}, {0, 0}, 0x41, 500);
+            }),
+            "BT\n/F1 10 Tf\n1 0 0 1 0 0 Tm\n[<41>]TJ\nET\n");
+}
+
+TEST(PdfContent, HasNoGapBetweenGlyphsThatFollowTheirWidths) {
+  EXPECT_EQ(Written([](PdfContent& content) {
+              content.ShowGlyph(Font(), {0, 0}, 1, 500);
+              content.ShowGlyph(Font(), {5, 0}, 2, 500);
+            }),
+            "BT\n/F1 10 Tf\n1 0 0 1 0 0 Tm\n[<00010002>]TJ\nET\n");
+}
+
+TEST(PdfContent, CutsALongContentBetweenLinesOfText) {
+  std::vector<std::string> pieces;
+  PdfContent content([&](std::string_view piece) { pieces.emplace_back(piece); });
+  for (int i = 0; i < 300000; ++i)
+    content.ShowGlyph(Font(), {0, static_cast<CGFloat>(i / 10)}, 1, 500);
+  content.Finish();
+  ASSERT_GT(pieces.size(), 1U);
+  for (const std::string& piece : pieces)
+    EXPECT_EQ(piece.back(), '\n');
+}
+
 TEST(PdfContent, SharesATextObjectAndAFontBetweenLines) {
   EXPECT_EQ(Written([](PdfContent& content) {
               content.ShowGlyph(Font(), {0, 0}, 1, 500);

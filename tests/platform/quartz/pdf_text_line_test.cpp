@@ -13,7 +13,7 @@ PdfTextStyle Style(CGFloat size = 10, const CGAffineTransform& matrix = {}) {
 PdfTextLine Line(const PdfTextStyle& style = Style()) {
   PdfTextLine line;
   line.Start(style, {0, 0});
-  line.Add(0, 1, 500);
+  line.Add(0, 500);
   return line;
 }
 
@@ -29,19 +29,6 @@ TEST(PdfTextLine, GoesBackOverAGlyph) {
   EXPECT_EQ(Line().Gap(Style(), {4, 0}), -100);
 }
 
-TEST(PdfTextLine, WritesAGapAsWhatIsSubtracted) {
-  PdfTextLine line = Line();
-  line.Add(100, 2, 500);
-  EXPECT_EQ(line.Operand(), "[<0001>-100<0002>]");
-}
-
-TEST(PdfTextLine, WritesOneByteCodes) {
-  PdfTextLine line;
-  line.Start({"/F1", 1, 10, {}}, {0, 0});
-  line.Add(0, 0x41, 500);
-  EXPECT_EQ(line.Operand(), "[<41>]");
-}
-
 TEST(PdfTextLine, MeasuresAlongATurnedBaseline) {
   const PdfTextStyle upwards = Style(10, {0, 1, -1, 0, 50, 50});
   EXPECT_EQ(Line(upwards).Gap(Style(10, {0, 1, -1, 0, 50, 56}), {0, 0}), 100);
@@ -52,7 +39,7 @@ TEST(PdfTextLine, DoesNotAddUpRounding) {
   CGFloat sum = 0;
   for (int i = 1; i <= 900; ++i) {
     const CGFloat gap = line.Gap(Style(), {static_cast<CGFloat>(i) * 5.004F, 0}).value_or(0);
-    line.Add(gap, 1, 500);
+    line.Add(gap, 500);
     sum += gap;
   }
   EXPECT_EQ(sum, 360);  // each glyph stands 0.4 thousandths too far for the width before it
@@ -87,7 +74,7 @@ TEST(PdfTextLine, EndsBeforeAGapOfManyEms) {
 TEST(PdfTextLine, EndsAfterAThousandGlyphs) {
   PdfTextLine line = Line();
   for (int i = 1; i < 1000; ++i)
-    line.Add(0, 1, 0);
+    line.Add(0, 0);
   EXPECT_FALSE(line.Gap(Style(), {5, 0}).has_value());
 }
 
