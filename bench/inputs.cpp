@@ -100,7 +100,7 @@ std::vector<unsigned char> Boxes(std::size_t bytes, bool labelled) {
   Metafile metafile;
   metafile.Bounds(0, 0, 1000, 1400).CreatePen(kPen, 1, test::Rgb(40, 40, 40)).SelectObject(kPen);
   metafile.CreateFont(kFont, {.face = u"Arial"}).SelectObject(kFont).SetBkMode(test::kTransparent);
-  const std::size_t boxSize = labelled ? 268 : 148;
+  const std::size_t boxSize = labelled ? 244 : 120;
   for (std::int32_t i = 0; static_cast<std::size_t>(i) < bytes / boxSize; ++i) {
     const std::int32_t x = i % kColumns * 80 + 10;
     const std::int32_t y = i / kColumns * 50 + 10;

@@ -4,11 +4,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <new>
 #include <stdexcept>
 #include <string>
 
-#include <libdeflate.h>
 #include <qpdf/Buffer.hh>
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -59,10 +57,6 @@ QPDFObjectHandle BoxArray(const CGRect& box) {
 
 }  // namespace
 
-void PdfWriter::CompressorDeleter::operator()(libdeflate_compressor* compressor) const {
-  libdeflate_free_compressor(compressor);
-}
-
 PdfWriter::PdfWriter() {
   // Not even an empty document can be read when memory runs out, and it must not be mended then.
   pdf_.setAttemptRecovery(false);
@@ -76,16 +70,8 @@ PdfWriter::PdfWriter() {
 PdfWriter::~PdfWriter() = default;
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
-  // Not before it is needed: its tables take more memory than most documents.
-  if (!compressor_) compressor_.reset(libdeflate_alloc_compressor(kDeflateLevel));
-  if (!compressor_) throw std::bad_alloc();
-  const std::size_t bound = libdeflate_zlib_compress_bound(compressor_.get(), data.size());
-  const auto room = std::make_unique_for_overwrite<unsigned char[]>(bound);
-  const std::size_t size =
-      libdeflate_zlib_compress(compressor_.get(), data.data(), data.size(), room.get(), bound);
-  auto deflated = std::make_shared<Buffer>(size);
-  std::copy_n(room.get(), size, deflated->getBuffer());
-  deflatedBytes_ += size;
+  auto deflated = deflater_.Deflate(data);
+  deflatedBytes_ += deflated->getSize();
   return deflated;
 }
 

@@ -16,9 +16,8 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_pdf_document.h"
+#include "platform/quartz/pdf_deflater.h"
 #include "platform/quartz/pdf_font.h"
-
-struct libdeflate_compressor;
 
 namespace kelvane {
 
@@ -27,9 +26,6 @@ namespace kelvane {
 /// std::bad_alloc or what the PDF library throws.
 class PdfWriter {
  public:
-  /// How hard streams are deflated, as libdeflate counts it, from 0 to 12.
-  static constexpr int kDeflateLevel = 4;
-
   PdfWriter();
   ~PdfWriter();
   PdfWriter(const PdfWriter&) = delete;
@@ -64,10 +60,6 @@ class PdfWriter {
   void Write(CGDataConsumer& consumer);
 
  private:
-  struct CompressorDeleter {
-    void operator()(libdeflate_compressor* compressor) const;
-  };
-
   struct StoredImage {
     std::string layout;  // its dictionary without the data's own entries
     std::shared_ptr<Buffer> deflated;
@@ -79,9 +71,8 @@ class PdfWriter {
                                const std::shared_ptr<Buffer>& deflated);
 
   QPDF pdf_;
-  std::size_t deflatedBytes_ = 0;  // of all streams
-  std::unique_ptr<libdeflate_compressor, CompressorDeleter>
-      compressor_;                                            // null until a stream is added
+  PdfDeflater deflater_;
+  std::size_t deflatedBytes_ = 0;                             // of all streams
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
   std::map<CGFontRef, std::size_t> fontIndexes_;
   std::deque<PdfFont> fonts_;  // in the order of their first use
