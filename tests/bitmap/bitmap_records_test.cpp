@@ -28,6 +28,7 @@ constexpr std::uint32_t kBlackness = 0x00000042;
 constexpr std::uint32_t kLeaveDestination = 0x00AA0029;
 constexpr std::uint32_t kPatInvert = 0x005A0049;
 constexpr std::uint32_t kSrcInvert = 0x00660046;
+constexpr std::uint32_t kComment = 70;
 constexpr std::uint32_t kStretchDibits = 81;
 constexpr RectangleL kBox = {10, 20, 30, 60};
 const Bytes kPixel = Bytes().BitmapHeader({}).Each({3, 2, 1, 0});
@@ -192,6 +193,19 @@ TEST(StretchDibitsRecord, IsFollowedByTheNextRecordWhenItsBitmapClaimsMoreThanIt
   const std::string line = Trace(Metafile().MoveTo(1, 2).LineTo(3, 4));
   EXPECT_EQ(Trace(Metafile().StretchDibits(kBox, tooFew).MoveTo(1, 2).LineTo(3, 4)),
             "image 1 3 rgb under 20 0 0 40 10 -60\n" + line);
+}
+
+TEST(StretchDibitsRecord, HasNoPixelsOnceOthersTookTheSameBytesTooOften) {
+  constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+  const Bytes onlyAHeader = Bytes().BitmapHeader({.width = 512, .height = 512, .bitCount = 32});
+  const Metafile shared = Metafile()
+                              .StretchDibits(kBox, onlyAHeader)
+                              .StretchDibits(kBox, onlyAHeader)
+                              .StretchDibits(kBox, onlyAHeader)
+                              .Record(kComment, Bytes().Zeros(kMegabyte));
+  // A megabyte taken from behind counts as eight, and the budget is 16 and 8 times the metafile's.
+  const std::string image = "image 512 512 rgb under 20 0 0 40 10 -60\n";
+  EXPECT_EQ(Trace(shared), image + image);
 }
 
 TEST(StretchDibitsRecord, OfASizeBeyondTheDataEndsTheParse) {

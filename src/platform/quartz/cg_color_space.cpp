@@ -18,10 +18,6 @@ CGColorSpaceRef CGColorSpaceCreateDeviceRGB() {
   return new CGColorSpace(3);
 }
 
-void CGColorSpaceRelease(CGColorSpaceRef space) noexcept {
-  CFRelease(space);
-}
-
 CGColor MakeColor(const CGFloat* components, std::size_t componentCount) {
   const CGFloat first = ToUnitRange(components[0]);
   if (componentCount == 1) return {first, first, first, ToUnitRange(components[1])};

@@ -21,7 +21,6 @@ using CGColorSpaceRef = const CGColorSpace*;
 CGColorSpaceRef CGColorSpaceCreateDeviceGray();
 /// @return a space owned by the caller. Throws std::bad_alloc.
 CGColorSpaceRef CGColorSpaceCreateDeviceRGB();
-void CGColorSpaceRelease(CGColorSpaceRef space) noexcept;
 
 /// A colour as the surface keeps it: components from 0 to 1, grey as three equal ones.
 /// Alpha is kept for the caller; both back ends paint opaque.

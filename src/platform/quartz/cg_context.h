@@ -108,9 +108,6 @@ inline void CGContextBeginPage(CGContextRef c, const CGRect* mediaBox) {
 inline void CGContextEndPage(CGContextRef c) {
   c->EndPage();
 }
-inline void CGContextRelease(CGContextRef c) noexcept {
-  CFRelease(c);
-}
 
 inline void CGContextSaveGState(CGContextRef c) {
   c->SaveGState();

@@ -170,8 +170,4 @@ CGDataConsumerRef CGDataConsumerCreateWithURL(CFURLRef url) {
   return consumer->Create() ? consumer.release() : nullptr;
 }
 
-void CGDataConsumerRelease(CGDataConsumerRef consumer) noexcept {
-  CFRelease(consumer);
-}
-
 }  // namespace kelvane

@@ -36,6 +36,4 @@ CGDataConsumerRef CGDataConsumerCreateWithCFData(CFMutableDataRef data);
 ///         caller; null when `url` is null or no file can be created there. Throws std::bad_alloc.
 CGDataConsumerRef CGDataConsumerCreateWithURL(CFURLRef url);
 
-void CGDataConsumerRelease(CGDataConsumerRef consumer) noexcept;
-
 }  // namespace kelvane

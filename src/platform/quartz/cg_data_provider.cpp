@@ -11,8 +11,4 @@ CGDataProviderRef CGDataProviderCreateWithData(void* info, const void* data, std
   return new CGDataProvider(info, {static_cast<const unsigned char*>(data), size}, release);
 }
 
-void CGDataProviderRelease(CGDataProviderRef provider) noexcept {
-  CFRelease(provider);
-}
-
 }  // namespace kelvane

@@ -44,6 +44,4 @@ CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data);
 CGDataProviderRef CGDataProviderCreateWithData(void* info, const void* data, std::size_t size,
                                                CGDataProvider::ReleaseCallback release);
 
-void CGDataProviderRelease(CGDataProviderRef provider) noexcept;
-
 }  // namespace kelvane

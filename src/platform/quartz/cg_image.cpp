@@ -25,10 +25,6 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
   return new CGImage(width, height, bytesPerRow, components, shouldInterpolate, provider);
 }
 
-void CGImageRelease(CGImageRef image) noexcept {
-  CFRelease(image);
-}
-
 std::optional<std::vector<unsigned char>> PackRows(std::span<const unsigned char> pixels,
                                                    std::size_t width, std::size_t height,
                                                    std::size_t bytesPerRow) {

@@ -49,8 +49,6 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
                          CGBitmapInfo bitmapInfo, CGDataProviderRef provider, const CGFloat* decode,
                          bool shouldInterpolate, CGColorRenderingIntent intent);
 
-void CGImageRelease(CGImageRef image) noexcept;
-
 /// Copies an image's rows without their padding, as documents store them.
 /// @param pixels       borrowed for the call; rows top first, `bytesPerRow` bytes apart.
 /// @param width        bytes used in each row (pixels times components), at least 1.

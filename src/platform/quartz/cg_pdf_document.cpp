@@ -56,8 +56,4 @@ CGRect CGPDFPageGetBoxRect(CGPDFPageRef page, CGPDFBox /*box*/) {
                     static_cast<CGFloat>(corners.ury - corners.lly));
 }
 
-void CGPDFDocumentRelease(CGPDFDocumentRef document) noexcept {
-  CFRelease(document);
-}
-
 }  // namespace kelvane

@@ -57,6 +57,4 @@ CGPDFPageRef CGPDFDocumentGetPage(CGPDFDocumentRef document, std::size_t number)
 /// is usable.
 CGRect CGPDFPageGetBoxRect(CGPDFPageRef page, CGPDFBox box);
 
-void CGPDFDocumentRelease(CGPDFDocumentRef document) noexcept;
-
 }  // namespace kelvane

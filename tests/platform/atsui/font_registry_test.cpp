@@ -74,6 +74,23 @@ TEST(FontRegistry, ThickensAStandInForBoldText) {
   EXPECT_TRUE(face->isEmboldened);
 }
 
+TEST(FontRegistry, FindsAStandInAgainAfterItForgotMany) {
+  FontRegistry registry;
+  const FontStyle& plain = registry.Style(kDefaultFont, false, false);
+  const auto before = registry.StandIn(plain, U'\u6F22');
+  ASSERT_TRUE(before.has_value());
+  for (const bool bold : {false, true}) {
+    for (const bool italic : {false, true}) {
+      const FontStyle& style = registry.Style(kDefaultFont, bold, italic);
+      for (char32_t character = U'\u4E00'; character < U'\uD7A4'; ++character)
+        registry.StandIn(style, character);
+    }
+  }
+  const auto after = registry.StandIn(plain, U'\u6F22');
+  ASSERT_TRUE(after.has_value());
+  EXPECT_EQ(after->typeface, before->typeface);
+}
+
 TEST(FontRegistry, GivesEqualNamesOneFont) {
   FontRegistry registry;
   EXPECT_EQ(registry.FindByFamily("Arial"), registry.FindByFullName("Liberation Sans"));

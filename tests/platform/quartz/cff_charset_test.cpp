@@ -42,6 +42,29 @@ TEST(CffCharacterIdentifiers, StandInRangesOfTwoByteLength) {
   EXPECT_THAT(CffCharacterIdentifiers(program, 3), ElementsAre(0, 7, 8));
 }
 
+TEST(CffCharacterIdentifiers, AreFoundBehindNumbersOfEveryKind) {
+  constexpr unsigned char kDictSize = 34;
+  const Bytes everyKind = {139, 139,  139,  12,
+                           30,  // 0 0 0, identifiers
+                           247, 0,    251,  0,
+                           13,                   // 108 -108, an operator of no interest
+                           28,  1,    0,    14,  // 256
+                           30,  0xA1, 0x40, 0x5F,
+                           12,  7,  // .1405
+                           30,  0x12, 0xFF, 16,
+                           29,  0,    0,    1,
+                           0,  // 12, 256
+                           17,  246,  17,   139 + kTopDictAt + kDictSize,
+                           15};
+  ASSERT_EQ(everyKind.size(), kDictSize);
+  EXPECT_THAT(CffCharacterIdentifiers(Program(everyKind, {0, 0, 7}), 2), ElementsAre(0, 7));
+}
+
+TEST(CffCharacterIdentifiers, AreFoundAtAPlaceInFourBytes) {
+  const Bytes dict = {28, 1, 135, 28, 1, 136, 139, 12, 30, 29, 0, 0, 0, kTopDictAt + 15, 15};
+  EXPECT_THAT(CffCharacterIdentifiers(Program(dict, {0, 0, 7}), 2), ElementsAre(0, 7));
+}
+
 TEST(CffCharacterIdentifiers, EndWithTheTable) {
   const Bytes program = Program(DictWithIdentifiers(), {0, 0, 7});
   EXPECT_THAT(CffCharacterIdentifiers(program, 1000), ElementsAre(0, 7));

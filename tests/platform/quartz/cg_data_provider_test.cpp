@@ -54,9 +54,5 @@ TEST(CGDataProvider, TellsTheReleaseCallbackOnceWhenTheLastReferenceGoes) {
   EXPECT_EQ(released.size, kBytes.size());
 }
 
-TEST(CGDataProviderRelease, TakesNull) {
-  EXPECT_NO_FATAL_FAILURE(CGDataProviderRelease(nullptr));
-}
-
 }  // namespace
 }  // namespace kelvane

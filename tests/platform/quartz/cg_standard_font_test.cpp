@@ -40,5 +40,10 @@ TEST(StandardHelvetica, DoesNotAdvanceForWhatItDoesNotHave) {
   EXPECT_EQ(CGFontGetStandardHelvetica()->Advance(256), 0);
 }
 
+TEST(StandardHelvetica, HasNoProgram) {
+  EXPECT_TRUE(CGFontGetStandardHelvetica()->Program().empty());
+  EXPECT_EQ(CGFontGetStandardHelvetica()->ProgramIndex(), 0U);
+}
+
 }  // namespace
 }  // namespace kelvane

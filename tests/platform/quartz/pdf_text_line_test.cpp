@@ -49,6 +49,11 @@ TEST(PdfTextLine, IsFinerForLargeText) {
   EXPECT_FLOAT_EQ(Line(Style(100)).Gap(Style(100), {50.01F, 0}).value_or(0), 0.1F);
 }
 
+TEST(PdfTextLine, IsFinerStillForTextAsLargeAsAPage) {
+  EXPECT_FLOAT_EQ(Line(Style(1000)).Gap(Style(1000), {500.01F, 0}).value_or(0), 0.01F);
+  EXPECT_FLOAT_EQ(Line(Style(8192)).Gap(Style(8192), {4096.03125F, 0}).value_or(0), 0.004F);
+}
+
 TEST(PdfTextLine, EndsBeforeAnotherBaseline) {
   EXPECT_FALSE(Line().Gap(Style(), {5, 1}).has_value());
 }
