@@ -75,7 +75,12 @@ TEST_P(ConverterInterrupted, LeavesTheOlderDocumentOrTheNewOne) {
   Interrupt();
   const std::string left = ReadFile(folder_ / "a.pdf");
   EXPECT_TRUE(left == "older" || left == document_);
-  EXPECT_EQ(NamesIn(folder_), (Names{"a.emf", "a.pdf"}));
+  // There is a moment between naming the new document and putting it in the older one's place.
+  const Names names = NamesIn(folder_);
+  if (names == Names{"a.emf", "a.pdf"}) return;
+  ASSERT_EQ(names.size(), 3U);
+  EXPECT_EQ(names.front().rfind(".kelvane-", 0), 0U);
+  EXPECT_TRUE(ReadFile(folder_ / names.front()) == document_);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ConverterInterrupted,

@@ -100,9 +100,14 @@ class FileConsumer final : public CGDataConsumer {
 
   void Commit() override {
     if (std::fflush(file_) != 0) ThrowErrno("writing the document");
-    if (!hasTemporaryName_ && !GiveTemporaryName()) ThrowErrno("naming the document");
+    const bool isNamed = !hasTemporaryName_ && LinkAs(path_.c_str());  // where nothing is replaced
+    if (!isNamed && !hasTemporaryName_ && !GiveTemporaryName()) ThrowErrno("naming the document");
     std::FILE* const file = std::exchange(file_, nullptr);
-    if (std::fclose(file) != 0) ThrowErrno("writing the document");
+    if (std::fclose(file) != 0) {
+      if (isNamed) unlink(path_.c_str());
+      ThrowErrno("writing the document");
+    }
+    if (isNamed) return;
     if (std::rename(temporaryPath_.c_str(), path_.c_str()) != 0) ThrowErrno("naming the document");
     hasTemporaryName_ = false;
   }
@@ -132,11 +137,15 @@ class FileConsumer final : public CGDataConsumer {
   }
 
   bool GiveTemporaryName() {
-    const auto link = LinkTo(fileno(file_));
-    hasTemporaryName_ = TakeTemporaryName([&](const char* path) {
-      return linkat(AT_FDCWD, link.data(), AT_FDCWD, path, AT_SYMLINK_FOLLOW) == 0;
-    });
+    hasTemporaryName_ = TakeTemporaryName([&](const char* path) { return LinkAs(path); });
     return hasTemporaryName_;
+  }
+
+  /// Names a file that has no name. @return false, with errno set, when that cannot be done, which
+  ///         is EEXIST when anything is there already.
+  [[nodiscard]] bool LinkAs(const char* path) const {
+    const auto link = LinkTo(fileno(file_));
+    return linkat(AT_FDCWD, link.data(), AT_FDCWD, path, AT_SYMLINK_FOLLOW) == 0;
   }
 
   /// @param take  tries to make a file of the path, which fails with EEXIST when there is one.
