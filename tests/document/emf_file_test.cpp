@@ -38,6 +38,7 @@ std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_
 }
 
 constexpr std::size_t kHeaderSizeOffset = 4;
+constexpr std::int32_t kMultiply = 2;
 
 TEST(EMFFile, WithoutRecordsIsOneBlankPage) {
   EXPECT_TRUE(ParsedMetafile(Metafile().Build())->records.empty());
@@ -170,6 +171,18 @@ TEST(EMFFile, WhoseRecordsOverlapIsAbandoned) {
     metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(0x10000000));
   }
   EXPECT_THROW(ParsedMetafile(metafile.Build()), std::runtime_error);
+}
+
+TEST(EMFFile, GoesBackToTheStartOfThePageOnARestoreWithoutASave) {
+  const auto doubled = [](Metafile& metafile) {
+    metafile.ModifyWorldTransform({2, 0, 0, 2, 0, 0}, kMultiply);
+  };
+  Metafile restored;
+  doubled(restored);
+  EXPECT_EQ(Trace(AddLine(restored.RestoreDC())), kLine);
+  Metafile restoredTwice;  // the second time there is nothing left to go back to
+  doubled(restoredTwice.RestoreDC());
+  EXPECT_NE(Trace(AddLine(restoredTwice.RestoreDC())), kLine);
 }
 
 TEST(EMFFile, CanBePlayedBackTwice) {

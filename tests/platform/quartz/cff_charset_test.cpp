@@ -81,6 +81,11 @@ TEST(CffCharacterIdentifiers, AreNoneInABrokenProgram) {
   EXPECT_THAT(CffCharacterIdentifiers(program, 2), IsEmpty());
 }
 
+TEST(CffCharacterIdentifiers, AreNoneWithoutATopDict) {
+  const Bytes program = {1, 0, 4, 1, 0, 1, 1, 1, 2, 'N', 0, 0, 0, 0, 7};
+  EXPECT_THAT(CffCharacterIdentifiers(program, 2), IsEmpty());
+}
+
 TEST(CffCharacterIdentifiers, AreNoneInNoProgram) {
   EXPECT_THAT(CffCharacterIdentifiers({}, 2), IsEmpty());
 }
