@@ -10,6 +10,7 @@ namespace kelvane {
 namespace {
 
 constexpr std::size_t kShortData = 32768;
+constexpr std::size_t kThoroughData = 524288;
 constexpr std::size_t kRepetitiveRate = 6;  // times that repetitive data shrinks at the least
 
 }  // namespace
@@ -25,7 +26,7 @@ std::shared_ptr<Buffer> PdfDeflater::Deflate(std::span<const unsigned char> data
   if (data.size() <= kShortData) return DeflateAt(kShort, data);
   auto quick = DeflateAt(kQuick, data);
   if (quick->getSize() > data.size() / kRepetitiveRate) return quick;
-  return DeflateAt(kRepetitive, data);
+  return DeflateAt(data.size() <= kThoroughData ? kThorough : kFair, data);
 }
 
 std::shared_ptr<Buffer> PdfDeflater::DeflateAt(int level, std::span<const unsigned char> data) {

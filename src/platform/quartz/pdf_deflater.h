@@ -10,15 +10,17 @@ struct libdeflate_compressor;
 
 namespace kelvane {
 
-/// Deflates streams for /FlateDecode (ISO 32000-1, 7.4.4) as hard as it pays. Points on a map are
-/// so unlike each other that effort gains next to nothing; flat pictures and drawings that repeat
-/// themselves shrink to two thirds of what the quickest way leaves.
+/// Deflates streams for /FlateDecode (ISO 32000-1, 7.4.4) as hard as it pays.
+/// Points on a map are so unlike each other that effort gains next to nothing; flat pictures and
+/// drawings that repeat themselves shrink to two thirds of what the quickest way leaves. Equal data
+/// makes equal streams.
 class PdfDeflater {
  public:
   /// How hard, as libdeflate counts it, from 0 to 12.
   static constexpr int kQuick = 1;
-  static constexpr int kShort = 2;       // of so little that even the double time is nothing
-  static constexpr int kRepetitive = 7;  // what the quickest way leaves little of
+  static constexpr int kShort = 2;     // for so little that even the double time is nothing
+  static constexpr int kThorough = 7;  // for what repeats itself
+  static constexpr int kFair = 4;      // for more of that than is worth waiting for
 
   PdfDeflater();
   ~PdfDeflater();
@@ -36,8 +38,7 @@ class PdfDeflater {
   [[nodiscard]] std::shared_ptr<Buffer> DeflateAt(int level, std::span<const unsigned char> data);
 
   // By level, each null until it is needed: their tables take more memory than most documents.
-  std::array<std::unique_ptr<libdeflate_compressor, CompressorDeleter>, kRepetitive + 1>
-      compressors_;
+  std::array<std::unique_ptr<libdeflate_compressor, CompressorDeleter>, kThorough + 1> compressors_;
 };
 
 }  // namespace kelvane

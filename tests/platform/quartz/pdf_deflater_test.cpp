@@ -84,5 +84,11 @@ TEST(PdfDeflater, LeavesNextToNothingOfRepetitionToGain) {
   }
 }
 
+TEST(PdfDeflater, IsNotThoroughWithMoreThanIsWorthWaitingFor) {
+  const std::string text = Symbols(30000);
+  PdfDeflater deflater;
+  EXPECT_EQ(deflater.Deflate(Bytes(text))->getSize(), SizeAt(PdfDeflater::kFair, text));
+}
+
 }  // namespace
 }  // namespace kelvane
