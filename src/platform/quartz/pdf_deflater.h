@@ -10,10 +10,9 @@ struct libdeflate_compressor;
 
 namespace kelvane {
 
-/// Deflates streams for /FlateDecode (ISO 32000-1, 7.4.4) as hard as it pays.
-/// Points on a map are so unlike each other that effort gains next to nothing; flat pictures and
-/// drawings that repeat themselves shrink to two thirds of what the quickest way leaves. Equal data
-/// makes equal streams.
+/// Deflates streams for /FlateDecode (ISO 32000-1, 7.4.4) as hard as it pays. Points on a map are
+/// so unlike each other that effort gains next to nothing; flat pictures and drawings that repeat
+/// themselves shrink to two thirds of what the quickest way leaves. Equal data makes equal streams.
 class PdfDeflater {
  public:
   /// How hard, as libdeflate counts it, from 0 to 12.
