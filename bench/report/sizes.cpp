@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -46,10 +47,11 @@ std::vector<fs::path> MetafilesIn(const std::string& folder) {
 std::vector<Finding> FileSizes(const std::string& metafiles) {
   const test::TemporaryFolder folder;
   const test::TemporaryFolder made;
-  const std::string drawing = made / "drawing of 1 MB.emf";
-  test::WriteFile(drawing, Drawing(1'000'000));
+  test::WriteFile(made / "drawing.emf", Drawing(1'000'000));
+  test::WriteFile(made / "shapes.emf", Diagram(20'000));
+  test::WriteFile(made / "labels.emf", LabelledDiagram(20'000));
   std::vector<fs::path> all = MetafilesIn(metafiles);
-  all.emplace_back(drawing);
+  std::ranges::move(MetafilesIn(made.Path().string()), std::back_inserter(all));
   Sizes sum;
   std::vector<double> ratios;
   for (const fs::path& metafile : all) {
