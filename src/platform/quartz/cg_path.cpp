@@ -6,9 +6,13 @@ namespace kelvane {
 namespace {
 
 template <class T>
+[[gnu::noinline]] void Grow(std::vector<T>& values, std::size_t more) {
+  values.reserve(std::max(values.size() + more, 2 * values.capacity()));
+}
+
+template <class T>
 void MakeRoom(std::vector<T>& values, std::size_t more) {
-  const std::size_t needed = values.size() + more;
-  if (needed > values.capacity()) values.reserve(std::max(needed, 2 * values.capacity()));
+  if (values.capacity() - values.size() < more) Grow(values, more);
 }
 
 }  // namespace
