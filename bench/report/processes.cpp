@@ -1,5 +1,6 @@
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "inputs.h"
@@ -20,10 +21,10 @@ void Start(const std::vector<std::string>& command) {
 /// as the file system wants.
 class OnCopies {
  public:
-  OnCopies(std::string converter, std::vector<unsigned char> metafile)
-      : converter_(std::move(converter)), metafile_(std::move(metafile)) {
+  OnCopies(std::string converter, const std::vector<unsigned char>& metafile)
+      : converter_(std::move(converter)) {
     for (int i = 0; i < kRuns + 1; ++i)
-      test::WriteFile(Copy(i), metafile_);
+      test::WriteFile(Copy(i), metafile);
   }
 
   void Start() { bench::Start({converter_, Copy(started_++)}); }
@@ -35,7 +36,6 @@ class OnCopies {
 
   const test::TemporaryFolder folder_;
   std::string converter_;
-  std::vector<unsigned char> metafile_;
   int started_ = 0;
 };
 

@@ -100,22 +100,19 @@ class FileConsumer final : public CGDataConsumer {
 
   void Commit() override {
     if (std::fflush(file_) != 0) ThrowErrno("writing the document");
-    const bool isNamed = !hasTemporaryName_ && LinkAs(path_.c_str());  // where nothing is replaced
-    if (!isNamed && !hasTemporaryName_ && !GiveTemporaryName()) ThrowErrno("naming the document");
+    if (!hasName_ && !GiveName()) ThrowErrno("naming the document");
     std::FILE* const file = std::exchange(file_, nullptr);
-    if (std::fclose(file) != 0) {
-      if (isNamed) unlink(path_.c_str());
-      ThrowErrno("writing the document");
+    if (std::fclose(file) != 0) ThrowErrno("writing the document");
+    if (name_ != path_ && std::rename(name_.c_str(), path_.c_str()) != 0) {
+      ThrowErrno("naming the document");
     }
-    if (isNamed) return;
-    if (std::rename(temporaryPath_.c_str(), path_.c_str()) != 0) ThrowErrno("naming the document");
-    hasTemporaryName_ = false;
+    hasName_ = false;
   }
 
  private:
   ~FileConsumer() override {
     if (file_ != nullptr) (void)std::fclose(file_);
-    if (hasTemporaryName_) unlink(temporaryPath_.c_str());
+    if (hasName_) unlink(name_.c_str());
   }
 
   /// A process that is ended leaves nothing of such a file. Not every file system has them.
@@ -129,16 +126,19 @@ class FileConsumer final : public CGDataConsumer {
 
   int OpenNamed() {
     int descriptor = -1;
-    hasTemporaryName_ = TakeTemporaryName([&](const char* path) {
+    hasName_ = TakeTemporaryName([&](const char* path) {
       descriptor = open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
       return descriptor >= 0;
     });
     return descriptor;
   }
 
-  bool GiveTemporaryName() {
-    hasTemporaryName_ = TakeTemporaryName([&](const char* path) { return LinkAs(path); });
-    return hasTemporaryName_;
+  /// The final name where nothing is replaced, or else a temporary one.
+  bool GiveName() {
+    name_ = path_;
+    hasName_ =
+        LinkAs(name_.c_str()) || TakeTemporaryName([&](const char* path) { return LinkAs(path); });
+    return hasName_;
   }
 
   /// Names a file that has no name. @return false, with errno set, when that cannot be done, which
@@ -154,17 +154,17 @@ class FileConsumer final : public CGDataConsumer {
   bool TakeTemporaryName(const Take& take) {
     constexpr int kAttempts = 16;
     for (int i = 0; i < kAttempts; ++i) {
-      temporaryPath_ = FolderOf(path_) + RandomName();
-      if (take(temporaryPath_.c_str())) return true;
+      name_ = FolderOf(path_) + RandomName();
+      if (take(name_.c_str())) return true;
       if (errno != EEXIST) return false;
     }
     return false;
   }
 
   std::string path_;
-  std::string temporaryPath_;
+  std::string name_;  // the one that the file has until it is committed
   std::FILE* file_ = nullptr;
-  bool hasTemporaryName_ = false;
+  bool hasName_ = false;
 };
 
 }  // namespace

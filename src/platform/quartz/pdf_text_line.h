@@ -38,8 +38,6 @@ class PdfTextLine {
   [[nodiscard]] bool IsEmpty() const { return count_ == 0; }
   void Clear() { count_ = 0; }
 
-  [[nodiscard]] std::string_view Font() const { return font_; }
-  [[nodiscard]] CGFloat Size() const { return size_; }
   /// @return text space as it is with the first glyph at its origin, to page space.
   [[nodiscard]] const CGAffineTransform& Matrix() const { return matrix_; }
 

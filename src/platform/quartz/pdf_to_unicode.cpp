@@ -1,9 +1,9 @@
 #include "platform/quartz/pdf_to_unicode.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/quartz/pdf_hex.h"
+#include "platform/quartz/pdf_text_buffer.h"
 
 namespace kelvane {
 namespace {
@@ -28,22 +28,19 @@ constexpr std::string_view kTail =
 constexpr std::size_t kMostLinesInBlock = 100;
 constexpr std::size_t kMostUnits = 256;  // of UTF-16 that one code may stand for: 512 bytes
 
-constexpr std::size_t kBytesAround = std::string_view("<> <>\n").size();
-
 }  // namespace
 
 void ToUnicodeMap::Add(std::uint16_t code, std::u16string_view text) {
   if (text.empty()) return;
-  const std::u16string_view kept = text.substr(0, kMostUnits);
-  std::string line(kBytesAround + 4 * (1 + kept.size()), ' ');
-  char* out = line.data();
-  *out++ = '<';
-  out = WriteHex(out, code, 2);
-  out = std::ranges::copy(std::string_view("> <"), out).out;
-  for (const char16_t unit : kept)
-    out = WriteHex(out, unit, 2);
-  std::ranges::copy(std::string_view(">\n"), out);
-  lines_.push_back(std::move(line));
+  PdfTextBuffer line;
+  const auto appendHex = [&](std::uint16_t value) { line.EndAt(WriteHex(line.Room(4), value, 2)); };
+  line.Append("<");
+  appendHex(code);
+  line.Append("> <");
+  for (const char16_t unit : text.substr(0, kMostUnits))
+    appendHex(unit);
+  line.Append(">\n");
+  lines_.emplace_back(line.View());
 }
 
 std::string ToUnicodeMap::Text() const {

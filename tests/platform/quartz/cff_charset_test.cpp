@@ -44,18 +44,18 @@ TEST(CffCharacterIdentifiers, StandInRangesOfTwoByteLength) {
 
 TEST(CffCharacterIdentifiers, AreFoundBehindNumbersOfEveryKind) {
   constexpr unsigned char kDictSize = 34;
-  const Bytes everyKind = {139, 139,  139,  12,
-                           30,  // 0 0 0, identifiers
-                           247, 0,    251,  0,
-                           13,                   // 108 -108, an operator of no interest
-                           28,  1,    0,    14,  // 256
-                           30,  0xA1, 0x40, 0x5F,
-                           12,  7,  // .1405
-                           30,  0x12, 0xFF, 16,
-                           29,  0,    0,    1,
-                           0,  // 12, 256
-                           17,  246,  17,   139 + kTopDictAt + kDictSize,
-                           15};
+  const Bytes parts[] = {
+      {139, 139, 139, 12, 30},        // 0 0 0, identifiers
+      {247, 0, 251, 0, 13},           // 108 -108, an operator of no interest
+      {28, 1, 0, 14},                 // 256
+      {30, 0xA1, 0x40, 0x5F, 12, 7},  // .1405
+      {30, 0x12, 0xFF, 16},           // 12
+      {29, 0, 0, 1, 0, 17, 246, 17},  // 256 and 107
+      {139 + kTopDictAt + kDictSize, 15},
+  };
+  Bytes everyKind;
+  for (const Bytes& part : parts)
+    everyKind.insert(everyKind.end(), part.begin(), part.end());
   ASSERT_EQ(everyKind.size(), kDictSize);
   EXPECT_THAT(CffCharacterIdentifiers(Program(everyKind, {0, 0, 7}), 2), ElementsAre(0, 7));
 }
