@@ -5,8 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "bitmap/dib.h"
-#include "reader/reader.h"
+#include "classic/bitmap/dib.h"
+#include "classic/reader/reader.h"
 #include "support/bytes.h"
 
 namespace kelvane {

@@ -3,8 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "classic/document/emf_file.h"
 #include "conversion.h"
-#include "document/emf_file.h"
 #include "inputs.h"
 
 namespace kelvane::bench {

@@ -7,7 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "conversion.h"
-#include "platform/atsui/font_registry.h"
+#include "platform/fonts/font_registry.h"
 #include "support/metafile.h"
 
 namespace kelvane {

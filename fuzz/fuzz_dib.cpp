@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "bitmap/draw_image.h"
-#include "platform/quartz/cg_trace_context.h"
-#include "reader/reader.h"
+#include "classic/bitmap/draw_image.h"
+#include "classic/reader/reader.h"
+#include "platform/trace/cg_trace_context.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   kelvane::Reader reader(data, static_cast<std::int32_t>(size));

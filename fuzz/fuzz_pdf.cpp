@@ -2,9 +2,9 @@
 
 #include <exception>
 
+#include "platform/pdf/cg_pdf_context.h"
+#include "platform/pdf/cg_pdf_document.h"
 #include "platform/quartz/cg_data_provider.h"
-#include "platform/quartz/cg_pdf_context.h"
-#include "platform/quartz/cg_pdf_document.h"
 
 namespace kelvane {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <exception>
 
-#include "document/emf_file.h"
+#include "classic/document/emf_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   [[maybe_unused]] static const auto* const silence = std::freopen("/dev/null", "w", stdout);

@@ -9,11 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include "classic/text/text_records.h"
 #include "support/corpus.h"
 #include "support/files.h"
 #include "support/playback.h"
 #include "support/process.h"
-#include "text/text_records.h"
 
 namespace kelvane::test {
 namespace {

@@ -7,14 +7,15 @@
 
 #include <gtest/gtest.h>
 
-#include "document/record_factory.h"
-#include "document/skipped_records.h"
+#include "classic/document/record_factory.h"
+#include "classic/document/skipped_records.h"
 #include "support/files.h"
+#include "support/paths.h"
 
 namespace kelvane {
 namespace {
 
-const std::string kRoot = KELVANE_SOURCE_DIR "/";
+const std::string kRoot = test::SourcePath("") + "/";
 
 TEST(Readme, ShowsTheExampleThatIsCompiled) {
   const std::string example = test::ReadFile(kRoot + "tests/frontends/readme_example.c");

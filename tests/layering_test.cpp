@@ -1,5 +1,11 @@
-// Includes point one way: frontends > document > records, objects, bitmap, text > context > reader
-// > platform.
+// Includes point one way. A folder may include itself and what stands below it:
+//
+//     frontends > classic > atsui > fonts > quartz > corefoundation > base
+//     frontends > pdf, trace > quartz
+//
+// and within the classic conversion
+//
+//     document > records, objects, bitmap, text > context > playable, reader
 
 #include <filesystem>
 #include <map>
@@ -11,70 +17,53 @@
 #include <gtest/gtest.h>
 
 #include "support/files.h"
+#include "support/paths.h"
 
 namespace kelvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kSource = fs::path(KELVANE_SOURCE_DIR) / "src";
+using Arrows = std::map<std::string, std::set<std::string>>;
 
-/// What each folder may include besides itself and what everybody may.
-const std::map<std::string, std::set<std::string>>& Allowed() {
-  static const std::map<std::string, std::set<std::string>> kAllowed = {
-      {"platform", {}},
-      {"reader", {"platform"}},
-      {"context", {"reader", "platform"}},
-      {"records", {"context", "reader", "platform"}},
-      {"objects", {"context", "reader", "platform"}},
-      {"bitmap", {"context", "reader", "platform"}},
-      {"text", {"context", "reader", "platform"}},
-      {"document", {"records", "objects", "bitmap", "text", "context", "reader", "platform"}},
-      {"frontends", {"document", "text", "reader", "platform"}},
+/// By folder, the folders right below it; it may include what those may include, too.
+const Arrows& Floors() {
+  static const Arrows kFloors = {
+      {"base", {}},
+      {"platform/corefoundation", {"base"}},
+      {"platform/quartz", {"platform/corefoundation"}},
+      {"platform/fonts", {"platform/quartz"}},
+      {"platform/atsui", {"platform/fonts"}},
+      {"platform/pdf", {"platform/quartz"}},
+      {"platform/trace", {"platform/quartz"}},
+      {"platform/appkit", {"platform/corefoundation"}},
+      {"classic/reader", {"platform/quartz"}},
+      {"classic/playable", {"classic/reader"}},
+      {"classic/context", {"classic/playable"}},
+      {"classic/records", {"classic/context"}},
+      {"classic/objects", {"classic/context"}},
+      {"classic/bitmap", {"classic/context"}},
+      {"classic/text", {"classic/context", "platform/atsui"}},
+      {"classic/document",
+       {"classic/records", "classic/objects", "classic/bitmap", "classic/text"}},
+      {"frontends", {"classic/document", "platform/pdf"}},
+      {"frontends/appkit", {"platform/appkit"}},
   };
-  return kAllowed;
+  return kFloors;
 }
 
-/// Within the platform, text stands on drawing and drawing on data objects.
-const std::map<std::string, std::set<std::string>>& AllowedInPlatform() {
-  static const std::map<std::string, std::set<std::string>> kAllowed = {
-      {"corefoundation", {}},
-      {"quartz", {"corefoundation"}},
-      {"atsui", {"quartz", "corefoundation"}},
-      {"appkit", {"corefoundation"}},
-  };
-  return kAllowed;
-}
-
-/// The bases know the classes they name by forward declaration only.
-bool IsForEverybody(const std::string& header) {
-  return header == "document/record.h" || header == "objects/object.h";
-}
-
-std::string FirstPart(const fs::path& path) {
-  return path.begin()->string();
-}
-
-std::string SecondPart(const fs::path& path) {
-  return std::next(path.begin())->string();
-}
-
-bool MayInclude(const fs::path& file, const fs::path& header) {
-  const std::string from = FirstPart(file);
-  const std::string to = FirstPart(header);
-  if (from != to) return IsForEverybody(header.string()) || Allowed().at(from).contains(to);
-  if (from != "platform") return true;
-  const auto allowed = AllowedInPlatform().find(SecondPart(file));
-  const std::string part = SecondPart(header);
-  const bool isInAFolder = AllowedInPlatform().contains(part);
-  return !isInAFolder || part == SecondPart(file) ||
-         (allowed != AllowedInPlatform().end() && allowed->second.contains(part));
+bool StandsOn(const std::string& folder, const std::string& other) {
+  if (folder == other) return true;
+  for (const std::string& below : Floors().at(folder)) {
+    if (StandsOn(below, other)) return true;
+  }
+  return false;
 }
 
 std::set<std::string> IncludesOf(const fs::path& file) {
   static const std::regex kInclude("#(?:include|import) \"([^\"]+)\"");
   std::set<std::string> headers;
-  std::istringstream lines(test::ReadFile(kSource / file));
+  std::istringstream lines(test::ReadFile(file));
   std::smatch match;
   for (std::string line; std::getline(lines, line);) {
     if (std::regex_match(line, match, kInclude)) headers.insert(match[1]);
@@ -83,14 +72,17 @@ std::set<std::string> IncludesOf(const fs::path& file) {
 }
 
 TEST(Layering, HasNoIncludeThatPointsBack) {
+  const fs::path source = test::SourcePath("src");
   std::size_t includes = 0;
-  for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
-    if (!entry.is_regular_file()) continue;
-    const fs::path file = fs::relative(entry.path(), kSource);
-    if (!Allowed().contains(FirstPart(file))) continue;
-    for (const std::string& header : IncludesOf(file)) {
+  for (const auto& entry : fs::recursive_directory_iterator(source)) {
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".h" && extension != ".cpp" && extension != ".mm") continue;
+    const std::string folder = fs::relative(entry.path().parent_path(), source).string();
+    ASSERT_TRUE(Floors().contains(folder)) << folder << " stands on no floor";
+    for (const std::string& header : IncludesOf(entry.path())) {
       ++includes;
-      EXPECT_TRUE(MayInclude(file, header)) << file << " includes " << header;
+      const std::string other = fs::path(header).parent_path().string();
+      EXPECT_TRUE(StandsOn(folder, other)) << entry.path() << " includes " << header;
     }
   }
   EXPECT_GT(includes, 100U);

@@ -4,6 +4,7 @@
 
 #include "support/files.h"
 #include "support/golden.h"
+#include "support/paths.h"
 #include "support/pdf.h"
 #include "support/playback.h"
 
@@ -20,7 +21,7 @@ class ASample : public testing::TestWithParam<Sample> {
   static const std::string& Name() { return GetParam().name; }
 
   static std::string CommittedFile() {
-    return test::ReadFile(KELVANE_SOURCE_DIR "/samples/" + Name() + ".emf");
+    return test::ReadFile(test::SourcePath("samples/" + Name() + ".emf"));
   }
 };
 

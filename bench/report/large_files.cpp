@@ -10,10 +10,10 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include "base/deflater.h"
+#include "classic/document/emf_file.h"
 #include "conversion.h"
-#include "document/emf_file.h"
 #include "inputs.h"
-#include "platform/quartz/pdf_deflater.h"
 #include "report/goals.h"
 #include "support/metafile.h"
 
@@ -44,7 +44,7 @@ Finding AgainstDeflate() {
   const std::vector<unsigned char> metafile = Drawing(50 * kMegabyte);
   const std::vector<std::string> content = ContentOf(*Convert(metafile));
   std::vector<unsigned char> room(content.front().size() * 2);
-  libdeflate_compressor* compressor = libdeflate_alloc_compressor(PdfDeflater::kQuick);
+  libdeflate_compressor* compressor = libdeflate_alloc_compressor(Deflater::kQuick);
   const auto deflate = [&] {
     for (const std::string& piece : content)
       libdeflate_zlib_compress(compressor, piece.data(), piece.size(), room.data(), room.size());

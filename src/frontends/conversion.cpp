@@ -8,15 +8,15 @@
 #include <system_error>
 #include <vector>
 
-#include "document/emf_file.h"
+#include "classic/document/emf_file.h"
+#include "classic/reader/file_reader.h"
 #include "frontends/file_size_signal.h"
 #include "platform/corefoundation/cf_string.h"
 #include "platform/corefoundation/cf_url.h"
+#include "platform/pdf/cg_pdf_context.h"
+#include "platform/pdf/cg_pdf_document.h"
 #include "platform/quartz/cg_data_consumer.h"
 #include "platform/quartz/cg_data_provider.h"
-#include "platform/quartz/cg_pdf_context.h"
-#include "platform/quartz/cg_pdf_document.h"
-#include "reader/file_reader.h"
 
 namespace kelvane {
 namespace {
@@ -66,7 +66,7 @@ void ConvertBuffer(const unsigned char* buffer, unsigned long length, CFMutableD
   if (length > static_cast<unsigned long>(std::numeric_limits<std::int32_t>::max())) {
     throw std::length_error("a metafile of 2 GiB or more");
   }
-  EMFFile metafile(buffer, static_cast<std::int32_t>(length));
+  EMFFile metafile(buffer, static_cast<std::int32_t>(length), CGPDFContextCreate);
   metafile.ParseEMFFile();
   metafile.DrawToPDF(output);
 }
@@ -75,7 +75,7 @@ void ConvertFile(const char* path) {
   const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
   {
     const std::vector<unsigned char> block = FileReader(path).readBlock();
-    EMFFile metafile(block.data(), static_cast<std::int32_t>(block.size()));
+    EMFFile metafile(block.data(), static_cast<std::int32_t>(block.size()), CGPDFContextCreate);
     metafile.context.sourcePath = path;
     metafile.ParseEMFFile();
     metafile.DrawToPDF(data.get());

@@ -3,9 +3,9 @@
 
 #include <kelvane/kelvane.h>
 
+#include "classic/text/font_selection.h"
 #include "frontends/conversion.h"
 #include "platform/corefoundation/cf_data.h"
-#include "text/font_selection.h"
 
 // The C interface: the platform's objects under opaque names, and no exception beyond this file.
 

@@ -11,6 +11,7 @@
 #include "support/converter.h"
 #include "support/files.h"
 #include "support/metafile.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -54,7 +55,7 @@ class ConverterInterrupted : public testing::TestWithParam<std::tuple<const char
   void Interrupt() {
     const auto [signal, percent] = GetParam();
     const std::string seconds = std::to_string(seconds_ * percent / 100);
-    test::Run({"timeout", "-s", signal, seconds, KELVANE_CONVERTER, folder_ / "a.emf"});
+    test::Run({"timeout", "-s", signal, seconds, test::ConverterPath(), folder_ / "a.emf"});
   }
 
   const TemporaryFolder folder_;
@@ -106,7 +107,7 @@ class ConverterOnASmallDisk : public testing::Test {
     std::filesystem::create_directory(disk_.Path() / "disk");
     return test::Run({"timeout", "10", "unshare", "-m", "sh", "-c",
                       "mount -t tmpfs -o size=" + size + R"( none "$0" && cd "$0" && )" + commands,
-                      disk_ / "disk", folder_.Path().string(), KELVANE_CONVERTER});
+                      disk_ / "disk", folder_.Path().string(), test::ConverterPath()});
   }
 
   const TemporaryFolder folder_;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "support/files.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -24,14 +25,14 @@ std::string Declarations(const std::string& header) {
 /// says there that the function is exported.
 Names DeclaredInTheHeader() {
   static const std::regex function(R"((\w+)\()");
-  const std::string text = Declarations(ReadFile(KELVANE_SOURCE_DIR "/include/kelvane/kelvane.h"));
+  const std::string text = Declarations(ReadFile(SourcePath("include/kelvane/kelvane.h")));
   return {std::sregex_token_iterator(text.begin(), text.end(), function, 1), {}};
 }
 
 /// What the linker lets programs see, functions or not, weak or not.
 Names ExportedByTheLibrary() {
   std::istringstream lines(
-      Run({"nm", "-D", "--defined-only", "--format=posix", KELVANE_LIBRARY}).output);
+      Run({"nm", "-D", "--defined-only", "--format=posix", LibraryPath()}).output);
   Names names;
   for (std::string line; std::getline(lines, line);) {
     const bool belongsToTheCompiler = KELVANE_INSTRUMENTED && line.rfind("__", 0) == 0;

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "document/skipped_records.h"
+#include "classic/document/skipped_records.h"
 #include "samples.h"
 #include "support/playback.h"
 

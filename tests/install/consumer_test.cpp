@@ -6,12 +6,13 @@
 #include "support/files.h"
 #include "support/install.h"
 #include "support/library.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
 namespace {
 
-const std::string kSample = KELVANE_SOURCE_DIR "/samples/shapes.emf";
+const std::string kSample = SourcePath("samples/shapes.emf");
 
 std::string DocumentOfTheSample() {
   const std::string bytes = ReadFile(kSample);
@@ -20,7 +21,7 @@ std::string DocumentOfTheSample() {
 
 /// The line of the README that begins with `start`.
 std::string ReadmeLine(const std::string& start) {
-  const std::string readme = ReadFile(KELVANE_SOURCE_DIR "/README.md");
+  const std::string readme = ReadFile(SourcePath("README.md"));
   const std::size_t begin = readme.find("\n    " + start) + 1;
   return readme.substr(begin, readme.find('\n', begin) - begin);
 }
@@ -28,7 +29,7 @@ std::string ReadmeLine(const std::string& start) {
 TEST(ConsumerInC, ConvertsWhenBuiltAsTheReadmeSays) {
   const InstalledTree tree;
   const TemporaryFolder folder;
-  WriteFile(folder / "program.c", ReadFile(KELVANE_SOURCE_DIR "/tests/consumer/c/program.c"));
+  WriteFile(folder / "program.c", ReadFile(SourcePath("tests/consumer/c/program.c")));
   const ProcessResult built = RunInShell(
       tree, "set -e; cd " + folder.Path().string() +
                 "; cc() { $CC $CFLAGS -std=c99 -Wall -Wextra -Wpedantic -Werror \"$@\"; }\n" +
@@ -46,7 +47,7 @@ TEST(ConsumerInCpp, ConvertsThroughTheCMakePackage) {
   const InstalledTree tree;
   const TemporaryFolder folder;
   const ProcessResult configured =
-      ConfigureProject(tree, KELVANE_SOURCE_DIR "/tests/consumer/cpp", folder / "build");
+      ConfigureProject(tree, SourcePath("tests/consumer/cpp"), folder / "build");
   ASSERT_EQ(configured.status, 0) << configured.output;
   const ProcessResult built = RunCMake({"--build", folder / "build"});
   ASSERT_EQ(built.status, 0) << built.output;
@@ -78,10 +79,11 @@ TEST(ConsumerOfTheSource, InstallsNothingOfOurs) {
   const TemporaryFolder folder;
   WriteFile(folder / "CMakeLists.txt",
             "cmake_minimum_required(VERSION 3.25)\nproject(outer LANGUAGES C CXX)\n"
-            "add_subdirectory(" KELVANE_SOURCE_DIR
-            " kelvane)\n"
-            "get_target_property(type kelvane::kelvane TYPE)\n"
-            "install(CODE \"message(STATUS installing)\")\n");
+            "add_subdirectory(" +
+                SourcePath("") +
+                " kelvane)\n"
+                "get_target_property(type kelvane::kelvane TYPE)\n"
+                "install(CODE \"message(STATUS installing)\")\n");
   const ProcessResult configured = ConfigureProject(InstalledTree(), folder / "", folder / "build");
   ASSERT_EQ(configured.status, 0) << configured.output;
   const ProcessResult installed =

@@ -7,6 +7,7 @@
 #include "support/converter.h"
 #include "support/files.h"
 #include "support/install.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -50,7 +51,7 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
 TEST(InstalledTree, HasAToolThatFindsItsLibrary) {
   const InstalledTree tree;
   const TemporaryFolder folder;
-  WriteFile(folder / "a.emf", ReadFile(KELVANE_SOURCE_DIR "/samples/shapes.emf"));
+  WriteFile(folder / "a.emf", ReadFile(SourcePath("samples/shapes.emf")));
   const ProcessResult result =
       test::Run({"env", "-u", "LD_LIBRARY_PATH", tree / "bin/kelvaneConverter", folder / "a.emf"});
   EXPECT_EQ(result.output, kSuccess);
@@ -77,7 +78,7 @@ TEST(InstalledTree, HasALibraryThatProgramsKnowByItsABI) {
 TEST(InstalledTree, NamesNoFolderOfTheBuildOrOfItsPrefix) {
   const InstalledTree tree;
   // As a whole path: what is checked out as /kelvane is not named by "include/kelvane".
-  const std::string checkout = "(^|[^A-Za-z0-9_.}/-])" KELVANE_SOURCE_DIR "($|[^A-Za-z0-9_.-])";
+  const std::string checkout = "(^|[^A-Za-z0-9_.}/-])" + SourcePath("") + "($|[^A-Za-z0-9_.-])";
   const ProcessResult found =
       test::Run({"grep", "-rIE", checkout + "|/opt/some|/usr/local", tree / ""});
   EXPECT_EQ(found.output, "");

@@ -7,6 +7,7 @@
 #include "support/converter.h"
 #include "support/files.h"
 #include "support/install.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -67,7 +68,7 @@ TEST_F(ManualPage, GivesExamplesOfNamesThatTheToolFollows) {
   EXPECT_EQ(examples, 3);
   for (std::sregex_iterator i = first; i != std::sregex_iterator(); ++i) {
     const TemporaryFolder folder;
-    WriteFile(folder / i->str(1), ReadFile(KELVANE_SOURCE_DIR "/samples/shapes.emf"));
+    WriteFile(folder / i->str(1), ReadFile(SourcePath("samples/shapes.emf")));
     RunConverterIn(folder, i->str(1));
     EXPECT_EQ(ReadFile(folder / i->str(2)).substr(0, 5), "%PDF-");
   }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/install.h"
+#include "support/paths.h"
 #include "support/process.h"
 
 namespace kelvane::test {
@@ -16,7 +17,7 @@ struct Dialect {
   const char* name;
   const char* compiler;
   const char* standard;
-  const char* source;
+  std::string source;
 };
 
 // No other folder of headers is looked at: it needs none, and another copy cannot be taken for it.
@@ -38,7 +39,7 @@ class PublicHeader : public testing::TestWithParam<Dialect> {
 };
 
 TEST_P(PublicHeader, CompilesAloneAndWithoutWarnings) {
-  const ProcessResult result = Compile(GetParam(), KELVANE_SOURCE_DIR "/include");
+  const ProcessResult result = Compile(GetParam(), SourcePath("include"));
   EXPECT_EQ(result.output, "");
   EXPECT_EQ(result.status, 0);
 }
@@ -49,8 +50,8 @@ TEST_P(PublicHeader, CompilesWhereItIsInstalled) {
   EXPECT_EQ(result.status, 0);
 }
 
-constexpr const char* kInC = KELVANE_SOURCE_DIR "/tests/install/header_alone.c";
-constexpr const char* kInCpp = KELVANE_SOURCE_DIR "/tests/install/header_alone.cpp";
+const std::string kInC = SourcePath("tests/install/header_alone.c");
+const std::string kInCpp = SourcePath("tests/install/header_alone.cpp");
 
 INSTANTIATE_TEST_SUITE_P(, PublicHeader,
                          testing::Values(Dialect{"GccC99", "gcc", "-std=c99", kInC},

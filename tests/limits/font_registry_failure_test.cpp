@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "limits/allocations.h"
-#include "platform/atsui/font_registry.h"
+#include "platform/fonts/font_registry.h"
 
 namespace kelvane {
 namespace {
@@ -16,7 +16,7 @@ std::string NameOf(const Typeface* typeface) {
 /// The names of the faces that the registry finds, of each way in which it can be asked.
 std::string Answers(FontRegistry& registry) {
   std::string names;
-  for (const ATSUFontID font :
+  for (const FontID font :
        {registry.FindByFullName("Liberation Serif Bold"), registry.FindByFamily("Arial"),
         registry.FindByFamily("No Such Font"), kDefaultFont}) {
     for (const bool isBold : {false, true}) {

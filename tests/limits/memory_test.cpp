@@ -10,6 +10,7 @@
 #include "support/files.h"
 #include "support/library.h"
 #include "support/metafile.h"
+#include "support/paths.h"
 
 namespace kelvane::test {
 
@@ -98,8 +99,7 @@ INSTANTIATE_TEST_SUITE_P(, MemoryOfAFamily, testing::ValuesIn(InputFamilies()),
 
 std::vector<std::filesystem::path> MetafilesIn(const char* folder) {
   std::vector<std::filesystem::path> paths;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(std::filesystem::path(KELVANE_SOURCE_DIR) / folder)) {
+  for (const auto& entry : std::filesystem::directory_iterator(SourcePath(folder))) {
     if (entry.path().extension() == ".emf") paths.push_back(entry.path());
   }
   return paths;

@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include "support/paths.h"
+
 namespace kelvane::test {
 namespace {
 
@@ -9,7 +11,7 @@ using Command = std::vector<std::string>;
 
 ProcessResult RunConverterThrough(Command command, const Command& arguments) {
   command.insert(command.begin(), {"timeout", "10"});
-  command.emplace_back(KELVANE_CONVERTER);
+  command.emplace_back(ConverterPath());
   command.insert(command.end(), arguments.begin(), arguments.end());
   return Run(command);
 }

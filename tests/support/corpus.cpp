@@ -4,10 +4,11 @@
 #include <cctype>
 
 #include "support/files.h"
+#include "support/paths.h"
 
 namespace kelvane::test {
 std::filesystem::path CorpusFolder(const std::string& kind) {
-  return std::filesystem::path(KELVANE_SOURCE_DIR) / "../shared/corpus" / kind;
+  return std::filesystem::path(SourcePath("../shared/corpus")) / kind;
 }
 
 std::vector<std::string> CorpusNames(const std::string& kind) {

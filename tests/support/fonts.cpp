@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/paths.h"
+
 namespace kelvane::test {
 namespace {
 
@@ -12,7 +14,7 @@ constexpr const char* kVariable = "FONTCONFIG_FILE";
 /// Shows every test the same fonts, the machine's own ones left out.
 class PinnedFonts final : public testing::Environment {
  public:
-  void SetUp() override { setenv(kVariable, KELVANE_TEST_FONTS, 1); }
+  void SetUp() override { setenv(kVariable, FontsConfigurationPath().c_str(), 1); }
 };
 
 const auto* const kPinnedFonts = testing::AddGlobalTestEnvironment(new PinnedFonts);

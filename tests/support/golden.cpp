@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "support/files.h"
+#include "support/paths.h"
 
 namespace kelvane::test {
 namespace {
@@ -32,8 +33,7 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
 }  // namespace
 
 testing::AssertionResult MatchesGolden(const std::string& name, const std::string& text) {
-  const std::filesystem::path path =
-      std::filesystem::path(KELVANE_SOURCE_DIR) / "tests/golden" / name;
+  const std::filesystem::path path = std::filesystem::path(SourcePath("tests/golden")) / name;
   const std::string golden = std::filesystem::exists(path) ? ReadFile(path) : "";
   if (golden == text) return testing::AssertionSuccess();
   if (UpdatesGoldens()) {

@@ -1,7 +1,7 @@
 #include "support/metafile.h"
 
-#include "context/truncate.h"
-#include "document/record_type.h"
+#include "classic/context/truncate.h"
+#include "classic/document/record_type.h"
 
 namespace kelvane::test {
 namespace {

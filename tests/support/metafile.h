@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "reader/geometry_types.h"
+#include "classic/reader/geometry_types.h"
 #include "support/bytes.h"
 
 namespace kelvane::test {

@@ -1,7 +1,8 @@
 #include "support/playback.h"
 
 #include "frontends/conversion.h"
-#include "platform/quartz/cg_trace_context.h"
+#include "platform/pdf/cg_pdf_context.h"
+#include "platform/trace/cg_trace_context.h"
 #include "support/pdf.h"
 
 namespace kelvane::test {
@@ -11,7 +12,7 @@ ParsedMetafile::ParsedMetafile(std::vector<unsigned char> bytes)
         bytes.push_back(0);
         return std::move(bytes);
       }()),
-      file_(block_.data(), static_cast<std::int32_t>(block_.size())) {
+      file_(block_.data(), static_cast<std::int32_t>(block_.size()), CGPDFContextCreate) {
   file_.ParseEMFFile();
 }
 

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "document/emf_file.h"
-#include "reader/reader.h"
+#include "classic/document/emf_file.h"
+#include "classic/reader/reader.h"
 #include "support/bytes.h"
 #include "support/metafile.h"
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "platform/quartz/cg_pdf_context.h"
-#include "platform/quartz/cg_trace_context.h"
+#include "platform/pdf/cg_pdf_context.h"
+#include "platform/trace/cg_trace_context.h"
 #include "support/pdf.h"
 
 namespace kelvane::test {

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/pdf/cg_pdf_document.h"
 #include "platform/quartz/cg_context.h"
 #include "platform/quartz/cg_data_provider.h"
 #include "platform/quartz/cg_image.h"
-#include "platform/quartz/cg_pdf_document.h"
 
 namespace kelvane::test {
 

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "context/abstract_context.h"
-#include "platform/quartz/cg_trace_context.h"
+#include "classic/context/abstract_context.h"
+#include "platform/trace/cg_trace_context.h"
 
 namespace kelvane::test {
 

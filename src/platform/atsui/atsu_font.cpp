@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/atsui/font_registry.h"
-#include "platform/unicode.h"
+#include "base/unicode.h"
+#include "platform/fonts/font_registry.h"
 
 namespace kelvane {
 

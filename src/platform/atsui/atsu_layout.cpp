@@ -5,8 +5,8 @@
 #include <numbers>
 #include <span>
 
-#include "platform/atsui/text_items.h"
-#include "platform/atsui/text_shaper.h"
+#include "platform/fonts/text_items.h"
+#include "platform/fonts/text_shaper.h"
 
 namespace kelvane {
 namespace {

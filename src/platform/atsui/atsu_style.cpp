@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "platform/atsui/font_registry.h"
+#include "platform/fonts/font_registry.h"
 
 namespace kelvane {
 namespace {

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/fonts/font_registry.h"
+
 namespace kelvane {
 
 /// What a call reports. Numbers are the platform's.
@@ -27,10 +29,7 @@ inline constexpr UniCharCount kATSUToTextEnd = 0xFFFFFFFF;
 using ByteCount = std::size_t;
 using ItemCount = std::size_t;
 
-/// The number of a font that was found. Any number that no font has means the default font.
-using ATSUFontID = std::uint32_t;
-inline constexpr ATSUFontID kNoFont = 0;
-inline constexpr ATSUFontID kDefaultFont = 8426;
+using ATSUFontID = FontID;
 
 /// Attributes of styles and layouts; the comments name the values' types.
 using ATSUAttributeTag = std::uint32_t;

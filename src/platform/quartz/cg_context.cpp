@@ -84,21 +84,6 @@ void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
   if (Shows() && IsFinite(matrix)) ImageDrawn(*image, matrix);
 }
 
-void CGContext::DrawPDFPage(const CGRect& rect, CGPDFPageRef page) {
-  const CGRect box = CGPDFPageGetBoxRect(page, kCGPDFMediaBox);
-  if (!(box.size.width > 0 && box.size.height > 0)) return;
-  const CGFloat xScale = rect.size.width / box.size.width;
-  const CGFloat yScale = rect.size.height / box.size.height;
-  const CGAffineTransform boxToRect = {xScale,
-                                       0,
-                                       0,
-                                       yScale,
-                                       rect.origin.x - box.origin.x * xScale,
-                                       rect.origin.y - box.origin.y * yScale};
-  const CGAffineTransform matrix = CGAffineTransformConcat(boxToRect, state_.ctm);
-  if (Shows() && IsFinite(matrix)) PDFPageDrawn(*page, matrix);
-}
-
 void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
   CGGlyphRun onPage = run;
   onPage.matrix = CGAffineTransformConcat(run.matrix, state_.ctm);
@@ -147,13 +132,6 @@ void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
 
 void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
   if (!std::isnan(limit)) c->State().miterLimit = limit;
-}
-
-void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
-                              int page) {
-  if (document == nullptr || page < 1) return;
-  const CGPDFPageRef found = CGPDFDocumentGetPage(document, static_cast<std::size_t>(page));
-  if (found != nullptr) c->DrawPDFPage(rect, found);
 }
 
 }  // namespace kelvane

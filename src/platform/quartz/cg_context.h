@@ -12,7 +12,6 @@
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
-#include "platform/quartz/cg_pdf_document.h"
 #include "platform/quartz/cg_saved_states.h"
 
 namespace kelvane {
@@ -58,7 +57,6 @@ class CGContext : public CFObject {
   void DrawPath(CGPathDrawingMode mode);
   void Clip();
   void DrawImage(const CGRect& rect, CGImageRef image);
-  void DrawPDFPage(const CGRect& rect, CGPDFPageRef page);
   /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks
   /// nothing.
   void DrawGlyphRun(const CGGlyphRun& run);
@@ -67,6 +65,9 @@ class CGContext : public CFObject {
   [[nodiscard]] CGRect ToUserSpace(const CGRect& pageRect) const;
 
  protected:
+  /// False outside a page, and where a clip hides all.
+  [[nodiscard]] bool Shows() const { return inPage_ && !state_.hidesAll; }
+
   /// The clips in effect, oldest first.
   [[nodiscard]] std::span<const CGClip> Clips() const { return {clips_.data(), state_.clipCount}; }
 
@@ -76,8 +77,6 @@ class CGContext : public CFObject {
   virtual void PathPainted(const CGPath& path, CGPathDrawingMode mode) = 0;
   /// @param matrix  maps the unit square, whose top edge is the image's top row, onto the page.
   virtual void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) = 0;
-  /// @param matrix  maps the page's own space onto this page.
-  virtual void PDFPageDrawn(const CGPDFPage& page, const CGAffineTransform& matrix) = 0;
   /// @param run  not empty; its matrix leads to page space.
   virtual void GlyphsDrawn(const CGGlyphRun& run) = 0;
 
@@ -85,7 +84,6 @@ class CGContext : public CFObject {
   [[nodiscard]] CGPoint ToPage(CGPoint point) const {
     return CGPointApplyAffineTransform(point, state_.ctm);
   }
-  [[nodiscard]] bool Shows() const { return inPage_ && !state_.hidesAll; }
   void ResetPage();
 
   CGGraphicsState state_;
@@ -98,6 +96,10 @@ class CGContext : public CFObject {
 };
 
 using CGContextRef = CGContext*;
+
+/// Options a document may be given; there are none yet.
+class CFDictionary;
+using CFDictionaryRef = const CFDictionary*;
 
 // The platform's calls, under the platform's names. User space is y upwards; angles are radians.
 // None takes a null context.
@@ -208,10 +210,5 @@ inline void CGContextSetTextDrawingMode(CGContextRef c, CGTextDrawingMode mode) 
 inline void CGContextDrawImage(CGContextRef c, const CGRect& rect, CGImageRef image) {
   if (image != nullptr) c->DrawImage(rect, image);
 }
-
-/// Draws a page fitted into the rectangle. A null document or a page it does not have marks
-/// nothing.
-void CGContextDrawPDFDocument(CGContextRef c, const CGRect& rect, CGPDFDocumentRef document,
-                              int page);
 
 }  // namespace kelvane

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/atsui/font_registry.h"
+#include "platform/fonts/font_registry.h"
 #include "support/text.h"
 
 namespace kelvane {

@@ -327,21 +327,8 @@ TEST(CGContext, MarksNothingForTextOfNoSize) {
             "");
 }
 
-TEST(CGContext, MarksNothingForANullImageOrDocument) {
-  EXPECT_EQ(TraceOf([](CGContextRef c) {
-              CGContextDrawImage(c, CGRectMake(0, 0, 1, 1), nullptr);
-              CGContextDrawPDFDocument(c, CGRectMake(0, 0, 1, 1), nullptr, 1);
-            }),
-            "");
-}
-
-TEST(CGContext, MarksNothingForAPageTheDocumentHasNot) {
-  const CFOwned<CGPDFDocument> document = test::OpenPdf(test::PdfBytesOf([](CGContextRef) {}));
-  EXPECT_EQ(TraceOf([&](CGContextRef c) {
-              for (const int page : {-1, 0, 2}) {
-                CGContextDrawPDFDocument(c, CGRectMake(0, 0, 1, 1), document.get(), page);
-              }
-            }),
+TEST(CGContext, MarksNothingForANullImage) {
+  EXPECT_EQ(TraceOf([](CGContextRef c) { CGContextDrawImage(c, CGRectMake(0, 0, 1, 1), nullptr); }),
             "");
 }
 

@@ -1,0 +1,58 @@
+#include "base/number.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace kelvane {
+namespace {
+
+constexpr int kShades = 256;
+
+/// Writes `shade` / 256: colours are made of such fractions, and all digits of one make its
+/// shortest decimal.
+/// @param shade  not 0, from -255 to 255.
+char* WriteShade(char* out, int shade) {
+  constexpr int kDigits = 8;
+  constexpr unsigned kHundredMillionths = 390625;  // in a shade
+  if (shade < 0) *out++ = '-';
+  *out++ = '0';
+  *out++ = '.';
+  unsigned rest = static_cast<unsigned>(std::abs(shade)) * kHundredMillionths;
+  int digits = kDigits;
+  for (; rest % 10 == 0; rest /= 10)
+    --digits;
+  for (char* digit = out + digits; digit != out; rest /= 10)
+    *--digit = static_cast<char>('0' + rest % 10);
+  return out + digits;
+}
+
+}  // namespace
+
+char* WriteNumber(char* out, float value) {
+  // Most coordinates are whole; every whole float below 2^24 has its integer's digits.
+  constexpr float kExactIntegers = 16777216;
+  char* const end = out + kNumberRoom;
+  if (std::abs(value) < kExactIntegers) {
+    const int whole = static_cast<int>(value);
+    if (static_cast<float>(whole) == value) return std::to_chars(out, end, whole).ptr;
+  }
+  if (std::abs(value) < 1) {
+    const float shades = value * kShades;
+    const int whole = static_cast<int>(shades);
+    if (static_cast<float>(whole) == shades) return WriteShade(out, whole);
+  }
+  if (std::isnan(value)) value = 0;
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  value = std::clamp(value, -kLargest, kLargest);
+  char* last = std::to_chars(out, end, value, std::chars_format::fixed).ptr;
+  // Readers take a number without a point for an integer and refuse one that no integer of theirs
+  // can hold.
+  constexpr float kIntegerLimit = 0x1p63F;
+  if (std::abs(value) >= kIntegerLimit) *last++ = '.';
+  return last;
+}
+
+}  // namespace kelvane

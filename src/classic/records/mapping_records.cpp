@@ -1,0 +1,69 @@
+#include "classic/records/mapping_records.h"
+
+#include "classic/context/abstract_context.h"
+#include "classic/context/truncate.h"
+#include "classic/reader/reader.h"
+
+namespace kelvane {
+namespace {
+
+// In single precision throughout, as the rounding shows in the result.
+std::int32_t Scale(std::int32_t extent, std::int32_t numerator, std::int32_t denominator) {
+  if (denominator == 0) return extent;
+  const float scale = static_cast<float>(numerator) / static_cast<float>(denominator);
+  return Truncate(static_cast<double>(static_cast<float>(extent) * scale));
+}
+
+}  // namespace
+
+void SetMapModeRecord::drawToPDF(AbstractContext& context) const {
+  context.mapMode = iMode;
+}
+
+void SetMapModeRecord::read(Reader& reader) {
+  reader.read(iMode);
+}
+
+void SetWindowExtExRecord::drawToPDF(AbstractContext& context) const {
+  context.windowExt = extent;
+  context.windowExtYPositive = extent.cy > 0 ? 1 : 0;
+}
+
+void SetWindowExtExRecord::read(Reader& reader) {
+  reader.read(extent);
+}
+
+void SetWindowOrgExRecord::drawToPDF(AbstractContext& context) const {
+  context.windowOrg = {origin.x, origin.y};
+}
+
+void SetWindowOrgExRecord::read(Reader& reader) {
+  reader.read(origin);
+}
+
+void SetViewPortExtExRecord::drawToPDF(AbstractContext& context) const {
+  context.viewportExt = extent;
+}
+
+void SetViewPortExtExRecord::read(Reader& reader) {
+  reader.read(extent);
+}
+
+void SetViewPortOrgExRecord::drawToPDF(AbstractContext& context) const {
+  context.viewportOrg = {origin.x, origin.y};
+}
+
+void SetViewPortOrgExRecord::read(Reader& reader) {
+  reader.read(origin);
+}
+
+void ScaleExtExRecord::drawToPDF(AbstractContext& context) const {
+  SIZEL& extent = window ? context.windowExt : context.viewportExt;
+  extent = {Scale(extent.cx, xNum, xDenom), Scale(extent.cy, yNum, yDenom)};
+}
+
+void ScaleExtExRecord::read(Reader& reader) {
+  reader.readAll(xNum, xDenom, yNum, yDenom);
+}
+
+}  // namespace kelvane

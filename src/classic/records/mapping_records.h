@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+
+#include "classic/playable/record.h"
+#include "classic/reader/geometry_types.h"
+
+namespace kelvane {
+
+/// EMR_SETMAPMODE ([MS-EMF] 2.3.11.16).
+class SetMapModeRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  std::int32_t iMode = 0;  // MM_
+};
+
+/// EMR_SETWINDOWEXTEX ([MS-EMF] 2.3.11.30).
+class SetWindowExtExRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  SIZEL extent;  // logical units
+};
+
+/// EMR_SETWINDOWORGEX ([MS-EMF] 2.3.11.31).
+class SetWindowOrgExRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  Point origin;  // logical units
+};
+
+/// EMR_SETVIEWPORTEXTEX ([MS-EMF] 2.3.11.28).
+class SetViewPortExtExRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  SIZEL extent;  // page units
+};
+
+/// EMR_SETVIEWPORTORGEX ([MS-EMF] 2.3.11.29).
+class SetViewPortOrgExRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  Point origin;  // page units
+};
+
+/// EMR_SCALEVIEWPORTEXTEX and EMR_SCALEWINDOWEXTEX ([MS-EMF] 2.3.11.9, 2.3.11.10). The window's
+/// direction, which SetWindowExtEx notes, stays even when scaling turns the extent around. A
+/// denominator of 0 leaves its extent.
+class ScaleExtExRecord final : public Record {
+ public:
+  explicit ScaleExtExRecord(bool scalesWindow) : window(scalesWindow) {}
+
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& reader) override;
+
+  const bool window;  // the window's extent, else the viewport's
+  std::int32_t xNum = 0;
+  std::int32_t xDenom = 0;
+  std::int32_t yNum = 0;
+  std::int32_t yDenom = 0;
+};
+
+}  // namespace kelvane

@@ -1,0 +1,27 @@
+#include "classic/records/path_records.h"
+
+#include "classic/context/abstract_context.h"
+#include "classic/reader/reader.h"
+
+namespace kelvane {
+
+void BeginPathRecord::drawToPDF(AbstractContext& context) const {
+  CGContextDrawPath(context.context, kCGPathStroke);
+  context.inPath = 1;
+  CGContextBeginPath(context.context);
+}
+
+void EndPathRecord::drawToPDF(AbstractContext& context) const {
+  context.inPath = 0;
+}
+
+void FillPathRecord::drawToPDF(AbstractContext& context) const {
+  const CGPathDrawingMode strokeMode = fill ? kCGPathFillStroke : kCGPathStroke;
+  CGContextDrawPath(context.context, stroke ? strokeMode : kCGPathFill);
+}
+
+void FillPathRecord::read(Reader& reader) {
+  reader.read(bounds);
+}
+
+}  // namespace kelvane

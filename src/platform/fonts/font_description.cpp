@@ -1,0 +1,119 @@
+#include "platform/fonts/font_description.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <hb-ot.h>
+
+#include "platform/fonts/harfbuzz_owned.h"
+
+namespace kelvane {
+namespace {
+
+/// A table of a font file: big-endian numbers at fixed places, 0 where the table ends early.
+class FontTable {
+ public:
+  FontTable(hb_face_t* face, hb_tag_t tag) : blob_(hb_face_reference_table(face, tag)) {
+    data_ = reinterpret_cast<const unsigned char*>(hb_blob_get_data(blob_.get(), &size_));
+  }
+
+  [[nodiscard]] bool Exists() const { return size_ != 0; }
+  [[nodiscard]] int Byte(unsigned at) const { return at < size_ ? data_[at] : 0; }
+  [[nodiscard]] int Unsigned(unsigned at) const { return Byte(at) << 8 | Byte(at + 1); }
+  [[nodiscard]] int Signed(unsigned at) const { return static_cast<std::int16_t>(Unsigned(at)); }
+
+ private:
+  HarfBuzzOwned<hb_blob_t> blob_;
+  const unsigned char* data_ = nullptr;
+  unsigned size_ = 0;
+};
+
+std::optional<CGFontOutlines> OutlinesOf(hb_face_t* face) {
+  if (FontTable(face, HB_TAG('g', 'l', 'y', 'f')).Exists()) return CGFontOutlines::kTrueType;
+  if (FontTable(face, HB_TAG('C', 'F', 'F', ' ')).Exists()) return CGFontOutlines::kCompact;
+  return std::nullopt;
+}
+
+// The type field of OS/2 (OpenType, "OS/2 - fsType"). Where several of the first four bits are set
+// the most lenient counts. A document holds subsets of outlines, so a face that may travel only
+// whole or only as bitmaps may not travel.
+bool MayBeEmbedded(int licence) {
+  constexpr int kUsage = 0x000F;
+  constexpr int kRestricted = 0x0002;
+  constexpr int kNoSubsetting = 0x0100;
+  constexpr int kBitmapsOnly = 0x0200;
+  return (licence & kUsage) != kRestricted && (licence & (kNoSubsetting | kBitmapsOnly)) == 0;
+}
+
+// Readers of documents that have to stand in another face for this one go by it. The usual
+// estimate.
+int StemWidth(int weightClass) {
+  const int weight = std::clamp(weightClass, 100, 900);
+  return 10 + 220 * (weight - 50) / 900;
+}
+
+bool IsSerif(const FontTable& os2) {
+  constexpr int kLatinText = 2;
+  const int serifStyle = os2.Byte(33);
+  if (os2.Byte(32) == kLatinText && serifStyle > 1) return serifStyle <= 10;
+  const int familyClass = os2.Byte(30);
+  return (familyClass >= 1 && familyClass <= 5) || familyClass == 7;
+}
+
+std::string PostScriptName(hb_face_t* face) {
+  std::array<char, 64> name{};
+  auto size = static_cast<unsigned>(name.size());
+  hb_ot_name_get_utf8(face, HB_OT_NAME_ID_POSTSCRIPT_NAME, HB_LANGUAGE_INVALID, &size, name.data());
+  std::string clean(name.data(), size);
+  for (char& character : clean) {
+    const bool isPlain = (character >= 'a' && character <= 'z') ||
+                         (character >= 'A' && character <= 'Z') ||
+                         (character >= '0' && character <= '9') ||
+                         std::string_view("-+._").find(character) != std::string_view::npos;
+    if (!isPlain) character = '-';
+  }
+  return clean.empty() ? "Font" : clean;
+}
+
+}  // namespace
+
+std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
+  hb_face_t* const face = hb_font_get_face(font);
+  const auto outlines = OutlinesOf(face);
+  if (!outlines || hb_face_get_glyph_count(face) == 0) return std::nullopt;
+
+  const FontTable head(face, HB_TAG('h', 'e', 'a', 'd'));
+  const FontTable os2(face, HB_TAG('O', 'S', '/', '2'));
+  const FontTable post(face, HB_TAG('p', 'o', 's', 't'));
+  const double unitsPerEm = hb_face_get_upem(face);
+  const auto thousandths = [&](int units) {
+    return static_cast<int>(std::lround(units * 1000 / unitsPerEm));
+  };
+  const auto metric = [&](hb_ot_metrics_tag_t tag) {
+    hb_position_t units = 0;
+    hb_ot_metrics_get_position(font, tag, &units);
+    return thousandths(units);
+  };
+
+  CGFontDescription description;
+  description.postScriptName = PostScriptName(face);
+  description.outlines = *outlines;
+  description.mayBeEmbedded = MayBeEmbedded(os2.Unsigned(8));
+  description.isFixedPitch = (post.Unsigned(12) | post.Unsigned(14)) != 0;
+  description.isSerif = IsSerif(os2);
+  description.italicAngle = static_cast<float>(post.Signed(4) + post.Unsigned(6) / 65536.0);
+  description.isItalic = description.italicAngle != 0 || (head.Unsigned(44) & 2) != 0;
+  description.ascent = metric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER);
+  description.descent = metric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER);
+  description.capHeight = metric(HB_OT_METRICS_TAG_CAP_HEIGHT);
+  if (description.capHeight <= 0) description.capHeight = description.ascent;
+  description.stemWidth = StemWidth(os2.Unsigned(4));
+  description.left = thousandths(head.Signed(36));
+  description.bottom = thousandths(head.Signed(38));
+  description.right = thousandths(head.Signed(40));
+  description.top = thousandths(head.Signed(42));
+  return description;
+}
+
+}  // namespace kelvane

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/fonts/harfbuzz_owned.h"
+#include "platform/quartz/cg_font.h"
+
+namespace kelvane {
+
+/// A face ready for setting text: the font that glyphs are drawn from, and HarfBuzz's view of it.
+/// It never changes and may be used by many threads at once.
+class Typeface {
+ public:
+  /// @param path   a TrueType or OpenType file, or a collection. @param index  the member.
+  /// @return null for a file that cannot be read, a face without outlines that a document can
+  ///         carry, and a face whose licence bits forbid it to be embedded.
+  static std::unique_ptr<const Typeface> Open(const std::string& path, unsigned index);
+
+  /// @return the standard Helvetica, for a machine without fonts.
+  static std::unique_ptr<const Typeface> StandardHelvetica();
+
+  [[nodiscard]] CGFontRef Font() const { return font_.get(); }
+
+  /// Lengths are in units of UnitsPerEm().
+  [[nodiscard]] hb_font_t* Shaper() const { return shaper_.get(); }
+  [[nodiscard]] unsigned UnitsPerEm() const { return unitsPerEm_; }
+
+  /// @return the glyph that the face maps the character to.
+  [[nodiscard]] std::optional<CGGlyph> GlyphFor(char32_t character) const;
+
+  /// True when the face has a glyph 0 to show where another is missing.
+  [[nodiscard]] bool ShowsMissing() const {
+    return font_->Description().outlines != CGFontOutlines::kStandard;
+  }
+
+ private:
+  Typeface(CFOwned<const CGFont> font, HarfBuzzOwned<hb_font_t> shaper);
+
+  CFOwned<const CGFont> font_;
+  HarfBuzzOwned<hb_font_t> shaper_;
+  unsigned unitsPerEm_;
+};
+
+}  // namespace kelvane

@@ -1,0 +1,229 @@
+#include "platform/pdf/cg_pdf_context.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/pdf/pdf_content.h"
+#include "platform/pdf/pdf_writer.h"
+#include "platform/quartz/cg_state_writer.h"
+
+namespace kelvane {
+namespace {
+
+bool IsUsable(const CGRect& box) {
+  return IsFinite(box) && box.size.width != 0 && box.size.height != 0;
+}
+
+/// @return what maps `from`, which has an area, onto `to`.
+CGAffineTransform Fitting(const CGRect& from, const CGRect& to) {
+  const CGFloat xScale = to.size.width / from.size.width;
+  const CGFloat yScale = to.size.height / from.size.height;
+  return {xScale,
+          0,
+          0,
+          yScale,
+          to.origin.x - from.origin.x * xScale,
+          to.origin.y - from.origin.y * yScale};
+}
+
+/// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an
+/// uneven transform is wrapped in that transform.
+class CGPDFContext final : public CGContext, private CGStateWriter {
+ public:
+  CGPDFContext(CGDataConsumerRef consumer, const CGRect& documentBox)
+      : consumer_(CFShare(consumer)),
+        documentBox_(documentBox),
+        content_(
+            [this](std::string_view piece) { contents_.push_back(writer_.AddStream(piece)); }) {}
+
+  void Close() override {
+    EndPage();
+    if (const auto consumer = std::move(consumer_)) writer_.Write(*consumer);
+  }
+
+  void DrawPDFPage(const CGRect& rect, const CGPDFPage& page) {
+    const CGRect box = CGPDFPageGetBoxRect(&page, kCGPDFMediaBox);
+    if (!(box.size.width > 0 && box.size.height > 0)) return;
+    const CGAffineTransform matrix = CGAffineTransformConcat(Fitting(box, rect), State().ctm);
+    if (!Shows() || !IsFinite(matrix)) return;
+    if (!pending_ && IsUntouched() && matrix == CGAffineTransformIdentity && box == mediaBox_) {
+      pending_ = PendingPage{CFShare(page.document), &page};
+      return;
+    }
+    DrawPending();
+    DrawForm(page, matrix);
+  }
+
+ private:
+  /// A page drawn over the whole of this one, before anything else.
+  struct PendingPage {
+    CFOwned<CGPDFDocument> document;
+    const CGPDFPage* page;
+  };
+
+  ~CGPDFContext() override = default;
+
+  void PageBegins(const CGRect& mediaBox) override {
+    mediaBox_ = IsUsable(mediaBox) ? mediaBox : documentBox_;
+    page_ = writer_.AddPage(mediaBox_);
+    xobjects_ = {};
+    fonts_ = {};
+    font_ = {};
+    StartPage();
+  }
+
+  void PageEnds() override {
+    if (pending_) {
+      PdfWriter::AdoptContent(page_, *pending_->page);
+      pending_.reset();
+      return;
+    }
+    FinishPage();
+    content_.Finish();
+    if (contents_.empty()) return;
+    page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
+                                                        : QPDFObjectHandle::newArray(contents_));
+    contents_.clear();
+  }
+
+  void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
+    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)});
+    const CGStrokeGeometry stroke = StrokeGeometry(State());
+    if (!Strokes(mode) || !stroke.throughTransform) {
+      content_.Path(path);
+      content_.Paint(mode);
+      return;
+    }
+    content_.Save();
+    content_.Concat(stroke.transform);
+    content_.Path(path.Mapped(stroke.inverse));
+    content_.Paint(mode);
+    content_.Restore();
+  }
+
+  void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
+    QPDFObjectHandle stream = writer_.AddImage(image);
+    if (stream.isNull()) return;
+    BeginMark({});
+    DrawXObject(NameOf(stream, "/XObject", "/Im", xobjects_), matrix);
+  }
+
+  void GlyphsDrawn(const CGGlyphRun& run) override {
+    BeginMark({.text = true});
+    if (run.font != font_.face) SetFont(run.font);
+    const PdfTextStyle style = {*font_.name, font_.font->CodeSize(), run.size, run.matrix};
+    for (const CGPositionedGlyph& glyph : run.glyphs) {
+      const PdfFont::Code code = font_.font->Encode(glyph.glyph, glyph.text);
+      content_.ShowGlyph(style, glyph.origin, code.value, code.width);
+    }
+  }
+
+  /// A face as the page knows it. What it points to stays until the page ends.
+  struct PageFont {
+    CGFontRef face = nullptr;
+    PdfFont* font = nullptr;
+    const std::string* name = nullptr;
+  };
+
+  void SetFont(CGFontRef face) {
+    PdfFont& font = writer_.FontFor(face);
+    font_ = {face, &font, &NameOf(font.Dictionary(), "/Font", "/F", fonts_)};
+  }
+
+  [[nodiscard]] bool IsUntouched() const {
+    return contents_.empty() && content_.IsEmpty() && Clips().empty();
+  }
+
+  void BeginMark(CGStateNeeds needs) {
+    DrawPending();
+    Prepare(State(), Clips(), needs);
+  }
+
+  // A page that does not stay alone becomes a form, drawn before what follows. No clip was in
+  // effect then.
+  void DrawPending() {
+    if (!pending_) return;
+    const PendingPage first = *std::exchange(pending_, std::nullopt);
+    DrawXObject(NameOf(writer_.AddForm(*first.page), "/XObject", "/Fm", xobjects_), {});
+  }
+
+  // A form starts with the state that it is drawn in, and a page counts on starting with a fresh
+  // one.
+  void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
+    Prepare(CGGraphicsState{}, Clips(), {.fill = true, .stroke = true, .text = true});
+    DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
+  }
+
+  void DrawXObject(const std::string& name, const CGAffineTransform& matrix) {
+    content_.Save();
+    content_.Concat(matrix);
+    content_.DrawXObject(name);
+    content_.Restore();
+  }
+
+  /// The page's names for its resources of one category, by object.
+  using Names = std::map<QPDFObjGen, std::string>;
+
+  const std::string& NameOf(const QPDFObjectHandle& object, const char* category,
+                            const char* prefix, Names& names) {
+    const auto [entry, isNew] = names.try_emplace(object.getObjGen());
+    if (isNew) {
+      entry->second = prefix + std::to_string(names.size());
+      auto resources = page_.getKey("/Resources");
+      if (!resources.hasKey(category)) {
+        resources.replaceKey(category, QPDFObjectHandle::newDictionary());
+      }
+      resources.getKey(category).replaceKey(entry->second, object);
+    }
+    return entry->second;
+  }
+
+  void WriteSave() override { content_.Save(); }
+  void WriteRestore() override { content_.Restore(); }
+  void WriteClip(const CGPath& area) override {
+    content_.Path(area);
+    content_.Clip();
+  }
+  void WriteFillColor(const CGColor& color) override { content_.FillColor(color); }
+  void WriteStrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
+  void WriteLineWidth(CGFloat width) override { content_.LineWidth(width); }
+  void WriteMiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
+  void WriteTextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
+
+  CFOwned<CGDataConsumer> consumer_;  // null once the document is written
+  CGRect documentBox_;
+  PdfWriter writer_;
+  CGRect mediaBox_;
+  QPDFObjectHandle page_;
+  std::vector<QPDFObjectHandle> contents_;  // the pieces of the page's content, in order
+  PdfContent content_;
+  Names xobjects_;
+  Names fonts_;
+  PageFont font_;  // of the last glyphs
+  std::optional<PendingPage> pending_;
+};
+
+}  // namespace
+
+CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
+                                CFDictionaryRef /*auxiliaryInfo*/) {
+  if (consumer == nullptr || mediaBox == nullptr || !IsUsable(*mediaBox)) return nullptr;
+  return new CGPDFContext(consumer, *mediaBox);
+}
+
+void CGPDFContextClose(CGContextRef context) {
+  context->Close();
+}
+
+void CGContextDrawPDFDocument(CGContextRef context, const CGRect& rect, CGPDFDocumentRef document,
+                              int page) {
+  auto* const surface = dynamic_cast<CGPDFContext*>(context);
+  if (surface == nullptr || document == nullptr || page < 1) return;
+  const CGPDFPageRef found = CGPDFDocumentGetPage(document, static_cast<std::size_t>(page));
+  if (found != nullptr) surface->DrawPDFPage(rect, *found);
+}
+
+}  // namespace kelvane

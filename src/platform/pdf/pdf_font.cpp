@@ -1,0 +1,214 @@
+#include "platform/pdf/pdf_font.h"
+
+#include <array>
+#include <cmath>
+#include <set>
+
+#include "base/number.h"
+#include "platform/pdf/pdf_font_program.h"
+#include "platform/pdf/pdf_to_unicode.h"
+#include "platform/pdf/pdf_writer.h"
+
+namespace kelvane {
+namespace {
+
+constexpr std::size_t kMostCodes = 0xFFFF;  // code 0 is left to the glyph of missing characters
+
+// Table 123 of ISO 32000-1. Glyphs are reached by number, so every face counts as symbolic.
+constexpr int kFixedPitch = 1 << 0;
+constexpr int kSerif = 1 << 1;
+constexpr int kSymbolic = 1 << 2;
+constexpr int kItalic = 1 << 6;
+
+QPDFObjectHandle Name(const std::string& name) {
+  return QPDFObjectHandle::newName("/" + name);
+}
+
+QPDFObjectHandle Integer(long long value) {
+  return QPDFObjectHandle::newInteger(value);
+}
+
+QPDFObjectHandle Number(CGFloat value) {
+  std::array<char, kNumberRoom> text;
+  return QPDFObjectHandle::newReal(std::string(text.data(), WriteNumber(text.data(), value)));
+}
+
+/// Codes that mean nothing but glyphs of this face.
+QPDFObjectHandle SystemInfo() {
+  auto information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Registry", QPDFObjectHandle::newString("Adobe"));
+  information.replaceKey("/Ordering", QPDFObjectHandle::newString("Identity"));
+  information.replaceKey("/Supplement", Integer(0));
+  return information;
+}
+
+int Flags(const CGFontDescription& face) {
+  return kSymbolic | (face.isFixedPitch ? kFixedPitch : 0) | (face.isSerif ? kSerif : 0) |
+         (face.isItalic ? kItalic : 0);
+}
+
+/// Six capitals that stand for the content of a subset.
+class SubsetTag {
+ public:
+  void Add(std::uint32_t value) { hash_ = (hash_ ^ value) * 0x100000001B3; }
+
+  [[nodiscard]] std::string Letters() const {
+    std::uint64_t rest = hash_ ^ (hash_ >> 32);
+    std::string letters;
+    for (int i = 0; i < 6; ++i, rest /= 26)
+      letters += static_cast<char>('A' + rest % 26);
+    return letters;
+  }
+
+ private:
+  std::uint64_t hash_ = 0xCBF29CE484222325;  // FNV-1a
+};
+
+}  // namespace
+
+PdfFont::PdfFont(CGFontRef font, const QPDFObjectHandle& dictionary)
+    : font_(CFShare(font)), dictionary_(dictionary) {
+  if (Face().outlines == CGFontOutlines::kCompact) cids_ = CharacterIdentifiers(*font);
+}
+
+// Nearly every glyph stands for one unit, the same one each time.
+PdfFont::Code PdfFont::Encode(CGGlyph glyph, std::u16string_view text) {
+  if (text.size() != 1) return CodeFor(glyph, text);
+  if (glyph >= units_.size()) units_.resize(std::size_t{glyph} + 1);
+  CodeOfUnit& known = units_[glyph];
+  if (known.unit != text[0]) known = {text[0], CodeFor(glyph, text)};
+  return known.code;
+}
+
+PdfFont::Code PdfFont::CodeFor(CGGlyph glyph, std::u16string_view text) {
+  std::u16string key(1, static_cast<char16_t>(glyph));
+  if (IsTrueType()) key += text;
+  const auto known = codes_.find(key);
+  if (known != codes_.end()) return known->second;
+
+  const CGFloat width = std::round(font_->Advance(glyph) * 1e6F) / 1000;
+  const Code code = {NewCode(glyph), width};
+  shown_.try_emplace(code.value, Shown{glyph, width, std::u16string(text)});
+  if (codes_.size() < kMostCodes) codes_.emplace(std::move(key), code);
+  return code;
+}
+
+// TrueType codes are given out one after the other, a map leading from them to the glyphs. A CFF
+// program leaves no room for such a map: its codes are its characters' identifiers, or its glyphs
+// where it has none.
+std::uint16_t PdfFont::NewCode(CGGlyph glyph) const {
+  if (IsTrueType()) {
+    return shown_.size() < kMostCodes ? static_cast<std::uint16_t>(shown_.size() + 1) : 0;
+  }
+  return glyph < cids_.size() ? cids_[glyph] : glyph;
+}
+
+void PdfFont::Finish(PdfWriter& writer) {
+  dictionary_.replaceKey("/Type", Name("Font"));
+  if (IsStandard()) {
+    dictionary_.replaceKey("/Subtype", Name("Type1"));
+    dictionary_.replaceKey("/BaseFont", Name(Face().postScriptName));
+    dictionary_.replaceKey("/Encoding", Name("WinAnsiEncoding"));
+    return;
+  }
+  const std::string name = SubsetName();
+  auto cidFont = QPDFObjectHandle::newDictionary();
+  cidFont.replaceKey("/Type", Name("Font"));
+  cidFont.replaceKey("/Subtype", Name(IsTrueType() ? "CIDFontType2" : "CIDFontType0"));
+  cidFont.replaceKey("/BaseFont", Name(name));
+  cidFont.replaceKey("/CIDSystemInfo", SystemInfo());
+  auto descriptor = writer.AddObject(Descriptor(name));
+  cidFont.replaceKey("/FontDescriptor", descriptor);
+  cidFont.replaceKey("/W", Widths());
+  AddProgram(writer, cidFont, descriptor);
+
+  dictionary_.replaceKey("/Subtype", Name("Type0"));
+  dictionary_.replaceKey("/BaseFont", Name(IsTrueType() ? name : name + "-Identity-H"));
+  dictionary_.replaceKey("/Encoding", Name("Identity-H"));
+  dictionary_.replaceKey("/DescendantFonts",
+                         QPDFObjectHandle::newArray({writer.AddObject(cidFont)}));
+  AddToUnicode(writer);
+}
+
+std::string PdfFont::SubsetName() const {
+  if (!Face().mayBeEmbedded) return Face().postScriptName;
+  SubsetTag tag;
+  for (const char character : Face().postScriptName)
+    tag.Add(static_cast<unsigned char>(character));
+  for (const auto& [code, shown] : shown_) {
+    tag.Add(code);
+    tag.Add(shown.glyph);
+  }
+  return tag.Letters() + "+" + Face().postScriptName;
+}
+
+// Codes that follow each other share one list.
+QPDFObjectHandle PdfFont::Widths() const {
+  auto widths = QPDFObjectHandle::newArray();
+  auto list = QPDFObjectHandle::newNull();
+  int next = -1;
+  for (const auto& [code, shown] : shown_) {
+    if (code != next) {
+      list = QPDFObjectHandle::newArray();
+      widths.appendItem(Integer(code));
+      widths.appendItem(list);
+    }
+    list.appendItem(Number(shown.width));
+    next = code + 1;
+  }
+  return widths;
+}
+
+QPDFObjectHandle PdfFont::Descriptor(const std::string& name) const {
+  const CGFontDescription& face = Face();
+  auto descriptor = QPDFObjectHandle::newDictionary();
+  descriptor.replaceKey("/Type", Name("FontDescriptor"));
+  descriptor.replaceKey("/FontName", Name(name));
+  descriptor.replaceKey("/Flags", Integer(Flags(face)));
+  descriptor.replaceKey("/FontBBox",
+                        QPDFObjectHandle::newArray({Integer(face.left), Integer(face.bottom),
+                                                    Integer(face.right), Integer(face.top)}));
+  descriptor.replaceKey("/ItalicAngle", Integer(std::lround(face.italicAngle)));
+  descriptor.replaceKey("/Ascent", Integer(face.ascent));
+  descriptor.replaceKey("/Descent", Integer(face.descent));
+  descriptor.replaceKey("/CapHeight", Integer(face.capHeight));
+  descriptor.replaceKey("/StemV", Integer(face.stemWidth));
+  return descriptor;
+}
+
+void PdfFont::AddProgram(PdfWriter& writer, QPDFObjectHandle cidFont,
+                         QPDFObjectHandle descriptor) const {
+  if (!Face().mayBeEmbedded) return;
+  std::set<CGGlyph> glyphs;
+  for (const auto& [code, shown] : shown_)
+    glyphs.insert(shown.glyph);
+  const auto program = SubsetProgram(*font_, glyphs);
+  if (!program) return;
+
+  auto file = writer.AddStream(program->bytes);
+  if (!IsTrueType()) {
+    file.getDict().replaceKey("/Subtype", Name("CIDFontType0C"));
+    descriptor.replaceKey("/FontFile3", file);
+    return;
+  }
+  file.getDict().replaceKey("/Length1", Integer(static_cast<long long>(program->bytes.size())));
+  descriptor.replaceKey("/FontFile2", file);
+
+  std::string glyphOfCode(2, '\0');  // code 0 shows glyph 0
+  for (const auto& [code, shown] : shown_) {
+    const CGGlyph glyph = program->glyphs.at(shown.glyph);
+    glyphOfCode.resize(std::size_t{code} * 2);
+    glyphOfCode += static_cast<char>(glyph >> 8);
+    glyphOfCode += static_cast<char>(glyph & 0xFF);
+  }
+  cidFont.replaceKey("/CIDToGIDMap", writer.AddStream(glyphOfCode));
+}
+
+void PdfFont::AddToUnicode(PdfWriter& writer) {
+  ToUnicodeMap map;
+  for (const auto& [code, shown] : shown_)
+    map.Add(code, shown.text);
+  dictionary_.replaceKey("/ToUnicode", writer.AddStream(map.Text()));
+}
+
+}  // namespace kelvane

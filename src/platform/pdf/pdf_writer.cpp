@@ -1,0 +1,189 @@
+#include "platform/pdf/pdf_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <stdexcept>
+#include <string>
+
+#include <qpdf/Buffer.hh>
+#include <qpdf/Pipeline.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include "base/number.h"
+
+namespace kelvane {
+namespace {
+
+constexpr std::size_t kObjectRoom = 256;  // bytes that most objects stay below, their streams apart
+
+class ConsumerPipeline final : public Pipeline {
+ public:
+  explicit ConsumerPipeline(CGDataConsumer& consumer)
+      : Pipeline("consumer", nullptr), consumer_(consumer) {}
+
+  void write(const unsigned char* data, std::size_t length) override {
+    consumer_.Write({data, length});
+  }
+  void finish() override {}
+
+ private:
+  CGDataConsumer& consumer_;
+};
+
+/// The far corner of a box may need more digits than its origin and size, hence the double; so long
+/// as these digits count for anything.
+QPDFObjectHandle Number(double value) {
+  constexpr double kLastWithFraction = 0x1p52;
+  std::array<char, 400> text;
+  char* end = text.data();
+  const auto single = static_cast<CGFloat>(value);
+  if (single == value || std::abs(value) > kLastWithFraction) {
+    end = WriteNumber(end, single);
+  } else {
+    end = std::to_chars(end, end + text.size(), value, std::chars_format::fixed).ptr;
+  }
+  return QPDFObjectHandle::newReal(std::string(text.data(), end));
+}
+
+QPDFObjectHandle BoxArray(const CGRect& box) {
+  const double x = box.origin.x;
+  const double y = box.origin.y;
+  return QPDFObjectHandle::newArray(
+      {Number(x), Number(y), Number(x + box.size.width), Number(y + box.size.height)});
+}
+
+}  // namespace
+
+PdfWriter::PdfWriter() {
+  // Not even an empty document can be read when memory runs out, and it must not be mended then.
+  pdf_.setAttemptRecovery(false);
+  pdf_.setSuppressWarnings(true);  // which would be printed
+  pdf_.emptyPDF();
+  auto information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Producer", QPDFObjectHandle::newString("kelvane " KELVANE_VERSION));
+  pdf_.getTrailer().replaceKey("/Info", pdf_.makeIndirectObject(information));
+}
+
+PdfWriter::~PdfWriter() = default;
+
+std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
+  const DeflatedBytes deflated = deflater_.Deflate(data);
+  deflatedBytes_ += deflated.size;
+  auto stream = std::make_shared<Buffer>(deflated.size);
+  std::ranges::copy(deflated.View(), stream->getBuffer());
+  return stream;
+}
+
+QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
+  auto stream = pdf_.newStream();
+  stream.replaceStreamData(
+      Deflate({reinterpret_cast<const unsigned char*>(data.data()), data.size()}),
+      QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  return stream;
+}
+
+QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
+  const auto pixels = PackRows(image.provider->Bytes(), image.width * image.components,
+                               image.height, image.bytesPerRow);
+  if (!pixels) return QPDFObjectHandle::newNull();
+
+  auto dictionary = QPDFObjectHandle::newDictionary();
+  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
+  dictionary.replaceKey("/Width",
+                        QPDFObjectHandle::newInteger(static_cast<long long>(image.width)));
+  dictionary.replaceKey("/Height",
+                        QPDFObjectHandle::newInteger(static_cast<long long>(image.height)));
+  dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::newName(
+                                           image.components == 1 ? "/DeviceGray" : "/DeviceRGB"));
+  dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
+  if (image.interpolate) dictionary.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
+  return SharedImage(dictionary, Deflate(*pixels));
+}
+
+// Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is
+// new.
+QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
+                                        const std::shared_ptr<Buffer>& deflated) {
+  const auto bytesOf = [](Buffer& buffer) {
+    return std::string_view(reinterpret_cast<const char*>(buffer.getBuffer()), buffer.getSize());
+  };
+  const std::string layout = dictionary.unparse();
+  const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*deflated));
+  const auto [first, last] = images_.equal_range(hash);
+  for (auto known = first; known != last; ++known) {
+    if (known->second.layout == layout && bytesOf(*known->second.deflated) == bytesOf(*deflated)) {
+      return known->second.stream;
+    }
+  }
+  auto stream = pdf_.newStream();
+  stream.replaceDict(dictionary);
+  stream.replaceStreamData(deflated, QPDFObjectHandle::newName("/FlateDecode"),
+                           QPDFObjectHandle::newNull());
+  images_.emplace(hash, StoredImage{layout, deflated, stream});
+  return stream;
+}
+
+PdfFont& PdfWriter::FontFor(CGFontRef font) {
+  const auto [entry, isNew] = fontIndexes_.try_emplace(font, fonts_.size());
+  if (isNew) fonts_.emplace_back(font, AddObject(QPDFObjectHandle::newDictionary()));
+  return fonts_[entry->second];
+}
+
+QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
+  const QPDFObjectHandle source = page.document->pdf->getAllPages()[page.index];
+  constexpr bool kApplyRotation = false;
+  auto form =
+      pdf_.copyForeignObject(QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation));
+  // The library joins the page's streams for the form and leaves the result as it is.
+  const auto content = form.getRawStreamData();
+  form.replaceStreamData(Deflate({content->getBuffer(), content->getSize()}),
+                         QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  return form;
+}
+
+void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
+  // Only indirect objects can be copied between documents, and these two may be direct or
+  // inherited.
+  QPDF& document = *page.getOwningQPDF();
+  QPDF& sourceDocument = *source.document->pdf;
+  QPDFPageObjectHelper helper(sourceDocument.getAllPages()[source.index]);
+  auto parts = QPDFObjectHandle::newDictionary();
+  for (const char* key : {"/Contents", "/Resources"}) {
+    parts.replaceKey(key, helper.getAttribute(key, false));
+  }
+  auto copy = document.copyForeignObject(sourceDocument.makeIndirectObject(parts));
+  for (const std::string& key : copy.getKeys())
+    page.replaceKey(key, copy.getKey(key));
+}
+
+QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
+  auto page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  page.replaceKey("/MediaBox", BoxArray(mediaBox));
+  page.replaceKey("/Resources", QPDFObjectHandle::newDictionary());
+  pdf_.addPage(pdf_.makeIndirectObject(page), false);
+  return pdf_.getAllPages().back();
+}
+
+void PdfWriter::Write(CGDataConsumer& consumer) {
+  for (PdfFont& font : fonts_)
+    font.Finish(*this);
+  consumer.Expect(deflatedBytes_ + pdf_.getObjectCount() * kObjectRoom);
+  ConsumerPipeline pipeline(consumer);
+  QPDFWriter writer(pdf_);
+  writer.setOutputPipeline(&pipeline);
+  writer.forcePDFVersion("1.4");
+  writer.setObjectStreamMode(qpdf_o_disable);
+  writer.setStreamDataMode(qpdf_s_preserve);
+  writer.setDeterministicID(true);
+  writer.write();
+  // The library goes on without an object that it cannot read, even when only memory ran out.
+  if (pdf_.anyWarnings()) throw std::runtime_error("the document lost some of its objects");
+  consumer.Commit();
+}
+
+}  // namespace kelvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include "base/deflater.h"
+#include "platform/pdf/cg_pdf_document.h"
+#include "platform/pdf/pdf_font.h"
+#include "platform/quartz/cg_data_consumer.h"
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_image.h"
+
+namespace kelvane {
+
+/// The objects of a document being made, and the writing of it: PDF 1.4 with a classic
+/// cross-reference and nothing in it that differs between two runs. Any call may throw
+/// std::bad_alloc or what the PDF library throws.
+class PdfWriter {
+ public:
+  PdfWriter();
+  ~PdfWriter();
+  PdfWriter(const PdfWriter&) = delete;
+  PdfWriter& operator=(const PdfWriter&) = delete;
+
+  /// @param data  copied, deflated. @return the new stream.
+  QPDFObjectHandle AddStream(std::string_view data);
+
+  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
+  /// short.
+  QPDFObjectHandle AddImage(const CGImage& image);
+
+  /// @return `object` as an object of its own, which others refer to.
+  QPDFObjectHandle AddObject(const QPDFObjectHandle& object) {
+    return pdf_.makeIndirectObject(object);
+  }
+
+  /// @return the document's record of the face, made when it is first asked for. Lives as long as
+  /// the writer.
+  PdfFont& FontFor(CGFontRef font);
+
+  /// @return the page of another document as a form XObject in that page's own space.
+  QPDFObjectHandle AddForm(const CGPDFPage& page);
+
+  /// Gives `page` the other document's page's own content and resources.
+  static void AdoptContent(QPDFObjectHandle page, const CGPDFPage& source);
+
+  /// @return a new last page, still without content, its resources empty.
+  QPDFObjectHandle AddPage(const CGRect& mediaBox);
+
+  /// Writes and commits the document. Throws std::system_error when the consumer cannot take it.
+  void Write(CGDataConsumer& consumer);
+
+ private:
+  struct StoredImage {
+    std::string layout;  // its dictionary without the data's own entries
+    std::shared_ptr<Buffer> deflated;
+    QPDFObjectHandle stream;
+  };
+
+  [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
+  QPDFObjectHandle SharedImage(QPDFObjectHandle dictionary,
+                               const std::shared_ptr<Buffer>& deflated);
+
+  QPDF pdf_;
+  Deflater deflater_;
+  std::size_t deflatedBytes_ = 0;                             // of all streams
+  std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
+  std::map<CGFontRef, std::size_t> fontIndexes_;
+  std::deque<PdfFont> fonts_;  // in the order of their first use
+};
+
+}  // namespace kelvane

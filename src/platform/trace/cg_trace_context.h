@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "platform/quartz/cg_context.h"
+
+namespace kelvane {
+
+/// Makes a surface that writes what is drawn as text, one line an operation, numbers as in a PDF:
+///
+///     page 0 -50 100 50            BeginPage: origin, size
+///     save / restore               around a clip, while it lasts
+///     fill-color 1 0 0             state: only when the value changes and the next mark needs it
+///     stroke-color 0 0 0
+///     line-width 2
+///     miter-limit 10
+///     text-mode 0
+///     move 10 -20                  a path, in page space
+///     line 30 -40
+///     curve 1 2 3 4 5 6
+///     rect 10 -60 20 40
+///     close
+///     fill, eo-fill, stroke, fill-stroke, eo-fill-stroke, clip    what is done with the path above
+///     stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform
+///     image 2 2 rgb under a b c d tx ty
+///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,
+///       at 0 0                     then each glyph's origin in text space; left out for one glyph
+///       at 0 0 at 8.6 0
+///     end-page
+///
+/// @param output  borrowed; must outlive the surface. Lines are appended.
+/// @return a surface owned by the caller. Throws std::bad_alloc.
+CGContextRef CGTraceContextCreate(std::string& output);
+
+}  // namespace kelvane

@@ -1,0 +1,33 @@
+#include "classic/context/truncate.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace kelvane {
+namespace {
+
+constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+
+TEST(Truncate, GoesTowardZero) {
+  EXPECT_EQ(Truncate(7.9), 7);
+  EXPECT_EQ(Truncate(-7.9), -7);
+  EXPECT_EQ(Truncate(-0.5), 0);
+}
+
+TEST(Truncate, SaturatesOutsideThirtyTwoBits) {
+  EXPECT_EQ(Truncate(2147483647.0), kHighest);
+  EXPECT_EQ(Truncate(2147483648.0), kHighest);
+  EXPECT_EQ(Truncate(-2147483648.0), kLowest);
+  EXPECT_EQ(Truncate(-1e300), kLowest);
+  EXPECT_EQ(Truncate(std::numeric_limits<double>::infinity()), kHighest);
+  EXPECT_EQ(Truncate(-std::numeric_limits<double>::infinity()), kLowest);
+}
+
+TEST(Truncate, GivesZeroForNotANumber) {
+  EXPECT_EQ(Truncate(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+}  // namespace
+}  // namespace kelvane
