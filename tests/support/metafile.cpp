@@ -1,7 +1,7 @@
 #include "support/metafile.h"
 
-#include "classic/context/truncate.h"
 #include "classic/document/record_type.h"
+#include "classic/reader/integer_arithmetic.h"
 
 namespace kelvane::test {
 namespace {

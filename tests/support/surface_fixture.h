@@ -6,6 +6,7 @@
 
 #include "classic/context/abstract_context.h"
 #include "platform/trace/cg_trace_context.h"
+#include "support/playback.h"
 
 namespace kelvane::test {
 
@@ -17,6 +18,12 @@ class SurfaceFixture : public testing::Test {
 
   /// @return what was traced since the last call.
   std::string TakeTrace();
+
+  /// Plays a record back, made of `arguments` and read from `body`.
+  template <class R, class... Arguments>
+  void Play(const Bytes& body, Arguments... arguments) {
+    ReadRecord<R>(body, arguments...)->drawToPDF(context_);
+  }
 
   [[nodiscard]] const CGGraphicsState& State() const { return context_.context->State(); }
 

@@ -1,6 +1,6 @@
 #include "classic/bitmap/bitmap_info_header.h"
 
-#include "classic/context/wrapping.h"
+#include "classic/reader/integer_arithmetic.h"
 #include "classic/reader/reader.h"
 
 namespace kelvane {

@@ -3,7 +3,7 @@
 #include "classic/bitmap/draw_image.h"
 #include "classic/context/abstract_context.h"
 #include "classic/context/path_primitives.h"
-#include "classic/context/wrapping.h"
+#include "classic/reader/integer_arithmetic.h"
 #include "classic/reader/reader.h"
 
 namespace kelvane {

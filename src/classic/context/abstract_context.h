@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 
-#include "classic/context/transform.h"
 #include "classic/playable/object.h"
 #include "classic/reader/gdi_structures.h"
 #include "classic/reader/geometry_types.h"

@@ -4,8 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "classic/context/truncate.h"
-#include "classic/context/wrapping.h"
+#include "classic/reader/integer_arithmetic.h"
 
 namespace kelvane {
 namespace {

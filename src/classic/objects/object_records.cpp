@@ -3,10 +3,8 @@
 #include "classic/context/abstract_context.h"
 #include "classic/context/colors.h"
 #include "classic/context/coordinates.h"
-#include "classic/context/truncate.h"
-#include "classic/objects/brush_objects.h"
-#include "classic/objects/font_object.h"
-#include "classic/objects/pen_object.h"
+#include "classic/objects/graphics_objects.h"
+#include "classic/reader/integer_arithmetic.h"
 #include "classic/reader/reader.h"
 
 namespace kelvane {

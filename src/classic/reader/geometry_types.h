@@ -48,6 +48,15 @@ struct XForm {
   float eDy = 0;
 };
 
+inline constexpr XForm kIdentityTransform = {1, 0, 0, 1, 0, 0};
+
+/// @return the single-precision product: applying it equals applying `a`, then `b`.
+constexpr XForm CrossMultiply(const XForm& a, const XForm& b) {
+  return {a.eM11 * b.eM11 + a.eM12 * b.eM21,       a.eM11 * b.eM12 + a.eM12 * b.eM22,
+          a.eM21 * b.eM11 + a.eM22 * b.eM21,       a.eM21 * b.eM12 + a.eM22 * b.eM22,
+          a.eDx * b.eM11 + a.eDy * b.eM21 + b.eDx, a.eDx * b.eM12 + a.eDy * b.eM22 + b.eDy};
+}
+
 /// A run of UTF-16 units to be read into memory that belongs to somebody else.
 struct WcharString {
   std::uint16_t* data = nullptr;  // borrowed; room for `length` units

@@ -1,7 +1,8 @@
 #include "classic/records/mapping_records.h"
 
 #include "classic/context/abstract_context.h"
-#include "classic/context/truncate.h"
+#include "classic/context/coordinates.h"
+#include "classic/reader/integer_arithmetic.h"
 #include "classic/reader/reader.h"
 
 namespace kelvane {
@@ -15,6 +16,22 @@ std::int32_t Scale(std::int32_t extent, std::int32_t numerator, std::int32_t den
 }
 
 }  // namespace
+
+void SetWorldTransformRecord::drawToPDF(AbstractContext& context) const {
+  context.SetWorldTransform(xform);
+}
+
+void SetWorldTransformRecord::read(Reader& reader) {
+  reader.read(xform);
+}
+
+void ModifyWorldTransformRecord::drawToPDF(AbstractContext& context) const {
+  TransformContext(context, iMode, xform);
+}
+
+void ModifyWorldTransformRecord::read(Reader& reader) {
+  reader.readAll(xform, iMode);
+}
 
 void SetMapModeRecord::drawToPDF(AbstractContext& context) const {
   context.mapMode = iMode;

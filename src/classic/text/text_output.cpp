@@ -7,9 +7,8 @@
 #include "classic/context/colors.h"
 #include "classic/context/coordinates.h"
 #include "classic/context/path_primitives.h"
-#include "classic/context/transform.h"
-#include "classic/context/truncate.h"
-#include "classic/context/wrapping.h"
+#include "classic/reader/geometry_types.h"
+#include "classic/reader/integer_arithmetic.h"
 #include "classic/text/font_selection.h"
 
 namespace kelvane {

@@ -1,10 +1,8 @@
+#include "classic/objects/graphics_objects.h"
+
 #include <limits>
 
 #include <gtest/gtest.h>
-
-#include "classic/objects/brush_objects.h"
-#include "classic/objects/font_object.h"
-#include "classic/objects/pen_object.h"
 
 namespace kelvane {
 namespace {

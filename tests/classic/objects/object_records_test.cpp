@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "classic/objects/brush_objects.h"
-#include "classic/objects/brush_records.h"
-#include "classic/objects/font_records.h"
-#include "classic/objects/pen_object.h"
-#include "classic/objects/pen_records.h"
+#include "classic/objects/creation_records.h"
+#include "classic/objects/graphics_objects.h"
 #include "support/playback.h"
 #include "support/surface_fixture.h"
 
@@ -37,10 +34,6 @@ Bytes Font(std::uint32_t index, std::int32_t height, std::int32_t escapement) {
 
 class ObjectRecords : public test::SurfaceFixture {
  protected:
-  template <class R>
-  void Play(const Bytes& body) {
-    ReadRecord<R>(body)->drawToPDF(context_);
-  }
   void Select(std::uint32_t index) { Play<SelectObjectRecord>(Bytes().U32(index)); }
   void CreateBrush(std::uint32_t index, std::uint32_t style, std::uint32_t color) {
     Play<CreateBrushIndirectRecord>(Brush(index, style, color));

@@ -1,7 +1,6 @@
-#include "classic/records/line_records.h"
-
 #include <gtest/gtest.h>
 
+#include "classic/records/shape_records.h"
 #include "support/playback.h"
 
 namespace kelvane {

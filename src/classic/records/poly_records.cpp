@@ -1,4 +1,4 @@
-#include "classic/records/poly_record.h"
+#include "classic/records/poly_records.h"
 
 #include <cstddef>
 
@@ -57,11 +57,33 @@ void PolyRecord<T>::read(Reader& reader) {
   reader.readList(points, count);
 }
 
+template <class T>
+void PolyPolyRecord<T>::drawToPDF(AbstractContext& context) const {
+  if (figureMode == draw_modes::FigureMode::kBezier) return;
+  DrawFigure<T>(context, points, figureMode, draw_modes::DrawFromPointMode::kMoveToFirst);
+}
+
+template <class T>
+void PolyPolyRecord<T>::read(Reader& reader) {
+  reader.readAll(bounds, figureCount, totalPoints);
+  reader.readList(counts, figureCount);
+  reader.readList(points, totalPoints);
+}
+
+template <class T>
+void PolyDrawRecord<T>::drawToPDF(AbstractContext& context) const {
+  context.EmptyDraw("PolyDraw");
+}
+
 template void DrawFigure<PointL>(AbstractContext&, std::span<const PointL>, draw_modes::FigureMode,
                                  draw_modes::DrawFromPointMode);
 template void DrawFigure<Point16>(AbstractContext&, std::span<const Point16>,
                                   draw_modes::FigureMode, draw_modes::DrawFromPointMode);
 template class PolyRecord<PointL>;
 template class PolyRecord<Point16>;
+template class PolyPolyRecord<PointL>;
+template class PolyPolyRecord<Point16>;
+template class PolyDrawRecord<PointL>;
+template class PolyDrawRecord<Point16>;
 
 }  // namespace kelvane

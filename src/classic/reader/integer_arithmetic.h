@@ -5,6 +5,9 @@
 
 namespace kelvane {
 
+// Coordinates come from anybody's file: nothing that a sum, a scale or a shift makes of them may be
+// undefined.
+
 /// Truncates toward zero; values outside 32 bits saturate and not-a-number gives 0, where a plain
 /// cast would be undefined.
 constexpr std::int32_t Truncate(double value) {
@@ -14,6 +17,20 @@ constexpr std::int32_t Truncate(double value) {
   if (value <= kLowest) return std::numeric_limits<std::int32_t>::min();
   if (value >= kHighest) return std::numeric_limits<std::int32_t>::max();
   return static_cast<std::int32_t>(value);
+}
+
+// Sums and differences wrap at 32 bits, as on the machines the format was made for.
+
+constexpr std::int32_t WrappingAdd(std::int32_t a, std::int32_t b) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
+constexpr std::int32_t WrappingSubtract(std::int32_t a, std::int32_t b) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b));
+}
+
+constexpr std::int32_t WrappingNegate(std::int32_t a) {
+  return WrappingSubtract(0, a);
 }
 
 }  // namespace kelvane

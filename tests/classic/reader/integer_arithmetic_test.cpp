@@ -1,4 +1,4 @@
-#include "classic/context/truncate.h"
+#include "classic/reader/integer_arithmetic.h"
 
 #include <limits>
 
@@ -27,6 +27,18 @@ TEST(Truncate, SaturatesOutsideThirtyTwoBits) {
 
 TEST(Truncate, GivesZeroForNotANumber) {
   EXPECT_EQ(Truncate(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+TEST(WrappingArithmetic, IsThatOfIntegersWhereTheResultFits) {
+  EXPECT_EQ(WrappingAdd(3, -5), -2);
+  EXPECT_EQ(WrappingSubtract(3, -5), 8);
+  EXPECT_EQ(WrappingNegate(7), -7);
+}
+
+TEST(WrappingArithmetic, GoesOnAtTheOtherEndOfThirtyTwoBits) {
+  EXPECT_EQ(WrappingAdd(kHighest, 1), kLowest);
+  EXPECT_EQ(WrappingSubtract(kLowest, 1), kHighest);
+  EXPECT_EQ(WrappingNegate(kLowest), kLowest);
 }
 
 }  // namespace

@@ -6,9 +6,24 @@
 
 #include "classic/playable/record.h"
 #include "classic/reader/geometry_types.h"
-#include "classic/records/draw_modes.h"
 
 namespace kelvane {
+
+/// How the factory tells the poly records apart.
+namespace draw_modes {
+
+enum class FigureMode : std::uint32_t {
+  kPolyline = 0,  // lines; an open figure
+  kPolygon = 1,   // lines; filled and stroked
+  kBezier = 2,    // groups of control, control, end
+};
+
+enum class DrawFromPointMode : std::uint32_t {
+  kMoveToFirst = 0,  // the figure starts with a move to its first point
+  kContinue = 1,     // it continues from the current point, as the records named …TO do
+};
+
+}  // namespace draw_modes
 
 /// Plays one figure: outside a path bracket it strokes what is pending, adds the figure and paints
 /// it; inside one it only adds. A polygon is never closed, so its fill closes it and its stroke
@@ -67,6 +82,50 @@ class PolybezierToRecord final : public PolyRecord<T> {
 template <class T>
 class PolylineToRecord final : public PolyRecord<T> {
   using PolyRecord<T>::PolyRecord;
+};
+
+/// Several polylines or polygons in one record, played as a single figure through all their points:
+/// the counts of the figures are read and not used. T is PointL or Point16.
+template <class T>
+class PolyPolyRecord : public Record {
+ public:
+  explicit PolyPolyRecord(draw_modes::FigureMode figure) : figureMode(figure) {}
+
+  /// Draws all points as one polyline or one even-odd polygon; in any other figure mode nothing.
+  void drawToPDF(AbstractContext& context) const override;
+
+  /// Reads bounds, both totals, the counts and the points; of each list, the whole elements that
+  /// the data supplies.
+  void read(Reader& reader) override;
+
+  RectangleL bounds;                  // read, not used in drawing
+  std::uint32_t figureCount = 0;      // as stored
+  std::uint32_t totalPoints = 0;      // as stored; may exceed points.size()
+  std::vector<std::uint32_t> counts;  // points of each figure; not used in drawing
+  std::vector<T> points;              // logical units, all figures one after the other
+  const draw_modes::FigureMode figureMode;
+};
+
+/// EMR_POLYPOLYLINE, EMR_POLYPOLYLINE16 ([MS-EMF] 2.3.5.30, 2.3.5.31).
+template <class T>
+class PolyPolylineRecord final : public PolyPolyRecord<T> {
+  using PolyPolyRecord<T>::PolyPolyRecord;
+};
+
+/// EMR_POLYPOLYGON, EMR_POLYPOLYGON16 ([MS-EMF] 2.3.5.28, 2.3.5.29).
+template <class T>
+class PolyPolygonRecord final : public PolyPolyRecord<T> {
+  using PolyPolyRecord<T>::PolyPolyRecord;
+};
+
+/// EMR_POLYDRAW, EMR_POLYDRAW16 ([MS-EMF] 2.3.5.20, 2.3.5.21): left out of playback. The body is
+/// not read, since its bounds would stand where the count is looked for; the framing skips it. T is
+/// PointL or Point16.
+template <class T>
+class PolyDrawRecord final : public Record {
+ public:
+  void drawToPDF(AbstractContext& context) const override;
+  void read(Reader& /*reader*/) override {}
 };
 
 }  // namespace kelvane

@@ -1,8 +1,7 @@
-#include "classic/records/poly_record.h"
+#include "classic/records/poly_records.h"
 
 #include <gtest/gtest.h>
 
-#include "classic/records/poly_poly_record.h"
 #include "support/playback.h"
 
 namespace kelvane {
