@@ -11,6 +11,8 @@ namespace kelvane::test {
 /// TrueType collection) and Junction (an OpenType font with CFF outlines).
 inline constexpr const char* kLiberationSans =
     "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf";
+inline constexpr const char* kLiberationSansBold =
+    "/usr/share/fonts/truetype/liberation/LiberationSans-Bold.ttf";
 inline constexpr const char* kDejaVuSans = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 inline constexpr const char* kMicroHei = "/usr/share/fonts/truetype/wqy/wqy-microhei.ttc";
 inline constexpr const char* kJunction = "/usr/share/fonts/opentype/junction/Junction.otf";

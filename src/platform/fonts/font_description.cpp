@@ -1,8 +1,6 @@
 #include "platform/fonts/font_description.h"
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 
 #include <hb-ot.h>
 
@@ -46,13 +44,6 @@ bool MayBeEmbedded(int licence) {
   return (licence & kUsage) != kRestricted && (licence & (kNoSubsetting | kBitmapsOnly)) == 0;
 }
 
-// Readers of documents that have to stand in another face for this one go by it. The usual
-// estimate.
-int StemWidth(int weightClass) {
-  const int weight = std::clamp(weightClass, 100, 900);
-  return 10 + 220 * (weight - 50) / 900;
-}
-
 bool IsSerif(const FontTable& os2) {
   constexpr int kLatinText = 2;
   const int serifStyle = os2.Byte(33);
@@ -86,19 +77,16 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   const FontTable head(face, HB_TAG('h', 'e', 'a', 'd'));
   const FontTable os2(face, HB_TAG('O', 'S', '/', '2'));
   const FontTable post(face, HB_TAG('p', 'o', 's', 't'));
-  const double unitsPerEm = hb_face_get_upem(face);
-  const auto thousandths = [&](int units) {
-    return static_cast<int>(std::lround(units * 1000 / unitsPerEm));
-  };
   const auto metric = [&](hb_ot_metrics_tag_t tag) {
     hb_position_t units = 0;
     hb_ot_metrics_get_position(font, tag, &units);
-    return thousandths(units);
+    return units;
   };
 
   CGFontDescription description;
   description.postScriptName = PostScriptName(face);
   description.outlines = *outlines;
+  description.unitsPerEm = hb_face_get_upem(face);
   description.mayBeEmbedded = MayBeEmbedded(os2.Unsigned(8));
   description.isFixedPitch = (post.Unsigned(12) | post.Unsigned(14)) != 0;
   description.isSerif = IsSerif(os2);
@@ -107,12 +95,11 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   description.ascent = metric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER);
   description.descent = metric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER);
   description.capHeight = metric(HB_OT_METRICS_TAG_CAP_HEIGHT);
-  if (description.capHeight <= 0) description.capHeight = description.ascent;
-  description.stemWidth = StemWidth(os2.Unsigned(4));
-  description.left = thousandths(head.Signed(36));
-  description.bottom = thousandths(head.Signed(38));
-  description.right = thousandths(head.Signed(40));
-  description.top = thousandths(head.Signed(42));
+  description.weight = os2.Unsigned(4);
+  description.left = head.Signed(36);
+  description.bottom = head.Signed(38);
+  description.right = head.Signed(40);
+  description.top = head.Signed(42);
   return description;
 }
 

@@ -8,7 +8,7 @@
 
 namespace kelvane {
 
-/// Reads what a document says about a face from its tables.
+/// Reads what a face says of itself from its tables.
 /// @param font  in units of the face's em.
 /// @return nothing for a face whose outlines a document of version 1.4 cannot carry.
 std::optional<CGFontDescription> DescribeFace(hb_font_t* font);

@@ -1,5 +1,6 @@
 #include "platform/pdf/pdf_font.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <set>
@@ -45,6 +46,11 @@ QPDFObjectHandle SystemInfo() {
 int Flags(const CGFontDescription& face) {
   return kSymbolic | (face.isFixedPitch ? kFixedPitch : 0) | (face.isSerif ? kSerif : 0) |
          (face.isItalic ? kItalic : 0);
+}
+
+// Readers that have to stand in another face for this one go by it. The usual estimate.
+int StemWidth(int weight) {
+  return 10 + 220 * (std::clamp(weight, 100, 900) - 50) / 900;
 }
 
 /// Six capitals that stand for the content of a subset.
@@ -161,18 +167,22 @@ QPDFObjectHandle PdfFont::Widths() const {
 
 QPDFObjectHandle PdfFont::Descriptor(const std::string& name) const {
   const CGFontDescription& face = Face();
+  const auto thousandths = [&](int units) { return std::lround(units * 1000.0 / face.unitsPerEm); };
+  const auto capHeight = thousandths(face.capHeight);
   auto descriptor = QPDFObjectHandle::newDictionary();
   descriptor.replaceKey("/Type", Name("FontDescriptor"));
   descriptor.replaceKey("/FontName", Name(name));
   descriptor.replaceKey("/Flags", Integer(Flags(face)));
   descriptor.replaceKey("/FontBBox",
-                        QPDFObjectHandle::newArray({Integer(face.left), Integer(face.bottom),
-                                                    Integer(face.right), Integer(face.top)}));
+                        QPDFObjectHandle::newArray(
+                            {Integer(thousandths(face.left)), Integer(thousandths(face.bottom)),
+                             Integer(thousandths(face.right)), Integer(thousandths(face.top))}));
   descriptor.replaceKey("/ItalicAngle", Integer(std::lround(face.italicAngle)));
-  descriptor.replaceKey("/Ascent", Integer(face.ascent));
-  descriptor.replaceKey("/Descent", Integer(face.descent));
-  descriptor.replaceKey("/CapHeight", Integer(face.capHeight));
-  descriptor.replaceKey("/StemV", Integer(face.stemWidth));
+  descriptor.replaceKey("/Ascent", Integer(thousandths(face.ascent)));
+  descriptor.replaceKey("/Descent", Integer(thousandths(face.descent)));
+  descriptor.replaceKey("/CapHeight",
+                        Integer(capHeight > 0 ? capHeight : thousandths(face.ascent)));
+  descriptor.replaceKey("/StemV", Integer(StemWidth(face.weight)));
   return descriptor;
 }
 

@@ -20,19 +20,20 @@ enum class CGFontOutlines : std::uint8_t {
   kCompact,  // CFF
 };
 
-/// What a document says about a face. Lengths are thousandths of an em, y upwards.
+/// What a face says of itself. Lengths are its own units, y upwards.
 struct CGFontDescription {
   std::string postScriptName;  // letters, digits and -+._ only
   CGFontOutlines outlines = CGFontOutlines::kStandard;
+  unsigned unitsPerEm = 1000;
   bool mayBeEmbedded = false;  // the face's licence bits let a subset travel with a document
   bool isFixedPitch = false;
   bool isSerif = false;
   bool isItalic = false;
   float italicAngle = 0;  // degrees, counter-clockwise from the vertical
   int ascent = 0;
-  int descent = 0;  // below 0 for what hangs below the baseline
-  int capHeight = 0;
-  int stemWidth = 0;
+  int descent = 0;    // below 0 for what hangs below the baseline
+  int capHeight = 0;  // 0 when the face does not say
+  int weight = 0;     // 400 for regular, 700 for bold; 0 when the face does not say
   int left = 0, bottom = 0, right = 0, top = 0;  // of all glyphs laid over each other
 };
 
