@@ -13,13 +13,6 @@ namespace {
 
 constexpr double kFixedOne = 65536;
 
-// What is made up for a face that is missing: a slant of 12 degrees, as italics have, and a stroke
-// along the outlines as wide as a bold face's stems are wider. Sharp corners of the stroke are cut
-// off, not drawn out.
-constexpr CGFloat kSlant = 0.2125565617F;
-constexpr CGFloat kBoldStroke = 1.0F / 24;  // ems
-constexpr CGFloat kBoldMiterLimit = 2;
-
 std::u16string_view Part(std::u16string_view text, UniCharArrayOffset offset, UniCharCount length) {
   const std::size_t start = offset == kATSUFromTextBeginning ? 0 : offset;
   if (start >= text.size()) return {};
@@ -70,22 +63,8 @@ struct LinePlace {
 
 void DrawGlyphs(const LinePlace& place, const StyledFace& face,
                 std::span<const CGPositionedGlyph> placed) {
-  CGGlyphRun glyphs = {face.typeface->Font(), place.size, place.matrix, placed};
-  if (face.isSlanted) {
-    glyphs.matrix = CGAffineTransformConcat({1, 0, kSlant, 1, 0, 0}, place.matrix);
-  }
-  CGContext& context = *place.context;
-  if (!face.isEmboldened || context.State().textMode != kCGTextFill) {
-    return context.DrawGlyphRun(glyphs);
-  }
-  CGContextSaveGState(&context);
-  CGGraphicsState& state = context.State();
-  state.strokeColor = state.fillColor;
-  CGContextSetTextDrawingMode(&context, kCGTextFillStroke);
-  CGContextSetLineWidth(&context, place.size * kBoldStroke);
-  CGContextSetMiterLimit(&context, kBoldMiterLimit);
-  context.DrawGlyphRun(glyphs);
-  CGContextRestoreGState(&context);
+  place.context->DrawGlyphRun(
+      {face.typeface->Font(), place.size, place.matrix, placed, face.isSlanted, face.isEmboldened});
 }
 
 /// Draws one unit, which needs no shaping.

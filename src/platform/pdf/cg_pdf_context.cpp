@@ -90,7 +90,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   }
 
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
-    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)});
+    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
     const CGStrokeGeometry stroke = StrokeGeometry(State());
     if (!Strokes(mode) || !stroke.throughTransform) {
       content_.Path(path);
@@ -107,12 +107,16 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
     QPDFObjectHandle stream = writer_.AddImage(image);
     if (stream.isNull()) return;
-    BeginMark({});
+    BeginMark({}, State());
     DrawXObject(NameOf(stream, "/XObject", "/Im", xobjects_), matrix);
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
-    BeginMark({.text = true});
+    if (run.isEmboldened) {
+      BeginMark({.text = true}, Emboldened(State(), run.size));
+    } else {
+      BeginMark({.text = true}, State());
+    }
     if (run.font != font_.face) SetFont(run.font);
     const PdfTextStyle style = {*font_.name, font_.font->CodeSize(), run.size, run.matrix};
     for (const CGPositionedGlyph& glyph : run.glyphs) {
@@ -137,9 +141,9 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     return contents_.empty() && content_.IsEmpty() && Clips().empty();
   }
 
-  void BeginMark(CGStateNeeds needs) {
+  void BeginMark(CGStateNeeds needs, const CGGraphicsState& state) {
     DrawPending();
-    Prepare(State(), Clips(), needs);
+    Prepare(state, Clips(), needs);
   }
 
   // A page that does not stay alone becomes a form, drawn before what follows. No clip was in

@@ -7,6 +7,11 @@
 #include "platform/quartz/cg_arcs.h"
 
 namespace kelvane {
+namespace {
+
+constexpr CGAffineTransform kSlant = {1, 0, 0.2125565617F, 1, 0, 0};  // 12 degrees, as italics have
+
+}  // namespace
 
 void CGContext::BeginPage(const CGRect& mediaBox) {
   if (inPage_) EndPage();
@@ -86,7 +91,10 @@ void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
 
 void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
   CGGlyphRun onPage = run;
-  onPage.matrix = CGAffineTransformConcat(run.matrix, state_.ctm);
+  if (std::exchange(onPage.isSlanted, false)) {
+    onPage.matrix = CGAffineTransformConcat(kSlant, run.matrix);
+  }
+  onPage.matrix = CGAffineTransformConcat(onPage.matrix, state_.ctm);
   const bool finite = std::isfinite(run.size) && IsFinite(onPage.matrix) &&
                       std::ranges::all_of(run.glyphs, [](const CGPositionedGlyph& glyph) {
                         return IsFinite(glyph.origin);

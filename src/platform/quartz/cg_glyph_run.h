@@ -22,6 +22,10 @@ struct CGGlyphRun {
   CGAffineTransform
       matrix;  // text space to user space, or to page space once it reached a back end
   std::span<const CGPositionedGlyph> glyphs;
+
+  // What is made up for a face that is missing.
+  bool isSlanted = false;     // drawn as italics; part of the matrix once it reached a back end
+  bool isEmboldened = false;  // drawn as bold; each back end thickens the outlines itself
 };
 
 }  // namespace kelvane

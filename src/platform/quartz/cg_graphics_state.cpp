@@ -20,4 +20,18 @@ CGFloat TextStrokeWidth(const CGGraphicsState& state) {
   return static_cast<CGFloat>(state.lineWidth * std::sqrt(std::abs(Determinant(state.ctm))));
 }
 
+// The stroke is as wide as a bold face's stems are wider. Sharp corners of it are cut off, not
+// drawn out.
+CGGraphicsState Emboldened(const CGGraphicsState& state, CGFloat size) {
+  constexpr CGFloat kStrokeWidth = 1.0F / 24;  // ems
+  constexpr CGFloat kMiterLimit = 2;
+  CGGraphicsState bold = state;
+  if (state.textMode != kCGTextFill) return bold;
+  bold.strokeColor = state.fillColor;
+  bold.textMode = kCGTextFillStroke;
+  bold.lineWidth = size * kStrokeWidth;
+  bold.miterLimit = kMiterLimit;
+  return bold;
+}
+
 }  // namespace kelvane

@@ -70,6 +70,10 @@ CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
 ///         the CTM: scaled as areas are.
 CGFloat TextStrokeWidth(const CGGraphicsState& state);
 
+/// @return `state` as text that is made bold is drawn under: a stroke in the fill colour goes along
+///         the outlines. Only filled text is thickened. @param size  of the text, user space.
+CGGraphicsState Emboldened(const CGGraphicsState& state, CGFloat size);
+
 constexpr bool Fills(CGPathDrawingMode mode) {
   return mode != kCGPathStroke;
 }

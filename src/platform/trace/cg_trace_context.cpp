@@ -53,7 +53,7 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
-    Prepare(State(), Clips(), {.text = true});
+    Prepare(run.isEmboldened ? Emboldened(State(), run.size) : State(), Clips(), {.text = true});
     std::u16string text;
     for (const CGPositionedGlyph& glyph : run.glyphs)
       text += glyph.text;

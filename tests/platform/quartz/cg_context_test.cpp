@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_standard_font.h"
 #include "support/surface.h"
 #include "support/text.h"
 
@@ -325,6 +326,45 @@ TEST(CGContext, MarksNothingForTextOfNoSize) {
               test::DrawHelvetica(c, u"A", -1);
             }),
             "");
+}
+
+/// A letter as a run of its own.
+CGGlyphRun LetterRun(const CGPositionedGlyph& letter) {
+  return {CGFontGetStandardHelvetica(), 12, {}, {&letter, 1}};
+}
+
+constexpr CGPositionedGlyph kLetter = {'A', {}, u"A"};
+
+TEST(CGContext, SlantsARunBeforeItIsTransformed) {
+  EXPECT_EQ(TraceOf([](CGContextRef c) {
+              CGContextConcatCTM(c, kQuarterTurn);
+              CGGlyphRun run = LetterRun(kLetter);
+              run.isSlanted = true;
+              c->DrawGlyphRun(run);
+            }),
+            "text \"A\" Helvetica 12 under 0 1 -1 0.21255656 0 0\n");
+}
+
+TEST(CGContext, ThickensARunByAStrokeInTheFillColour) {
+  EXPECT_EQ(TraceOf([](CGContextRef c) {
+              constexpr CGFloat kGray[] = {0.5F, 1};
+              CGContextSetFillColor(c, kGray);
+              CGGlyphRun run = LetterRun(kLetter);
+              run.isEmboldened = true;
+              c->DrawGlyphRun(run);
+            }),
+            "fill-color 0.5 0.5 0.5\nstroke-color 0.5 0.5 0.5\nline-width 0.5\nmiter-limit 2\n"
+            "text-mode 2\ntext \"A\" Helvetica 12 under 1 0 0 1 0 0\n");
+}
+
+TEST(CGContext, ThickensNoTextThatIsNotFilledAlone) {
+  EXPECT_EQ(TraceOf([](CGContextRef c) {
+              CGContextSetTextDrawingMode(c, kCGTextInvisible);
+              CGGlyphRun run = LetterRun(kLetter);
+              run.isEmboldened = true;
+              c->DrawGlyphRun(run);
+            }),
+            "text-mode 3\ntext \"A\" Helvetica 12 under 1 0 0 1 0 0\n");
 }
 
 TEST(CGContext, MarksNothingForANullImage) {
