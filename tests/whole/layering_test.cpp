@@ -37,6 +37,7 @@ const Arrows& Floors() {
       {"platform/pdf", {"platform/quartz"}},
       {"platform/trace", {"platform/quartz"}},
       {"platform/appkit", {"platform/corefoundation"}},
+      {"players", {"platform/quartz"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},
       {"classic/context", {"classic/playable"}},

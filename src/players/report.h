@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+namespace kelvane {
+
+/// What became of a record that is not on the page as Windows would show it.
+enum class Omission : std::uint8_t {
+  kLeftOut,     // it left no mark and should have
+  kOnlyNearly,  // its mark is only near
+  kDamaged,     // it could not be read whole, and was skipped
+};
+
+/// Records of one type that came out alike.
+struct ReportedRecords {
+  Omission omission;
+  std::uint32_t type;
+  std::string why;  // in words for a user
+  std::size_t count;
+};
+
+/// What a user is told of a conversion beside its document. Nothing that is missing goes unsaid.
+class Report {
+ public:
+  void LeftOut(std::uint32_t type, std::string_view why) { Note(Omission::kLeftOut, type, why); }
+  void OnlyNearly(std::uint32_t type, std::string_view why) {
+    Note(Omission::kOnlyNearly, type, why);
+  }
+  void Damaged(std::uint32_t type, std::string_view why) { Note(Omission::kDamaged, type, why); }
+
+  /// Says something about the file as a whole, once however often it is said.
+  void Remark(std::string_view words);
+
+  /// @return all of them, in the order of kind, type and reason.
+  [[nodiscard]] std::vector<ReportedRecords> Records() const;
+  [[nodiscard]] const std::vector<std::string>& Remarks() const { return remarks_; }
+
+  /// True when the page shows all that Windows would, if only nearly.
+  [[nodiscard]] bool IsWhole() const;
+
+ private:
+  void Note(Omission omission, std::uint32_t type, std::string_view why);
+
+  struct Before {
+    using is_transparent = void;
+    template <class A, class B>
+    bool operator()(const A& a, const B& b) const {
+      return std::tuple<Omission, std::uint32_t, std::string_view>(a) <
+             std::tuple<Omission, std::uint32_t, std::string_view>(b);
+    }
+  };
+  using Key = std::tuple<Omission, std::uint32_t, std::string>;
+
+  std::map<Key, std::size_t, Before> counts_;
+  std::vector<std::string> remarks_;
+};
+
+}  // namespace kelvane
