@@ -47,7 +47,8 @@ BENCHMARK_CAPTURE(ConvertText, from_another_face, u'\u4E00', 0)->Unit(benchmark:
 void FirstLookUp(benchmark::State& state) {
   for (auto _ : state) {
     FontRegistry registry;
-    benchmark::DoNotOptimize(&registry.Style(registry.FindByFullName("Arial"), false, false));
+    benchmark::DoNotOptimize(
+        &registry.Style(registry.FindByFullName("Arial"), false, false, AnyFont));
   }
 }
 
@@ -56,7 +57,8 @@ BENCHMARK(FirstLookUp)->Unit(benchmark::kMillisecond);
 void LaterLookUp(benchmark::State& state) {
   FontRegistry& registry = FontRegistry::Shared();
   for (auto _ : state) {
-    benchmark::DoNotOptimize(&registry.Style(registry.FindByFullName("Arial"), false, false));
+    benchmark::DoNotOptimize(
+        &registry.Style(registry.FindByFullName("Arial"), false, false, AnyFont));
   }
 }
 

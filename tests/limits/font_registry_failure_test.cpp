@@ -20,9 +20,9 @@ std::string Answers(FontRegistry& registry) {
        {registry.FindByFullName("Liberation Serif Bold"), registry.FindByFamily("Arial"),
         registry.FindByFamily("No Such Font"), kDefaultFont}) {
     for (const bool isBold : {false, true}) {
-      const FontStyle& style = registry.Style(font, isBold, false);
+      const FontStyle& style = registry.Style(font, isBold, false, AnyFont);
       names += NameOf(style.Face().typeface) + " ";
-      const auto standIn = registry.StandIn(style, U'\u4E2D');
+      const auto standIn = style.StandIn(U'\u4E2D');
       names += NameOf(standIn ? standIn->typeface : nullptr) + "\n";
     }
   }

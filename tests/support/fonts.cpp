@@ -1,6 +1,7 @@
 #include "support/fonts.h"
 
 #include <cstdlib>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +27,15 @@ unsigned BigEndian(const std::string& bytes, std::size_t at, int width) {
   return value;
 }
 
+/// @return where the table stands in the font's directory: tag, checksum, offset, length.
+std::size_t EntryOf(const std::string& font, const std::string& table) {
+  const std::size_t end = 12 + 16 * std::size_t{BigEndian(font, 4, 2)};
+  for (std::size_t entry = 12; entry < end; entry += 16) {
+    if (font.compare(entry, 4, table) == 0) return entry;
+  }
+  throw std::runtime_error("no table " + table);
+}
+
 }  // namespace
 
 OtherFonts::OtherFonts(const std::vector<std::string>& files) : before_(std::getenv(kVariable)) {
@@ -33,8 +43,7 @@ OtherFonts::OtherFonts(const std::vector<std::string>& files) : before_(std::get
   for (const std::string& file : files) {
     Add(std::filesystem::path(file).filename().string(), ReadFile(file));
   }
-  WriteFile(folder_ / "fonts.conf", "<fontconfig><dir>" + folder_ / "fonts" + "</dir><cachedir>" +
-                                        folder_ / "cache" + "</cachedir></fontconfig>");
+  WriteConfiguration();
   setenv(kVariable, (folder_ / "fonts.conf").c_str(), 1);
 }
 
@@ -46,16 +55,30 @@ void OtherFonts::Add(const std::string& name, const std::string& bytes) {
   WriteFile(folder_.Path() / "fonts" / name, bytes);
 }
 
+void OtherFonts::Alias(const std::string& family, const std::string& standIn) {
+  aliases_ += "<alias binding=\"same\"><family>" + family + "</family><accept><family>" + standIn +
+              "</family></accept></alias>";
+  WriteConfiguration();
+}
+
+void OtherFonts::WriteConfiguration() const {
+  WriteFile(folder_ / "fonts.conf", "<fontconfig><dir>" + folder_ / "fonts" + "</dir><cachedir>" +
+                                        folder_ / "cache" + "</cachedir>" + aliases_ +
+                                        "</fontconfig>");
+}
+
 std::string WithLicence(const std::string& path, unsigned bits) {
   std::string font = ReadFile(path);
-  const unsigned tableCount = BigEndian(font, 4, 2);
-  for (std::size_t entry = 12; entry < 12 + 16 * std::size_t{tableCount}; entry += 16) {
-    if (font.compare(entry, 4, "OS/2") != 0) continue;
-    const std::size_t field = BigEndian(font, entry + 8, 4) + std::size_t{8};
-    font[field] = static_cast<char>(bits >> 8);
-    font[field + 1] = static_cast<char>(bits & 0xFF);
-  }
+  const std::size_t field = BigEndian(font, EntryOf(font, "OS/2") + 8, 4) + std::size_t{8};
+  font.at(field) = static_cast<char>(bits >> 8);
+  font.at(field + 1) = static_cast<char>(bits & 0xFF);
   return font;
+}
+
+std::string WithTableRenamed(const std::string& path, const std::string& from,
+                             const std::string& to) {
+  std::string font = ReadFile(path);
+  return font.replace(EntryOf(font, from), to.size(), to);
 }
 
 }  // namespace kelvane::test

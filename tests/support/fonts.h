@@ -30,12 +30,23 @@ class OtherFonts {
   /// Adds a font file.
   void Add(const std::string& name, const std::string& bytes);
 
+  /// Has a family stand for another as one of the same metrics.
+  void Alias(const std::string& family, const std::string& standIn);
+
  private:
+  void WriteConfiguration() const;
+
   TemporaryFolder folder_;
+  std::string aliases_;
   std::string before_;
 };
 
 /// @return the font file with the type field of its OS/2 table, its licence bits, replaced.
 std::string WithLicence(const std::string& path, unsigned bits);
+
+/// @return the font file with a table under another tag, which must come at the same place in the
+///         order of tags.
+std::string WithTableRenamed(const std::string& path, const std::string& from,
+                             const std::string& to);
 
 }  // namespace kelvane::test

@@ -28,17 +28,16 @@ Fixed ToFixed(float value) {
 }
 
 Style MakeStyle(const TextSetting& setting) {
-  ATSUStyle style = nullptr;
-  ATSUCreateStyle(&style);
+  Style style(new ATSUStyleObject(setting.fonts));
   const std::uint32_t italic = setting.italic ? 1 : 0;
   const std::uint32_t bold = setting.bold ? 1 : 0;
   const Fixed size = ToFixed(setting.size);
-  const ATSUFontID font = FontByFullName(setting.font);
+  const ATSUFontID font = setting.fonts.FindByFullName(setting.font);
   const std::array tags = {kATSUQDItalicTag, kATSUQDBoldfaceTag, kATSUSizeTag, kATSUFontTag};
   const std::array<ByteCount, 4> sizes = {4, 4, 4, 4};
   const std::array<const void*, 4> values = {&italic, &bold, &size, &font};
-  ATSUSetAttributes(style, tags.size(), tags.data(), sizes.data(), values.data());
-  return Style(style);
+  ATSUSetAttributes(style.get(), tags.size(), tags.data(), sizes.data(), values.data());
+  return style;
 }
 
 Layout MakeLayout(CGContextRef surface, std::u16string_view text, const TextSetting& setting) {

@@ -18,6 +18,7 @@ struct TextSetting {
   float x = 0;
   float y = 0;
   bool usesStandIns = true;
+  FontRegistry& fonts = FontRegistry::Shared();
 };
 
 /// @return the font by its full name, 0 when there is none.

@@ -140,7 +140,7 @@ OSStatus ATSUDrawText(ATSUTextLayout layout, UniCharArrayOffset offset, UniCharC
                      Rotation(layout->rotation)};
   place.matrix.tx = static_cast<CGFloat>(static_cast<double>(x) / kFixedOne);
   place.matrix.ty = static_cast<CGFloat>(static_cast<double>(y) / kFixedOne);
-  const FontStyle& style = layout->style->Style();
+  const FontStyle& style = layout->style->Style(layout->context->FontFilter());
   if (text.size() == 1) {
     DrawUnit(place, text, style, layout->usesStandIns);
   } else {

@@ -32,13 +32,13 @@ OSStatus SetAttribute(ATSUStyleObject& style, ATSUAttributeTag tag, ByteCount si
 
 }  // namespace
 
-const FontStyle& ATSUStyleObject::Style() {
-  if (style_ == nullptr) style_ = &FontRegistry::Shared().Style(font, isBold, isItalic);
-  return *style_;
+void ATSUStyleObject::LookUp(CGFontFilter filter) {
+  style_ = &registry_.Style(font, isBold, isItalic, filter);
+  filter_ = filter;
 }
 
 OSStatus ATSUCreateStyle(ATSUStyle* style) {
-  *style = new ATSUStyleObject;
+  *style = new ATSUStyleObject(FontRegistry::Shared());
   return noErr;
 }
 

@@ -1,86 +1,62 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include <fontconfig/fontconfig.h>
-
 namespace kelvane {
 
-/// A face that is installed. Weight, slant and width are Fontconfig's numbers.
+/// Weights, slants and widths of faces, on Fontconfig's scales.
+inline constexpr int kRegularWeight = 80;
+inline constexpr int kDemiBoldWeight = 180;
+inline constexpr int kBoldWeight = 200;
+inline constexpr int kUpright = 0;
+inline constexpr int kItalic = 100;
+inline constexpr int kNormalWidth = 100;
+
+/// A face that is installed, a regular one unless something else is said.
 struct InstalledFace {
   std::string path;
   unsigned index = 0;  // the member of a collection
   std::string family;
-  int weight = 0;
-  int slant = 0;
-  int width = 0;
+  int weight = kRegularWeight;
+  int slant = kUpright;
+  int width = kNormalWidth;
 };
 
-/// Characters, as bits by their numbers.
-using Characters = std::vector<bool>;
-
-/// Faces of outlines in files that a document can carry, in an order, with what each can show.
+/// Faces in an order, with what each can show.
 class FaceSet {
  public:
-  struct Destroyer {
-    void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
-  };
-  using FontSet = std::unique_ptr<FcFontSet, Destroyer>;
+  virtual ~FaceSet() = default;
 
-  FaceSet() = default;
+  [[nodiscard]] virtual std::size_t Size() const = 0;
+  [[nodiscard]] virtual InstalledFace At(std::size_t index) const = 0;
+  [[nodiscard]] virtual bool Covers(std::size_t index, char32_t character) const = 0;
 
-  /// @param set  may be null; faces that cannot be used are left out. @param covered  all that the
-  ///             faces show together; may be null, and then CoversAnywhere is true of every
-  ///             character.
-  explicit FaceSet(FontSet set, std::shared_ptr<const Characters> covered = nullptr);
-
-  [[nodiscard]] std::size_t Size() const { return faces_.size(); }
-  [[nodiscard]] InstalledFace At(std::size_t index) const;
-  [[nodiscard]] bool Covers(std::size_t index, char32_t character) const;
-  [[nodiscard]] bool CoversAnywhere(char32_t character) const;
-
- private:
-  /// A usable face of the set, and the characters it has, borrowed from there; null for none.
-  struct Face {
-    const FcPattern* pattern;
-    const FcCharSet* characters;
-  };
-
-  FontSet set_;
-  std::vector<Face> faces_;
-  std::shared_ptr<const Characters> covered_;
+  /// @return false when none of the faces has the character; true may be wrong.
+  [[nodiscard]] virtual bool CoversAnywhere(char32_t character) const = 0;
 };
 
-/// The fonts of the machine, as Fontconfig's configuration of this process has them. Names are
-/// UTF-8, and compared without regard to case and blanks.
+/// The fonts that there are to choose from. Names are UTF-8, and compared without regard to case
+/// and blanks. Used by one thread at a time.
 class FontCatalog {
  public:
-  /// Reads the configuration and the list of fonts.
-  FontCatalog();
+  virtual ~FontCatalog() = default;
 
-  /// @return the usable faces, in no particular order.
-  [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string& family) const;
-  [[nodiscard]] std::vector<InstalledFace> FacesOfFullName(const std::string& fullName) const;
+  /// @return the faces, in no particular order.
+  [[nodiscard]] virtual std::vector<InstalledFace> FacesOfFamily(
+      const std::string& family) const = 0;
+  [[nodiscard]] virtual std::vector<InstalledFace> FacesOfFullName(
+      const std::string& fullName) const = 0;
 
-  /// @return the families that the configuration binds to the name as firmly as the name itself:
-  ///         the name, then the families of the same metrics.
-  [[nodiscard]] std::vector<std::string> Equivalents(const std::string& family) const;
+  /// @return the families that stand for the name as firmly as the name itself: the name, then the
+  ///         families of the same metrics.
+  [[nodiscard]] virtual std::vector<std::string> Equivalents(const std::string& family) const = 0;
 
-  /// @return every face, the closest to the one asked for first, whatever the locale.
-  [[nodiscard]] FaceSet StandIns(const std::string& family, int weight, int slant);
-
- private:
-  struct Destroyer {
-    void operator()(FcConfig* config) const { FcConfigDestroy(config); }
-  };
-
-  [[nodiscard]] std::vector<InstalledFace> FacesWith(const char* property,
-                                                     const std::string& value) const;
-
-  std::unique_ptr<FcConfig, Destroyer> config_;  // null when not even a fallback could be made
-  std::shared_ptr<const Characters> covered_;    // by all faces together; null until it is asked
+  /// @return every face, the closest to the one asked for first, whatever the locale; never null.
+  [[nodiscard]] virtual std::unique_ptr<const FaceSet> StandIns(const std::string& family,
+                                                                int weight, int slant) = 0;
 };
 
 }  // namespace kelvane

@@ -27,21 +27,11 @@ class FontTable {
   unsigned size_ = 0;
 };
 
-std::optional<CGFontOutlines> OutlinesOf(hb_face_t* face) {
+CGFontOutlines OutlinesOf(hb_face_t* face) {
   if (FontTable(face, HB_TAG('g', 'l', 'y', 'f')).Exists()) return CGFontOutlines::kTrueType;
   if (FontTable(face, HB_TAG('C', 'F', 'F', ' ')).Exists()) return CGFontOutlines::kCompact;
-  return std::nullopt;
-}
-
-// The type field of OS/2 (OpenType, "OS/2 - fsType"). Where several of the first four bits are set
-// the most lenient counts. A document holds subsets of outlines, so a face that may travel only
-// whole or only as bitmaps may not travel.
-bool MayBeEmbedded(int licence) {
-  constexpr int kUsage = 0x000F;
-  constexpr int kRestricted = 0x0002;
-  constexpr int kNoSubsetting = 0x0100;
-  constexpr int kBitmapsOnly = 0x0200;
-  return (licence & kUsage) != kRestricted && (licence & (kNoSubsetting | kBitmapsOnly)) == 0;
+  if (FontTable(face, HB_TAG('C', 'F', 'F', '2')).Exists()) return CGFontOutlines::kCompact2;
+  return CGFontOutlines::kNone;
 }
 
 bool IsSerif(const FontTable& os2) {
@@ -71,8 +61,7 @@ std::string PostScriptName(hb_face_t* face) {
 
 std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   hb_face_t* const face = hb_font_get_face(font);
-  const auto outlines = OutlinesOf(face);
-  if (!outlines || hb_face_get_glyph_count(face) == 0) return std::nullopt;
+  if (hb_face_get_glyph_count(face) == 0) return std::nullopt;
 
   const FontTable head(face, HB_TAG('h', 'e', 'a', 'd'));
   const FontTable os2(face, HB_TAG('O', 'S', '/', '2'));
@@ -85,9 +74,9 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
 
   CGFontDescription description;
   description.postScriptName = PostScriptName(face);
-  description.outlines = *outlines;
+  description.outlines = OutlinesOf(face);
   description.unitsPerEm = hb_face_get_upem(face);
-  description.mayBeEmbedded = MayBeEmbedded(os2.Unsigned(8));
+  description.licence = static_cast<std::uint16_t>(os2.Unsigned(8));
   description.isFixedPitch = (post.Unsigned(12) | post.Unsigned(14)) != 0;
   description.isSerif = IsSerif(os2);
   description.italicAngle = static_cast<float>(post.Signed(4) + post.Unsigned(6) / 65536.0);

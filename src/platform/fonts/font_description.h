@@ -10,7 +10,7 @@ namespace kelvane {
 
 /// Reads what a face says of itself from its tables.
 /// @param font  in units of the face's em.
-/// @return nothing for a face whose outlines a document of version 1.4 cannot carry.
+/// @return nothing for what has no glyphs, and so is no face.
 std::optional<CGFontDescription> DescribeFace(hb_font_t* font);
 
 }  // namespace kelvane

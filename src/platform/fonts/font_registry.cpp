@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <tuple>
 
+#include "platform/fonts/fontconfig_catalog.h"
+
 namespace kelvane {
 namespace {
 
@@ -15,16 +17,8 @@ constexpr FontID kFirstFont = 10000;  // above the default's
 constexpr std::size_t kMostNames = 4096;
 constexpr std::size_t kMostStandIns = 65536;
 
-InstalledFace Regular() {
-  InstalledFace face;
-  face.weight = FC_WEIGHT_REGULAR;
-  face.slant = FC_SLANT_ROMAN;
-  face.width = FC_WIDTH_NORMAL;
-  return face;
-}
-
 bool IsUpright(const InstalledFace& face) {
-  return face.slant == FC_SLANT_ROMAN;
+  return face.slant == kUpright;
 }
 
 // Weights lie between 0 and 215. A slant can be made up better than a weight, and neither is worth
@@ -35,20 +29,26 @@ int Distance(const InstalledFace& face, const InstalledFace& wanted) {
 }
 
 StyledFace Styled(const Typeface* typeface, const InstalledFace& face, bool isBold, bool isItalic) {
-  return {typeface, isItalic && IsUpright(face), isBold && face.weight < FC_WEIGHT_DEMIBOLD};
+  return {typeface, isItalic && IsUpright(face), isBold && face.weight < kDemiBoldWeight};
 }
 
 }  // namespace
+
+std::optional<StyledFace> FontStyle::StandIn(char32_t character) const {
+  return registry_.StandIn(number_, character);
+}
 
 FontRegistry& FontRegistry::Shared() {
   static auto* const kShared = new FontRegistry;  // threads may outlive static objects
   return *kShared;
 }
 
+FontRegistry::FontRegistry() : FontRegistry(OpenInstalledFonts) {}
+
 FontID FontRegistry::FindByFullName(const std::string& name) {
   const std::scoped_lock lock(mutex_);
   return FindOnce(fullNames_, name, [&]() -> std::optional<InstalledFace> {
-    const auto face = Closest(Catalog().FacesOfFullName(name), Regular());
+    const auto face = Closest(Catalog().FacesOfFullName(name), InstalledFace{}, AnyFont);
     return face ? face : RegularFace(name);
   });
 }
@@ -68,7 +68,7 @@ FontID FontRegistry::FindOnce(Names& known, const std::string& name, const LookU
 }
 
 FontCatalog& FontRegistry::Catalog() {
-  if (!catalog_) catalog_.emplace();
+  if (!catalog_) catalog_ = openCatalog_();
   return *catalog_;
 }
 
@@ -84,20 +84,29 @@ const Typeface* FontRegistry::Open(const InstalledFace& face) {
   return entry->second.get();
 }
 
+// The last resort is not asked about: there is nothing else.
+const Typeface* FontRegistry::OpenShown(const InstalledFace& face, CGFontFilter filter) {
+  const Typeface* const typeface = Open(face);
+  const bool isShown =
+      typeface != nullptr && (face.path.empty() || filter(typeface->Font()->Description()));
+  return isShown ? typeface : nullptr;
+}
+
 std::optional<InstalledFace> FontRegistry::Closest(std::vector<InstalledFace> faces,
-                                                   const InstalledFace& wanted) {
+                                                   const InstalledFace& wanted,
+                                                   CGFontFilter filter) {
   std::ranges::sort(faces, {}, [&](const InstalledFace& face) {
     return std::tuple(Distance(face, wanted), face.path, face.index);
   });
-  const auto closest =
-      std::ranges::find_if(faces, [this](const auto& face) { return Open(face) != nullptr; });
+  const auto closest = std::ranges::find_if(
+      faces, [&](const auto& face) { return OpenShown(face, filter) != nullptr; });
   if (closest == faces.end()) return std::nullopt;
   return *closest;
 }
 
 std::optional<InstalledFace> FontRegistry::RegularFace(const std::string& family) {
   for (const std::string& equivalent : Catalog().Equivalents(family)) {
-    auto face = Closest(Catalog().FacesOfFamily(equivalent), Regular());
+    auto face = Closest(Catalog().FacesOfFamily(equivalent), InstalledFace{}, AnyFont);
     if (face) return face;
   }
   return std::nullopt;
@@ -108,87 +117,115 @@ FontID FontRegistry::IdOf(const InstalledFace& face) {
   const auto known = ids_.find(key);
   if (known != ids_.end()) return known->second;
   const auto id = kFirstFont + static_cast<FontID>(ids_.size());
-  fonts_[id] = {face, Catalog().FacesOfFamily(face.family), {}};
+  fonts_[id] = {face, std::nullopt};
   ids_.emplace(key, id);
   return id;
 }
 
-FontRegistry::Font& FontRegistry::FontOf(FontID id) {
+FontRegistry::Font& FontRegistry::FontOf(FontID id, CGFontFilter filter) {
   const auto known = fonts_.find(id);
-  if (known != fonts_.end()) return known->second;
-  const auto standard = fonts_.find(kDefaultFont);
-  if (standard != fonts_.end()) return standard->second;
-  const InstalledFace face = DefaultFace();
-  Font font = {face, {face}, {}};
-  if (!face.path.empty()) font.family = Catalog().FacesOfFamily(face.family);
-  return fonts_.emplace(kDefaultFont, std::move(font)).first->second;
+  return known != fonts_.end() ? known->second : DefaultFont(filter);
+}
+
+FontRegistry::Font& FontRegistry::DefaultFont(CGFontFilter filter) {
+  const auto known = defaultFonts_.find(filter);
+  if (known != defaultFonts_.end()) return known->second;
+  return defaultFonts_.emplace(filter, Font{DefaultFace(filter), std::nullopt}).first->second;
 }
 
 // The face that comes closest to Helvetica; without any font, Helvetica itself as readers have it.
-InstalledFace FontRegistry::DefaultFace() {
-  const FaceSet faces = Catalog().StandIns(kDefaultFamily, FC_WEIGHT_REGULAR, FC_SLANT_ROMAN);
-  for (std::size_t i = 0; i < faces.Size(); ++i) {
-    if (Open(faces.At(i)) != nullptr) return faces.At(i);
+InstalledFace FontRegistry::DefaultFace(CGFontFilter filter) {
+  const auto faces = Catalog().StandIns(kDefaultFamily, kRegularWeight, kUpright);
+  for (std::size_t i = 0; i < faces->Size(); ++i) {
+    if (OpenShown(faces->At(i), filter) != nullptr) return faces->At(i);
   }
-  return Regular();
+  return {};
 }
 
-const FontStyle& FontRegistry::Style(FontID font, bool isBold, bool isItalic) {
+const FontStyle& FontRegistry::Style(FontID font, bool isBold, bool isItalic, CGFontFilter filter) {
   const std::scoped_lock lock(mutex_);
-  Font& found = FontOf(font);
-  const FontStyle*& style = found.styles[{isBold, isItalic}];
-  if (style == nullptr) style = &MakeStyle(found, isBold, isItalic);
+  return StyleOf(FontOf(font, filter), isBold, isItalic, filter);
+}
+
+const FontStyle& FontRegistry::StyleOf(Font& font, bool isBold, bool isItalic,
+                                       CGFontFilter filter) {
+  const FontStyle*& style = font.styles[filter][(isBold ? 2U : 0U) + (isItalic ? 1U : 0U)];
+  if (style == nullptr) style = &MakeStyle(font, {font.face, isBold, isItalic, filter});
   return *style;
 }
 
-const FontStyle& FontRegistry::MakeStyle(const Font& font, bool isBold, bool isItalic) {
-  InstalledFace wanted = font.face;
-  if (isBold) wanted.weight = std::max(wanted.weight, FC_WEIGHT_BOLD);
-  if (isItalic) wanted.slant = std::max(wanted.slant, FC_SLANT_ITALIC);
-  const InstalledFace face = Closest(font.family, wanted).value_or(font.face);
-  return styles_.emplace_back(Styled(Open(face), face, isBold, isItalic), wanted, isBold, isItalic);
+const FontStyle& FontRegistry::MakeStyle(Font& font, Wish wish) {
+  if (wish.isBold) wish.face.weight = std::max(wish.face.weight, kBoldWeight);
+  if (wish.isItalic) wish.face.slant = std::max(wish.face.slant, kItalic);
+  auto face = ClosestOfFamily(font, wish);
+  if (!face) {
+    face = ClosestOfEquivalents(wish);
+    if (!face) return StyleOf(DefaultFont(wish.filter), wish.isBold, wish.isItalic, wish.filter);
+    wish.face.family = face->family;
+  }
+  const StyledFace styled = Styled(Open(*face), *face, wish.isBold, wish.isItalic);
+  styles_.push_back({FontStyle(*this, styles_.size(), styled), std::move(wish)});
+  return styles_.back().style;
 }
 
-std::optional<StyledFace> FontRegistry::StandIn(const FontStyle& style, char32_t character) {
+// A catalogue may list a face under other names than it is found by.
+std::optional<InstalledFace> FontRegistry::ClosestOfFamily(Font& font, const Wish& wish) {
+  const bool isInstalled = !font.face.path.empty();
+  if (!font.family && isInstalled) font.family = Catalog().FacesOfFamily(font.face.family);
+  std::optional<InstalledFace> face;
+  if (font.family) face = Closest(*font.family, wish.face, wish.filter);
+  if (!face && OpenShown(font.face, wish.filter) != nullptr) face = font.face;
+  return face;
+}
+
+std::optional<InstalledFace> FontRegistry::ClosestOfEquivalents(const Wish& wish) {
+  for (const std::string& family : Catalog().Equivalents(wish.face.family)) {
+    auto face = Closest(Catalog().FacesOfFamily(family), wish.face, wish.filter);
+    if (face) return face;
+  }
+  return std::nullopt;
+}
+
+std::optional<StyledFace> FontRegistry::StandIn(std::size_t number, char32_t character) {
   const std::scoped_lock lock(mutex_);
-  auto known = style.standIns_.find(character);
-  if (known == style.standIns_.end()) {
-    const FaceSet& candidates = Candidates(style);
-    if (!candidates.CoversAnywhere(character)) return std::nullopt;
-    known = Remember(style, character, FindStandIn(style, candidates, character));
+  KnownStyle& style = styles_[number];
+  auto known = style.standIns.find(character);
+  if (known == style.standIns.end()) {
+    if (!Candidates(style).CoversAnywhere(character)) return std::nullopt;
+    known = Remember(style, character, FindStandIn(style, character));
   }
   if (known->second.typeface == nullptr) return std::nullopt;
   return known->second;
 }
 
-FontStyle::StandIns::iterator FontRegistry::Remember(const FontStyle& style, char32_t character,
-                                                     const StyledFace& face) {
+FontRegistry::StandIns::iterator FontRegistry::Remember(KnownStyle& style, char32_t character,
+                                                        const StyledFace& face) {
   if (standInCount_ >= kMostStandIns) {
-    for (const FontStyle& other : styles_)
-      other.standIns_ = {};
+    for (KnownStyle& other : styles_)
+      other.standIns = {};
     standInCount_ = 0;
   }
-  const auto entry = style.standIns_.emplace(character, face).first;
+  const auto entry = style.standIns.emplace(character, face).first;
   ++standInCount_;
   return entry;
 }
 
-const FaceSet& FontRegistry::Candidates(const FontStyle& style) {
-  if (!style.candidates_) {
-    const InstalledFace& wanted = style.wanted_;
-    style.candidates_ = Catalog().StandIns(wanted.family, wanted.weight, wanted.slant);
+const FaceSet& FontRegistry::Candidates(KnownStyle& style) {
+  if (!style.candidates) {
+    const InstalledFace& wanted = style.wish.face;
+    style.candidates = Catalog().StandIns(wanted.family, wanted.weight, wanted.slant);
   }
-  return *style.candidates_;
+  return *style.candidates;
 }
 
-StyledFace FontRegistry::FindStandIn(const FontStyle& style, const FaceSet& candidates,
-                                     char32_t character) {
+StyledFace FontRegistry::FindStandIn(KnownStyle& style, char32_t character) {
+  const FaceSet& candidates = Candidates(style);
   for (std::size_t i = 0; i < candidates.Size(); ++i) {
     if (!candidates.Covers(i, character)) continue;
     const InstalledFace face = candidates.At(i);
-    const Typeface* const typeface = Open(face);
+    const Typeface* const typeface = OpenShown(face, style.wish.filter);
     if (typeface != nullptr && typeface->GlyphFor(character)) {
-      return Styled(typeface, face, style.isBold_, style.isItalic_);
+      return Styled(typeface, face, style.wish.isBold, style.wish.isItalic);
     }
   }
   return {};

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -15,6 +17,8 @@
 #include "platform/fonts/typeface.h"
 
 namespace kelvane {
+
+class FontRegistry;
 
 /// The number of a font that was found. Any number that no font has means the default font.
 using FontID = std::uint32_t;
@@ -30,64 +34,87 @@ struct StyledFace {
   friend bool operator==(const StyledFace&, const StyledFace&) = default;
 };
 
-/// A font in one style. Belongs to the registry.
+/// A font in one style, for one kind of output. Belongs to its registry.
 class FontStyle {
  public:
-  FontStyle(const StyledFace& face, InstalledFace wanted, bool isBold, bool isItalic)
-      : face_(face), wanted_(std::move(wanted)), isBold_(isBold), isItalic_(isItalic) {}
+  FontStyle(FontRegistry& registry, std::size_t number, const StyledFace& face)
+      : registry_(registry), number_(number), face_(face) {}
 
   [[nodiscard]] const StyledFace& Face() const { return face_; }
 
+  /// @return what a character that the face does not have is drawn from; nothing when no face of
+  ///         the registry has it that the output can show.
+  [[nodiscard]] std::optional<StyledFace> StandIn(char32_t character) const;
+
  private:
-  friend class FontRegistry;
-
+  FontRegistry& registry_;
+  std::size_t number_;  // among the registry's styles
   StyledFace face_;
-  InstalledFace wanted_;
-  bool isBold_;
-  bool isItalic_;
-
-  using StandIns = std::unordered_map<char32_t, StyledFace>;  // without a typeface: there is none
-
-  // What is known of characters that the face does not have; read and written under the lock.
-  mutable std::optional<FaceSet> candidates_;
-  mutable StandIns standIns_;
 };
 
-/// The fonts of this process: each is looked up, opened and read once, for all threads. The
-/// machine's fonts are not looked at before the first question. What is handed out lives as long
-/// as the registry.
+/// Fonts, each of which is looked up, opened and read once, for all threads. The catalogue is not
+/// opened before the first question. What is handed out lives as long as the registry.
 class FontRegistry {
  public:
-  /// @return the one of this process, which lives until its end.
+  using CatalogOpener = std::function<std::unique_ptr<FontCatalog>()>;
+
+  /// @return the one of this process, of the installed fonts, which lives until its end.
   static FontRegistry& Shared();
 
+  FontRegistry();  // of the installed fonts
+  explicit FontRegistry(CatalogOpener openCatalog) : openCatalog_(std::move(openCatalog)) {}
+
   /// @param name  UTF-8.
-  /// @return the face installed under the name, or else the regular face of a family that the
-  ///         configuration puts in the place of one with this name; kNoFont when there is none.
+  /// @return the face installed under the name, or else the regular face of a family that stands
+  ///         for one with this name; kNoFont when there is none.
   FontID FindByFullName(const std::string& name);
 
   /// @param name  UTF-8.
-  /// @return the regular face of the family, or else of one that the configuration puts in its
-  ///         place; kNoFont when there is none.
+  /// @return the regular face of the family, or else of one that stands for it; kNoFont when there
+  ///         is none.
   FontID FindByFamily(const std::string& name);
 
-  /// @return the font's face, or the one of its family that comes closest to bold or italic.
-  const FontStyle& Style(FontID font, bool isBold, bool isItalic);
-
-  /// @return what a character that the style's face does not have is drawn from; nothing when no
-  ///         face of the machine has it.
-  std::optional<StyledFace> StandIn(const FontStyle& style, char32_t character);
+  /// @param filter  refuses the faces that the output cannot show.
+  /// @return the font's face, or the one of its family that comes closest to bold or italic. Where
+  ///         the whole family is refused, the closest face of one that stands for it; else that of
+  ///         the default font.
+  const FontStyle& Style(FontID font, bool isBold, bool isItalic, CGFontFilter filter);
 
  private:
+  friend class FontStyle;
+
+  /// For one kind of output, by bold and italic; null until it is asked for.
+  using Styles = std::array<const FontStyle*, 4>;
+
   /// What a name led to.
   struct Font {
-    InstalledFace face;                 // without a path: the standard Helvetica
-    std::vector<InstalledFace> family;  // the faces to choose from
-    std::map<std::pair<bool, bool>, const FontStyle*> styles;  // by bold and italic
+    InstalledFace face;                                // without a path: the standard Helvetica
+    std::optional<std::vector<InstalledFace>> family;  // the faces to choose from
+    std::map<CGFontFilter, Styles> styles = {};
+  };
+
+  /// How a face was chosen.
+  struct Wish {
+    InstalledFace face;
+    bool isBold;
+    bool isItalic;
+    CGFontFilter filter;
+  };
+
+  using StandIns = std::unordered_map<char32_t, StyledFace>;  // without a typeface: there is none
+
+  /// A style, and what is known of characters that its face does not have.
+  struct KnownStyle {
+    FontStyle style;
+    Wish wish;
+    std::unique_ptr<const FaceSet> candidates = nullptr;  // null until they are asked for
+    StandIns standIns = {};
   };
 
   using FaceKey = std::pair<std::string, unsigned>;  // file and member
   using Names = std::unordered_map<std::string, FontID>;
+
+  std::optional<StyledFace> StandIn(std::size_t style, char32_t character);
 
   // All of these are called under the lock. What is remembered is remembered whole: one that throws
   // leaves the question as open as it was.
@@ -95,26 +122,32 @@ class FontRegistry {
   FontID FindOnce(Names& known, const std::string& name, const LookUp& lookUp);
   FontCatalog& Catalog();
   const Typeface* Open(const InstalledFace& face);
+  const Typeface* OpenShown(const InstalledFace& face, CGFontFilter filter);
   std::optional<InstalledFace> Closest(std::vector<InstalledFace> faces,
-                                       const InstalledFace& wanted);
+                                       const InstalledFace& wanted, CGFontFilter filter);
   std::optional<InstalledFace> RegularFace(const std::string& family);
   FontID IdOf(const InstalledFace& face);
-  Font& FontOf(FontID id);
-  InstalledFace DefaultFace();
-  const FontStyle& MakeStyle(const Font& font, bool isBold, bool isItalic);
-  const FaceSet& Candidates(const FontStyle& style);
-  StyledFace FindStandIn(const FontStyle& style, const FaceSet& candidates, char32_t character);
-  FontStyle::StandIns::iterator Remember(const FontStyle& style, char32_t character,
-                                         const StyledFace& face);
+  Font& FontOf(FontID id, CGFontFilter filter);
+  Font& DefaultFont(CGFontFilter filter);
+  InstalledFace DefaultFace(CGFontFilter filter);
+  const FontStyle& StyleOf(Font& font, bool isBold, bool isItalic, CGFontFilter filter);
+  const FontStyle& MakeStyle(Font& font, Wish wish);
+  std::optional<InstalledFace> ClosestOfFamily(Font& font, const Wish& wish);
+  std::optional<InstalledFace> ClosestOfEquivalents(const Wish& wish);
+  const FaceSet& Candidates(KnownStyle& style);
+  StyledFace FindStandIn(KnownStyle& style, char32_t character);
+  StandIns::iterator Remember(KnownStyle& style, char32_t character, const StyledFace& face);
 
   std::mutex mutex_;
-  std::optional<FontCatalog> catalog_;
-  std::map<FaceKey, std::unique_ptr<const Typeface>> typefaces_;  // null for what cannot be used
-  std::map<FontID, Font> fonts_;
+  CatalogOpener openCatalog_;
+  std::unique_ptr<FontCatalog> catalog_;                          // null until it is asked
+  std::map<FaceKey, std::unique_ptr<const Typeface>> typefaces_;  // null for what cannot be read
+  std::unordered_map<FontID, Font> fonts_;
+  std::map<CGFontFilter, Font> defaultFonts_;
   std::map<FaceKey, FontID> ids_;
   Names fullNames_;
   Names families_;
-  std::deque<FontStyle> styles_;
+  std::deque<KnownStyle> styles_;
   std::size_t standInCount_ = 0;  // remembered in all styles
 };
 

@@ -95,7 +95,7 @@ bool OnlySteers(char32_t character) {
 
 StyledFace FaceFor(char32_t character, const FontStyle& style, bool usesStandIns) {
   if (!usesStandIns || style.Face().typeface->GlyphFor(character)) return style.Face();
-  return FontRegistry::Shared().StandIn(style, character).value_or(style.Face());
+  return style.StandIn(character).value_or(style.Face());
 }
 
 std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& style,

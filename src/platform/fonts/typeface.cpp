@@ -70,7 +70,7 @@ std::unique_ptr<const Typeface> Typeface::Open(const std::string& path, unsigned
   hb_face_make_immutable(face.get());
   HarfBuzzOwned<hb_font_t> shaper(hb_font_create(face.get()));
   auto description = DescribeFace(shaper.get());
-  if (!description || !description->mayBeEmbedded) return nullptr;
+  if (!description) return nullptr;
   CFOwned<const CGFont> font(
       new FileFont(*std::move(description), std::move(file), index, shaper.get()));
   return std::unique_ptr<const Typeface>(new Typeface(std::move(font), std::move(shaper)));

@@ -14,8 +14,7 @@ namespace kelvane {
 class Typeface {
  public:
   /// @param path   a TrueType or OpenType file, or a collection. @param index  the member.
-  /// @return null for a file that cannot be read, a face without outlines that a document can
-  ///         carry, and a face whose licence bits forbid it to be embedded.
+  /// @return null for a file that cannot be read and for what is no face.
   static std::unique_ptr<const Typeface> Open(const std::string& path, unsigned index);
 
   /// @return the standard Helvetica, for a machine without fonts.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/pdf/pdf_content.h"
+#include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_writer.h"
 #include "platform/quartz/cg_state_writer.h"
 
@@ -43,6 +44,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     EndPage();
     if (const auto consumer = std::move(consumer_)) writer_.Write(*consumer);
   }
+
+  [[nodiscard]] CGFontFilter FontFilter() const override { return PdfShows; }
 
   void DrawPDFPage(const CGRect& rect, const CGPDFPage& page) {
     const CGRect box = CGPDFPageGetBoxRect(&page, kCGPDFMediaBox);

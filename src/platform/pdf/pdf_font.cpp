@@ -6,6 +6,7 @@
 #include <set>
 
 #include "base/number.h"
+#include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_font_program.h"
 #include "platform/pdf/pdf_to_unicode.h"
 #include "platform/pdf/pdf_writer.h"
@@ -137,7 +138,7 @@ void PdfFont::Finish(PdfWriter& writer) {
 }
 
 std::string PdfFont::SubsetName() const {
-  if (!Face().mayBeEmbedded) return Face().postScriptName;
+  if (!PdfEmbeds(Face())) return Face().postScriptName;
   SubsetTag tag;
   for (const char character : Face().postScriptName)
     tag.Add(static_cast<unsigned char>(character));
@@ -188,7 +189,7 @@ QPDFObjectHandle PdfFont::Descriptor(const std::string& name) const {
 
 void PdfFont::AddProgram(PdfWriter& writer, QPDFObjectHandle cidFont,
                          QPDFObjectHandle descriptor) const {
-  if (!Face().mayBeEmbedded) return;
+  if (!PdfEmbeds(Face())) return;
   std::set<CGGlyph> glyphs;
   for (const auto& [code, shown] : shown_)
     glyphs.insert(shown.glyph);

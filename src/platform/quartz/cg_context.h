@@ -61,6 +61,9 @@ class CGContext : public CFObject {
   /// nothing.
   void DrawGlyphRun(const CGGlyphRun& run);
 
+  /// @return which faces this output can show; to be asked before a face is chosen.
+  [[nodiscard]] virtual CGFontFilter FontFilter() const = 0;
+
   [[nodiscard]] CGPoint ToUserSpace(CGPoint pagePoint) const;
   [[nodiscard]] CGRect ToUserSpace(const CGRect& pageRect) const;
 

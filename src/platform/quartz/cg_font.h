@@ -15,9 +15,11 @@ using CGGlyph = std::uint16_t;
 
 /// How a face's outlines are stored, which decides how a document carries them.
 enum class CGFontOutlines : std::uint8_t {
-  kStandard,  // none: one of the faces that every reader of documents has
+  kStandard,  // not at all: one of the faces that every reader of documents has
   kTrueType,
-  kCompact,  // CFF
+  kCompact,   // CFF
+  kCompact2,  // CFF2
+  kNone,      // bitmaps are all there is
 };
 
 /// What a face says of itself. Lengths are its own units, y upwards.
@@ -25,7 +27,7 @@ struct CGFontDescription {
   std::string postScriptName;  // letters, digits and -+._ only
   CGFontOutlines outlines = CGFontOutlines::kStandard;
   unsigned unitsPerEm = 1000;
-  bool mayBeEmbedded = false;  // the face's licence bits let a subset travel with a document
+  std::uint16_t licence = 0;  // what a document may do with the face (OpenType, "OS/2 - fsType")
   bool isFixedPitch = false;
   bool isSerif = false;
   bool isItalic = false;
@@ -36,6 +38,15 @@ struct CGFontDescription {
   int weight = 0;     // 400 for regular, 700 for bold; 0 when the face does not say
   int left = 0, bottom = 0, right = 0, top = 0;  // of all glyphs laid over each other
 };
+
+/// Tells whether a kind of output can show a face. It goes by the description alone, so that what
+/// it said once may be remembered.
+using CGFontFilter = bool (*)(const CGFontDescription& face);
+
+/// The filter of an output that can show whatever there is.
+inline bool AnyFont(const CGFontDescription& /*face*/) {
+  return true;
+}
 
 /// A face that glyphs are drawn from. It never changes and may be used by many threads at once.
 class CGFont : public CFObject {

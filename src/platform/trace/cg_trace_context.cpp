@@ -21,6 +21,8 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
 
   void Close() override { EndPage(); }
 
+  [[nodiscard]] CGFontFilter FontFilter() const override { return AnyFont; }
+
  private:
   ~CGTraceContext() override = default;
 

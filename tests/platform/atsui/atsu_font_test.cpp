@@ -13,7 +13,7 @@ using test::FontByFullName;
 
 /// @return the PostScript name of the face that a font draws with.
 std::string FaceOf(ATSUFontID font, bool isBold = false, bool isItalic = false) {
-  const StyledFace& face = FontRegistry::Shared().Style(font, isBold, isItalic).Face();
+  const StyledFace& face = FontRegistry::Shared().Style(font, isBold, isItalic, AnyFont).Face();
   return face.typeface->Font()->Description().postScriptName;
 }
 
@@ -112,19 +112,21 @@ TEST(AStyle, KeepsTheWeightThatTheFullNameAskedFor) {
 
 TEST(AStyle, MakesUpNothingForAFaceOfItsOwn) {
   const FontStyle& style =
-      FontRegistry::Shared().Style(FontByFamily("Liberation Sans"), true, true);
+      FontRegistry::Shared().Style(FontByFamily("Liberation Sans"), true, true, AnyFont);
   EXPECT_FALSE(style.Face().isSlanted);
   EXPECT_FALSE(style.Face().isEmboldened);
 }
 
 TEST(AStyle, MakesUpTheSlantThatTheFamilyLacks) {
-  const FontStyle& style = FontRegistry::Shared().Style(FontByFamily("DejaVu Sans"), true, true);
+  const FontStyle& style =
+      FontRegistry::Shared().Style(FontByFamily("DejaVu Sans"), true, true, AnyFont);
   EXPECT_TRUE(style.Face().isSlanted);
   EXPECT_FALSE(style.Face().isEmboldened);
 }
 
 TEST(AStyle, MakesUpTheWeightThatTheFamilyLacks) {
-  const FontStyle& style = FontRegistry::Shared().Style(FontByFamily("Junction"), true, false);
+  const FontStyle& style =
+      FontRegistry::Shared().Style(FontByFamily("Junction"), true, false, AnyFont);
   EXPECT_TRUE(style.Face().isEmboldened);
   EXPECT_FALSE(style.Face().isSlanted);
 }

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/fonts/fontconfig_catalog.h"
+#include "support/fonts.h"
+#include "support/pdf.h"
 #include "support/surface.h"
 #include "support/text.h"
 
@@ -111,6 +114,17 @@ TEST(ATSUDrawText, TakesAMissingCharacterFromAnotherFace) {
 TEST(ATSUDrawText, ShowsABoxWhereNoOtherFaceMayStandIn) {
   EXPECT_EQ(TraceOfText(u"\u6F22", {.usesStandIns = false}),
             "text \"\u6F22\" LiberationSans 10 under 1 0 0 1 0 0\n");
+}
+
+TEST(ATSUDrawText, ChoosesAFaceThatTheSurfaceCanShow) {
+  constexpr unsigned kRestricted = 2;
+  const test::TemporaryFolder folder;
+  const std::string restricted = folder / "restricted.ttf";
+  test::WriteFile(restricted, test::WithLicence(test::kLiberationSans, kRestricted));
+  FontRegistry fonts([&] { return OpenFontFiles({restricted, test::kDejaVuSans}); });
+  const auto draw = [&](CGContextRef surface) { DrawText(surface, u"H", {.fonts = fonts}); };
+  EXPECT_THAT(TraceOf(draw), StartsWith("text \"H\" LiberationSans 10"));
+  EXPECT_THAT(test::FontsIn(test::PdfBytesOf(draw)), HasSubstr("+DejaVuSans "));
 }
 
 class AUnitOfItsOwn : public testing::TestWithParam<char16_t> {};

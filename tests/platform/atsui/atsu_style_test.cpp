@@ -59,9 +59,9 @@ TEST(ATSUStyle, TakesTheAttributesBehindOneItRefuses) {
 
 TEST(ATSUStyle, ChangesItsFaceWithItsAttributes) {
   const Style style = NewStyle();
-  const FontStyle& regular = style->Style();
+  const FontStyle& regular = style->Style(AnyFont);
   Set(style, kATSUQDBoldfaceTag, std::uint32_t{1});
-  EXPECT_NE(&style->Style(), &regular);
+  EXPECT_NE(&style->Style(AnyFont), &regular);
 }
 
 }  // namespace

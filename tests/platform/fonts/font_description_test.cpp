@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fonts/typeface.h"
+#include "support/files.h"
 #include "support/fonts.h"
 
 namespace kelvane {
@@ -31,6 +32,25 @@ TEST(FontDescription, HasTheBoxOfAllGlyphs) {
 
 TEST(FontDescription, HasNoCapHeightWhereTheTableIsTooOldForOne) {
   EXPECT_EQ(DescriptionOf(test::kDejaVuSans).capHeight, 0);
+}
+
+TEST(FontDescription, TellsWhatTheLicenceAllows) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font.ttf", test::WithLicence(test::kLiberationSans, 0x102));
+  EXPECT_EQ(DescriptionOf((folder / "font.ttf").c_str()).licence, 0x102);
+}
+
+TEST(FontDescription, TellsOutlinesOfCompactVersionTwoApart) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font.otf", test::WithTableRenamed(test::kJunction, "CFF ", "CFF2"));
+  EXPECT_EQ(DescriptionOf((folder / "font.otf").c_str()).outlines, CGFontOutlines::kCompact2);
+}
+
+TEST(FontDescription, TellsAFaceWithoutOutlines) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font.ttf",
+                  test::WithTableRenamed(test::kLiberationSans, "glyf", "glyx"));
+  EXPECT_EQ(DescriptionOf((folder / "font.ttf").c_str()).outlines, CGFontOutlines::kNone);
 }
 
 TEST(FontDescription, TellsTheWeight) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/fonts/fontconfig_catalog.h"
 #include "support/files.h"
 #include "support/fonts.h"
 
@@ -11,82 +12,131 @@ namespace kelvane {
 namespace {
 
 constexpr unsigned kRestricted = 2;
-constexpr unsigned kPreviewAndPrint = 4;
-constexpr unsigned kNoSubsetting = 0x100;
+
+/// An output that cannot show every face.
+bool OnlyUnrestricted(const CGFontDescription& face) {
+  return face.licence != kRestricted;
+}
+
+bool OnlyDejaVu(const CGFontDescription& face) {
+  return face.postScriptName.starts_with("DejaVu");
+}
+
+FontRegistry RegistryOf(const std::vector<std::string>& files) {
+  return FontRegistry([files] { return OpenFontFiles(files); });
+}
 
 std::string NameOf(const StyledFace& face) {
   return face.typeface->Font()->Description().postScriptName;
 }
 
+/// The name of the face for a font in regular style, for an output that shows every face.
+std::string NameOf(FontRegistry& registry, FontID font) {
+  return NameOf(registry.Style(font, false, false, AnyFont).Face());
+}
+
 TEST(FontRegistry, HasTheStandardHelveticaWhenThereIsNoFont) {
-  const test::OtherFonts none({});
-  FontRegistry registry;
+  FontRegistry registry = RegistryOf({});
   EXPECT_EQ(registry.FindByFamily("Liberation Sans"), kNoFont);
-  EXPECT_EQ(NameOf(registry.Style(kDefaultFont, false, false).Face()), "Helvetica");
+  EXPECT_EQ(NameOf(registry, kDefaultFont), "Helvetica");
 }
 
 TEST(FontRegistry, FindsNoStandInWhenThereIsNoFont) {
-  const test::OtherFonts none({});
-  FontRegistry registry;
-  EXPECT_FALSE(registry.StandIn(registry.Style(kDefaultFont, false, false), U'\u6F22'));
+  FontRegistry registry = RegistryOf({});
+  EXPECT_FALSE(registry.Style(kDefaultFont, false, false, AnyFont).StandIn(U'\u6F22'));
+}
+
+TEST(FontRegistry, HasTheFontsOfTheCatalogueThatItIsGivenAlone) {
+  FontRegistry registry = RegistryOf({test::kJunction, test::kMicroHei});
+  EXPECT_NE(registry.FindByFamily("Junction"), kNoFont);
+  EXPECT_NE(registry.FindByFullName("WenQuanYi Micro Hei Mono"), kNoFont);
+  EXPECT_EQ(registry.FindByFamily("Liberation Sans"), kNoFont);
+}
+
+TEST(FontRegistry, OpensItsCatalogueWithTheFirstQuestion) {
+  bool isOpen = false;
+  FontRegistry registry([&isOpen] {
+    isOpen = true;
+    return OpenFontFiles({});
+  });
+  EXPECT_FALSE(isOpen);
+  registry.FindByFamily("Arial");
+  EXPECT_TRUE(isOpen);
 }
 
 TEST(FontRegistry, DoesNotOpenWhatIsNoFont) {
-  test::OtherFonts fonts({});
-  fonts.Add("broken.ttf", test::ReadFile(test::kLiberationSans).substr(0, 5000));
-  FontRegistry registry;
-  EXPECT_EQ(NameOf(registry.Style(kDefaultFont, false, false).Face()), "Helvetica");
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "broken.ttf", test::ReadFile(test::kLiberationSans).substr(0, 5000));
+  FontRegistry registry = RegistryOf({folder / "broken.ttf"});
+  EXPECT_EQ(NameOf(registry, kDefaultFont), "Helvetica");
 }
 
-TEST(FontRegistry, PassesOverAFaceThatMayNotBeEmbedded) {
+TEST(FontRegistry, ReplacesAFamilyThatTheOutputCannotShowByTheDefaultFont) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "restricted.ttf", test::WithLicence(test::kLiberationSans, kRestricted));
+  FontRegistry registry = RegistryOf({folder / "restricted.ttf", test::kDejaVuSans});
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  EXPECT_EQ(NameOf(registry.Style(font, false, false, OnlyUnrestricted).Face()), "DejaVuSans");
+}
+
+TEST(FontRegistry, ReplacesAFaceThatTheOutputCannotShowByTheClosestOfItsFamily) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "bold.ttf", test::WithLicence(test::kLiberationSansBold, kRestricted));
+  FontRegistry registry = RegistryOf({folder / "bold.ttf", test::kLiberationSans});
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  const StyledFace face = registry.Style(font, true, false, OnlyUnrestricted).Face();
+  EXPECT_EQ(NameOf(face), "LiberationSans");
+  EXPECT_TRUE(face.isEmboldened);
+}
+
+TEST(FontRegistry, ReplacesAFamilyThatTheOutputCannotShowByOneOfTheSameMetrics) {
   test::OtherFonts fonts({test::kDejaVuSans});
   fonts.Add("restricted.ttf", test::WithLicence(test::kLiberationSans, kRestricted));
+  fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
+  fonts.Alias("Liberation Sans", "Junction");
   FontRegistry registry;
-  EXPECT_EQ(registry.FindByFamily("Liberation Sans"), kNoFont);
-  EXPECT_EQ(NameOf(registry.Style(kDefaultFont, false, false).Face()), "DejaVuSans");
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  EXPECT_EQ(NameOf(registry.Style(font, false, false, OnlyUnrestricted).Face()), "Junction");
 }
 
-TEST(FontRegistry, PassesOverAFaceThatMayNotBeCutDown) {
-  test::OtherFonts fonts({});
-  fonts.Add("whole.ttf", test::WithLicence(test::kLiberationSans, kNoSubsetting));
-  FontRegistry registry;
-  EXPECT_EQ(registry.FindByFamily("Liberation Sans"), kNoFont);
+TEST(FontRegistry, AsksForEachKindOfOutput) {
+  FontRegistry registry = RegistryOf({test::kLiberationSans, test::kDejaVuSans});
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  EXPECT_EQ(NameOf(registry.Style(font, false, false, OnlyDejaVu).Face()), "DejaVuSans");
+  EXPECT_EQ(NameOf(registry.Style(font, false, false, AnyFont).Face()), "LiberationSans");
+  EXPECT_EQ(NameOf(registry.Style(kDefaultFont, false, false, OnlyDejaVu).Face()), "DejaVuSans");
 }
 
-TEST(FontRegistry, TakesTheMostLenientLicence) {
-  test::OtherFonts fonts({});
-  fonts.Add("print.ttf", test::WithLicence(test::kLiberationSans, kRestricted | kPreviewAndPrint));
-  FontRegistry registry;
-  EXPECT_NE(registry.FindByFamily("Liberation Sans"), kNoFont);
-}
-
-TEST(FontRegistry, PassesOverAStandInThatMayNotBeEmbedded) {
-  test::OtherFonts fonts({test::kLiberationSans});
-  fonts.Add("restricted.ttf", test::WithLicence(test::kDejaVuSans, kRestricted));
-  FontRegistry registry;
-  EXPECT_FALSE(registry.StandIn(registry.Style(kDefaultFont, false, false), U'\u05D0'));
+TEST(FontRegistry, PassesOverAStandInThatTheOutputCannotShow) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "restricted.ttf", test::WithLicence(test::kDejaVuSans, kRestricted));
+  FontRegistry registry = RegistryOf({folder / "restricted.ttf", test::kLiberationSans});
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  constexpr char32_t kAlef = U'\u05D0';
+  EXPECT_FALSE(registry.Style(font, false, false, OnlyUnrestricted).StandIn(kAlef));
+  EXPECT_TRUE(registry.Style(font, false, false, AnyFont).StandIn(kAlef));
 }
 
 TEST(FontRegistry, ThickensAStandInForBoldText) {
   FontRegistry registry;
-  const auto face = registry.StandIn(registry.Style(kDefaultFont, true, false), U'\u6F22');
+  const auto face = registry.Style(kDefaultFont, true, false, AnyFont).StandIn(U'\u6F22');
   ASSERT_TRUE(face.has_value());
   EXPECT_TRUE(face->isEmboldened);
 }
 
 TEST(FontRegistry, FindsAStandInAgainAfterItForgotMany) {
   FontRegistry registry;
-  const FontStyle& plain = registry.Style(kDefaultFont, false, false);
-  const auto before = registry.StandIn(plain, U'\u6F22');
+  const FontStyle& plain = registry.Style(kDefaultFont, false, false, AnyFont);
+  const auto before = plain.StandIn(U'\u6F22');
   ASSERT_TRUE(before.has_value());
   for (const bool bold : {false, true}) {
     for (const bool italic : {false, true}) {
-      const FontStyle& style = registry.Style(kDefaultFont, bold, italic);
+      const FontStyle& style = registry.Style(kDefaultFont, bold, italic, AnyFont);
       for (char32_t character = U'\u4E00'; character < U'\uD7A4'; ++character)
-        registry.StandIn(style, character);
+        static_cast<void>(style.StandIn(character));
     }
   }
-  const auto after = registry.StandIn(plain, U'\u6F22');
+  const auto after = plain.StandIn(U'\u6F22');
   ASSERT_TRUE(after.has_value());
   EXPECT_EQ(after->typeface, before->typeface);
 }
@@ -98,7 +148,8 @@ TEST(FontRegistry, GivesEqualNamesOneFont) {
 
 TEST(FontRegistry, KeepsAStyle) {
   FontRegistry registry;
-  EXPECT_EQ(&registry.Style(kDefaultFont, true, false), &registry.Style(kDefaultFont, true, false));
+  EXPECT_EQ(&registry.Style(kDefaultFont, true, false, AnyFont),
+            &registry.Style(kDefaultFont, true, false, AnyFont));
 }
 
 TEST(FontRegistry, AnswersManyThreadsAlike) {
@@ -107,8 +158,8 @@ TEST(FontRegistry, AnswersManyThreadsAlike) {
   std::vector<std::thread> threads;
   for (const FontStyle*& style : styles) {
     threads.emplace_back([&registry, &style] {
-      style = &registry.Style(registry.FindByFamily("Arial"), true, false);
-      registry.StandIn(*style, U'\u6F22');
+      style = &registry.Style(registry.FindByFamily("Arial"), true, false, AnyFont);
+      static_cast<void>(style->StandIn(U'\u6F22'));
     });
   }
   for (std::thread& thread : threads)

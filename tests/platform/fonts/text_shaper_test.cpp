@@ -17,7 +17,8 @@ std::vector<ShapedRun> LineOf(std::u16string_view text, const FontStyle& style) 
 
 /// A run in short: the face, then the text of each glyph, from left to right.
 std::vector<std::string> Shaped(std::u16string_view text, const char* font = "Liberation Sans") {
-  const FontStyle& style = FontRegistry::Shared().Style(test::FontByFullName(font), false, false);
+  const FontStyle& style =
+      FontRegistry::Shared().Style(test::FontByFullName(font), false, false, AnyFont);
   std::vector<std::string> runs;
   for (const ShapedRun& run : LineOf(text, style)) {
     std::string words = run.face.typeface->Font()->Description().postScriptName;
@@ -47,7 +48,7 @@ TEST(ShapeLine, PutsHebrewWithinLatinInItsPlace) {
 
 TEST(ShapeLine, JoinsArabicLetters) {
   const FontStyle& style =
-      FontRegistry::Shared().Style(test::FontByFullName("DejaVu Sans"), false, false);
+      FontRegistry::Shared().Style(test::FontByFullName("DejaVu Sans"), false, false, AnyFont);
   const auto line = LineOf(u"\u0628\u0628", style);
   ASSERT_EQ(line.size(), 1U);
   ASSERT_EQ(line[0].glyphs.size(), 2U);
@@ -91,7 +92,7 @@ TEST(ShapeLine, MakesNothingOfControlsAlone) {
 }
 
 TEST(ShapeLine, ShowsABoxForWhatNoFaceHas) {
-  const FontStyle& style = FontRegistry::Shared().Style(kDefaultFont, false, false);
+  const FontStyle& style = FontRegistry::Shared().Style(kDefaultFont, false, false, AnyFont);
   const auto line = LineOf(u"\U000F0000", style);
   ASSERT_EQ(line.size(), 1U);
   EXPECT_EQ(line[0].glyphs.at(0).glyph, 0);
@@ -99,14 +100,14 @@ TEST(ShapeLine, ShowsABoxForWhatNoFaceHas) {
 
 TEST(ShapeLine, PutsTheSecondGlyphBehindTheFirstInEms) {
   const FontStyle& style =
-      FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false);
+      FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false, AnyFont);
   const auto line = LineOf(u"HA", style);
   EXPECT_FLOAT_EQ(line.at(0).glyphs.at(1).origin.x, 1479.0F / 2048);
 }
 
 TEST(ShapeLine, GoesOnFromThePen) {
   const FontStyle& style =
-      FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false);
+      FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false, AnyFont);
   double pen = 0.25;
   EXPECT_EQ(ShapeLine(u"H", style, true, pen).at(0).glyphs.at(0).origin.x, 0.25F);
   EXPECT_DOUBLE_EQ(pen, 0.25 + 1479.0 / 2048);

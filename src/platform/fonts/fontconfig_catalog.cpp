@@ -1,0 +1,246 @@
+#include "platform/fonts/fontconfig_catalog.h"
+
+#include <array>
+#include <cstddef>
+#include <new>
+#include <utility>
+
+#include <fontconfig/fontconfig.h>
+
+namespace kelvane {
+namespace {
+
+static_assert(kRegularWeight == FC_WEIGHT_REGULAR && kDemiBoldWeight == FC_WEIGHT_DEMIBOLD &&
+              kBoldWeight == FC_WEIGHT_BOLD && kUpright == FC_SLANT_ROMAN &&
+              kItalic == FC_SLANT_ITALIC && kNormalWidth == FC_WIDTH_NORMAL);
+
+struct ConfigDestroyer {
+  void operator()(FcConfig* config) const { FcConfigDestroy(config); }
+};
+using Config = std::unique_ptr<FcConfig, ConfigDestroyer>;
+
+struct FontSetDestroyer {
+  void operator()(FcFontSet* set) const { FcFontSetDestroy(set); }
+};
+using FontSet = std::unique_ptr<FcFontSet, FontSetDestroyer>;
+
+struct PatternDestroyer {
+  void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
+};
+using Pattern = std::unique_ptr<FcPattern, PatternDestroyer>;
+
+struct ObjectSetDestroyer {
+  void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
+};
+
+struct CharacterSetDestroyer {
+  void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
+};
+
+/// Characters, as bits by their numbers.
+using Characters = std::vector<bool>;
+
+// A copy of our own: the library links the parts of its sets by offsets, which leak checkers cannot
+// follow, and this one lives as long as the process.
+std::shared_ptr<const Characters> CharactersOf(const FcCharSet& set) {
+  constexpr std::size_t kEndOfUnicode = 0x110000;
+  constexpr FcChar32 kBits = 32;
+  Characters characters(kEndOfUnicode);
+  std::array<FcChar32, FC_CHARSET_MAP_SIZE> page{};
+  FcChar32 next = 0;
+  for (FcChar32 first = FcCharSetFirstPage(&set, page.data(), &next); first != FC_CHARSET_DONE;
+       first = FcCharSetNextPage(&set, page.data(), &next)) {
+    for (FcChar32 i = 0; i < kBits * page.size() && first + i < kEndOfUnicode; ++i) {
+      characters[first + i] = (page[i / kBits] >> (i % kBits) & 1) != 0;
+    }
+  }
+  return std::make_shared<const Characters>(std::move(characters));
+}
+
+const FcChar8* Text(const std::string& text) {
+  return reinterpret_cast<const FcChar8*>(text.c_str());
+}
+
+std::string StringOf(const FcPattern* pattern, const char* property) {
+  FcChar8* text = nullptr;
+  if (FcPatternGetString(pattern, property, 0, &text) != FcResultMatch) return {};
+  return reinterpret_cast<const char*>(text);
+}
+
+int IntegerOf(const FcPattern* pattern, const char* property, int otherwise) {
+  int value = otherwise;
+  FcPatternGetInteger(pattern, property, 0, &value);
+  return value;
+}
+
+bool Is(const FcPattern* pattern, const char* property) {
+  FcBool value = FcFalse;
+  FcPatternGetBool(pattern, property, 0, &value);
+  return value != FcFalse;
+}
+
+InstalledFace FaceOf(const FcPattern* pattern) {
+  return {StringOf(pattern, FC_FILE),
+          static_cast<unsigned>(IntegerOf(pattern, FC_INDEX, 0)) & 0xFFFF,
+          StringOf(pattern, FC_FAMILY),
+          IntegerOf(pattern, FC_WEIGHT, kRegularWeight),
+          IntegerOf(pattern, FC_SLANT, kUpright),
+          IntegerOf(pattern, FC_WIDTH, kNormalWidth)};
+}
+
+// Faces are read from files that have the tables of TrueType, as they stand in the file. One of a
+// variable font is listed for each of its named instances, and once for the font as a whole, whose
+// outlines are those of the file. The instance's number stands above the member's.
+bool IsReadable(const FcPattern* pattern) {
+  const std::string format = StringOf(pattern, FC_FONTFORMAT);
+  const int instance = IntegerOf(pattern, FC_INDEX, 0) >> 16;
+  return (format == "TrueType" || format == "CFF") && (instance == 0 || Is(pattern, FC_VARIABLE));
+}
+
+const FcCharSet* CharacterSetOf(const FcPattern* pattern) {
+  FcCharSet* characters = nullptr;
+  FcPatternGetCharSet(pattern, FC_CHARSET, 0, &characters);
+  return characters;
+}
+
+Pattern NewPattern() {
+  Pattern pattern(FcPatternCreate());
+  if (!pattern) throw std::bad_alloc();
+  return pattern;
+}
+
+class FontconfigFaces final : public FaceSet {
+ public:
+  /// @param set  may be null; faces that cannot be read are left out. @param covered  all that the
+  ///             faces show together; may be null.
+  explicit FontconfigFaces(FontSet set, std::shared_ptr<const Characters> covered = nullptr)
+      : set_(std::move(set)), covered_(std::move(covered)) {
+    // What is asked of every face for each character is looked up once: looking up a property takes
+    // longer than the question.
+    for (int i = 0; set_ && i < set_->nfont; ++i) {
+      const FcPattern* const pattern = set_->fonts[i];
+      if (IsReadable(pattern)) faces_.push_back({pattern, CharacterSetOf(pattern)});
+    }
+  }
+
+  [[nodiscard]] std::size_t Size() const override { return faces_.size(); }
+
+  [[nodiscard]] InstalledFace At(std::size_t index) const override {
+    return FaceOf(faces_[index].pattern);
+  }
+
+  [[nodiscard]] bool Covers(std::size_t index, char32_t character) const override {
+    const FcCharSet* const characters = faces_[index].characters;
+    return characters != nullptr && FcCharSetHasChar(characters, character) != FcFalse;
+  }
+
+  [[nodiscard]] bool CoversAnywhere(char32_t character) const override {
+    return covered_ == nullptr || (character < covered_->size() && (*covered_)[character]);
+  }
+
+ private:
+  /// A readable face of the set, and the characters it has, borrowed from there; null for none.
+  struct Face {
+    const FcPattern* pattern;
+    const FcCharSet* characters;
+  };
+
+  FontSet set_;
+  std::vector<Face> faces_;
+  std::shared_ptr<const Characters> covered_;
+};
+
+class FontconfigCatalog final : public FontCatalog {
+ public:
+  /// @param config  null when not even a fallback could be made; then there are no fonts.
+  explicit FontconfigCatalog(Config config) : config_(std::move(config)) {}
+
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string& family) const override {
+    return FacesWith(FC_FAMILY, family);
+  }
+
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFullName(
+      const std::string& fullName) const override {
+    return FacesWith(FC_FULLNAME, fullName);
+  }
+
+  [[nodiscard]] std::vector<std::string> Equivalents(const std::string& family) const override;
+  [[nodiscard]] std::unique_ptr<const FaceSet> StandIns(const std::string& family, int weight,
+                                                        int slant) override;
+
+ private:
+  [[nodiscard]] std::vector<InstalledFace> FacesWith(const char* property,
+                                                     const std::string& value) const;
+
+  Config config_;
+  std::shared_ptr<const Characters> covered_;  // by all faces together; null until it is asked
+};
+
+std::vector<InstalledFace> FontconfigCatalog::FacesWith(const char* property,
+                                                        const std::string& value) const {
+  if (!config_) return {};
+  const Pattern pattern = NewPattern();
+  FcPatternAddString(pattern.get(), property, Text(value));
+  const std::unique_ptr<FcObjectSet, ObjectSetDestroyer> objects(
+      FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_WEIGHT, FC_SLANT, FC_WIDTH, FC_FONTFORMAT,
+                       FC_VARIABLE, nullptr));
+  const FontconfigFaces found(FontSet(FcFontList(config_.get(), pattern.get(), objects.get())));
+  std::vector<InstalledFace> faces;
+  for (std::size_t i = 0; i < found.Size(); ++i)
+    faces.push_back(found.At(i));
+  return faces;
+}
+
+std::vector<std::string> FontconfigCatalog::Equivalents(const std::string& family) const {
+  if (!config_) return {};
+  const Pattern pattern = NewPattern();
+  FcPatternAddString(pattern.get(), FC_FAMILY, Text(family));
+  FcConfigSubstitute(config_.get(), pattern.get(), FcMatchPattern);
+  std::vector<std::string> families;
+  FcValue value;
+  FcValueBinding binding = FcValueBindingWeak;
+  for (int i = 0;
+       FcPatternGetWithBinding(pattern.get(), FC_FAMILY, i, &value, &binding) == FcResultMatch;
+       ++i) {
+    if (binding == FcValueBindingStrong && value.type == FcTypeString) {
+      families.emplace_back(reinterpret_cast<const char*>(value.u.s));
+    }
+  }
+  return families;
+}
+
+std::unique_ptr<const FaceSet> FontconfigCatalog::StandIns(const std::string& family, int weight,
+                                                           int slant) {
+  if (!config_) return std::make_unique<FontconfigFaces>(nullptr);
+  const Pattern pattern = NewPattern();
+  FcPatternAddString(pattern.get(), FC_FAMILY, Text(family));
+  FcPatternAddInteger(pattern.get(), FC_WEIGHT, weight);
+  FcPatternAddInteger(pattern.get(), FC_SLANT, slant);
+  // Without a language the locale's would be preferred.
+  FcPatternAddString(pattern.get(), FC_LANG, Text("en"));
+  FcConfigSubstitute(config_.get(), pattern.get(), FcMatchPattern);
+  FcDefaultSubstitute(pattern.get());
+  FcResult result = FcResultMatch;
+  FcCharSet* covered = nullptr;
+  FontSet set(FcFontSort(config_.get(), pattern.get(), FcFalse, &covered, &result));
+  const std::unique_ptr<FcCharSet, CharacterSetDestroyer> owned(covered);
+  // Whatever the order, the faces are all there are.
+  if (covered_ == nullptr && covered != nullptr) covered_ = CharactersOf(*covered);
+  return std::make_unique<FontconfigFaces>(std::move(set), covered_);
+}
+
+}  // namespace
+
+std::unique_ptr<FontCatalog> OpenInstalledFonts() {
+  return std::make_unique<FontconfigCatalog>(Config(FcInitLoadConfigAndFonts()));
+}
+
+std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files) {
+  Config config(FcConfigCreate());
+  if (!config) throw std::bad_alloc();
+  for (const std::string& file : files)
+    FcConfigAppFontAddFile(config.get(), Text(file));
+  return std::make_unique<FontconfigCatalog>(std::move(config));
+}
+
+}  // namespace kelvane

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/fonts/font_catalog.h"
+
+namespace kelvane {
+
+/// Reads Fontconfig's configuration, as this process has it, and its list of fonts.
+std::unique_ptr<FontCatalog> OpenInstalledFonts();
+
+/// @param files  font files, all the fonts that there are; one that cannot be read is left out. No
+///               name stands for another.
+std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files);
+
+}  // namespace kelvane
