@@ -64,6 +64,7 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   if (hb_face_get_glyph_count(face) == 0) return std::nullopt;
 
   const FontTable head(face, HB_TAG('h', 'e', 'a', 'd'));
+  const FontTable hhea(face, HB_TAG('h', 'h', 'e', 'a'));
   const FontTable os2(face, HB_TAG('O', 'S', '/', '2'));
   const FontTable post(face, HB_TAG('p', 'o', 's', 't'));
   const auto metric = [&](hb_ot_metrics_tag_t tag) {
@@ -89,6 +90,11 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   description.bottom = head.Signed(38);
   description.right = head.Signed(40);
   description.top = head.Signed(42);
+  description.header = {hhea.Signed(4), hhea.Signed(6), hhea.Signed(8)};
+  description.typographic = {os2.Signed(68), os2.Signed(70), os2.Signed(72)};
+  description.windows = {os2.Unsigned(74), -os2.Unsigned(76), 0};
+  description.underline = {post.Signed(8), post.Signed(10)};
+  description.strikeOut = {os2.Signed(28), os2.Signed(26)};
   return description;
 }
 

@@ -5,6 +5,7 @@
 #include <hb-ot.h>
 
 #include "platform/fonts/font_description.h"
+#include "platform/fonts/glyph_outline.h"
 #include "platform/quartz/cg_standard_font.h"
 
 namespace kelvane {
@@ -23,6 +24,10 @@ class FileFont final : public CGFont {
   [[nodiscard]] CGFloat Advance(CGGlyph glyph) const override {
     const auto unitsPerEm = static_cast<CGFloat>(hb_face_get_upem(hb_font_get_face(shaper_.get())));
     return static_cast<CGFloat>(hb_font_get_glyph_h_advance(shaper_.get(), glyph)) / unitsPerEm;
+  }
+
+  [[nodiscard]] CGPath Outline(CGGlyph glyph) const override {
+    return GlyphOutline(shaper_.get(), glyph);
   }
 
   [[nodiscard]] std::span<const char> Program() const override {

@@ -7,6 +7,7 @@
 
 #include "platform/corefoundation/cf_base.h"
 #include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_path.h"
 
 namespace kelvane {
 
@@ -22,6 +23,19 @@ enum class CGFontOutlines : std::uint8_t {
   kNone,      // bitmaps are all there is
 };
 
+/// How far lines of text reach from their baseline, and how far they stand apart beyond that.
+struct CGFontExtent {
+  int ascent = 0;
+  int descent = 0;  // below 0 for what hangs below the baseline
+  int lineGap = 0;
+};
+
+/// A line drawn along text.
+struct CGFontRule {
+  int top = 0;  // from the baseline
+  int thickness = 0;
+};
+
 /// What a face says of itself. Lengths are its own units, y upwards.
 struct CGFontDescription {
   std::string postScriptName;  // letters, digits and -+._ only
@@ -32,11 +46,18 @@ struct CGFontDescription {
   bool isSerif = false;
   bool isItalic = false;
   float italicAngle = 0;  // degrees, counter-clockwise from the vertical
-  int ascent = 0;
-  int descent = 0;    // below 0 for what hangs below the baseline
-  int capHeight = 0;  // 0 when the face does not say
-  int weight = 0;     // 400 for regular, 700 for bold; 0 when the face does not say
+  int ascent = 0;         // as the face prefers to be set
+  int descent = 0;        // below 0 for what hangs below the baseline
+  int capHeight = 0;      // 0 when the face does not say
+  int weight = 0;         // 400 for regular, 700 for bold; 0 when the face does not say
   int left = 0, bottom = 0, right = 0, top = 0;  // of all glyphs laid over each other
+
+  // As the face's tables have them; 0 where it lacks the table.
+  CGFontExtent header = {};       // hhea
+  CGFontExtent typographic = {};  // OS/2, sTypo
+  CGFontExtent windows = {};      // OS/2, usWin, which knows no gap
+  CGFontRule underline = {};      // post
+  CGFontRule strikeOut = {};      // OS/2
 };
 
 /// Tells whether a kind of output can show a face. It goes by the description alone, so that what
@@ -57,6 +78,10 @@ class CGFont : public CFObject {
 
   /// @return how far the pen moves after the glyph, in ems; 0 for a glyph the face does not have.
   [[nodiscard]] virtual CGFloat Advance(CGGlyph glyph) const = 0;
+
+  /// @return the glyph's outline in the face's own units, y upwards; empty for a blank, for a glyph
+  /// the face does not have, and for a face without outlines.
+  [[nodiscard]] virtual CGPath Outline(CGGlyph glyph) const = 0;
 
   /// @return the font file, a collection perhaps; empty for a standard face. Valid while the face
   /// lives.

@@ -45,6 +45,7 @@ class StandardFont final : public CGFont {
     }
     return static_cast<CGFloat>(kHelveticaWidths[glyph - kFirstCode]) / 1000;
   }
+  [[nodiscard]] CGPath Outline(CGGlyph /*glyph*/) const override { return {}; }
   [[nodiscard]] std::span<const char> Program() const override { return {}; }
   [[nodiscard]] unsigned ProgramIndex() const override { return 0; }
 };

@@ -58,5 +58,63 @@ TEST(FontDescription, TellsTheWeight) {
   EXPECT_EQ(DescriptionOf(test::kLiberationSansBold).weight, 700);
 }
 
+struct MetricsCase {
+  const char* path;
+  CGFontExtent header;
+  CGFontExtent typographic;
+  CGFontExtent windows;
+  CGFontRule underline;
+  CGFontRule strikeOut;
+};
+
+void ExpectEqual(const CGFontExtent& extent, const CGFontExtent& expected) {
+  EXPECT_EQ(extent.ascent, expected.ascent);
+  EXPECT_EQ(extent.descent, expected.descent);
+  EXPECT_EQ(extent.lineGap, expected.lineGap);
+}
+
+void ExpectEqual(const CGFontRule& rule, const CGFontRule& expected) {
+  EXPECT_EQ(rule.top, expected.top);
+  EXPECT_EQ(rule.thickness, expected.thickness);
+}
+
+class MetricsOfAFace : public testing::TestWithParam<MetricsCase> {};
+
+TEST_P(MetricsOfAFace, AreThoseOfEachTable) {
+  SCOPED_TRACE(GetParam().path);
+  const CGFontDescription face = DescriptionOf(GetParam().path);
+  ExpectEqual(face.header, GetParam().header);
+  ExpectEqual(face.typographic, GetParam().typographic);
+  ExpectEqual(face.windows, GetParam().windows);
+  ExpectEqual(face.underline, GetParam().underline);
+  ExpectEqual(face.strikeOut, GetParam().strikeOut);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, MetricsOfAFace,
+                         testing::Values(MetricsCase{test::kLiberationSans,
+                                                     {1854, -434, 67},
+                                                     {1491, -431, 307},
+                                                     {1854, -434, 0},
+                                                     {-67, 150},
+                                                     {530, 102}},
+                                         MetricsCase{test::kDejaVuSans,
+                                                     {1901, -483, 0},
+                                                     {1556, -492, 410},
+                                                     {1901, -483, 0},
+                                                     {-40, 90},
+                                                     {530, 102}},
+                                         MetricsCase{test::kJunction,
+                                                     {750, -250, 0},
+                                                     {750, -250, 0},
+                                                     {841, -275, 0},
+                                                     {-75, 50},
+                                                     {250, 50}},
+                                         MetricsCase{test::kMicroHei,
+                                                     {1918, -483, 0},
+                                                     {1567, -492, 132},
+                                                     {1918, -483, 0},
+                                                     {-256, 102},
+                                                     {498, 102}}));
+
 }  // namespace
 }  // namespace kelvane

@@ -40,6 +40,10 @@ TEST(StandardHelvetica, DoesNotAdvanceForWhatItDoesNotHave) {
   EXPECT_EQ(CGFontGetStandardHelvetica()->Advance(256), 0);
 }
 
+TEST(StandardHelvetica, HasNoOutlines) {
+  EXPECT_TRUE(CGFontGetStandardHelvetica()->Outline('A').IsEmpty());
+}
+
 TEST(StandardHelvetica, HasNoProgram) {
   EXPECT_TRUE(CGFontGetStandardHelvetica()->Program().empty());
   EXPECT_EQ(CGFontGetStandardHelvetica()->ProgramIndex(), 0U);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <hb.h>
+
+#include "platform/quartz/cg_path.h"
+
+namespace kelvane {
+
+/// @return the outline of a glyph in the units of `font`, y upwards; empty for a blank and for a
+///         glyph that the face does not have.
+CGPath GlyphOutline(hb_font_t* font, hb_codepoint_t glyph);
+
+}  // namespace kelvane
