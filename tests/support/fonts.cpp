@@ -27,6 +27,12 @@ unsigned BigEndian(const std::string& bytes, std::size_t at, int width) {
   return value;
 }
 
+// The times that the system gives to files are too coarse to tell changes apart that follow each
+// other at once.
+void Touch(const std::filesystem::path& path) {
+  std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now());
+}
+
 /// @return where the table stands in the font's directory: tag, checksum, offset, length.
 std::size_t EntryOf(const std::string& font, const std::string& table) {
   const std::size_t end = 12 + 16 * std::size_t{BigEndian(font, 4, 2)};
@@ -52,7 +58,15 @@ OtherFonts::~OtherFonts() {
 }
 
 void OtherFonts::Add(const std::string& name, const std::string& bytes) {
-  WriteFile(folder_.Path() / "fonts" / name, bytes);
+  const std::filesystem::path path = folder_.Path() / "fonts" / name;
+  std::filesystem::create_directories(path.parent_path());
+  WriteFile(path, bytes);
+  Touch(folder_.Path() / "fonts");
+}
+
+void OtherFonts::Remove(const std::string& name) {
+  std::filesystem::remove(folder_.Path() / "fonts" / name);
+  Touch(folder_.Path() / "fonts");
 }
 
 void OtherFonts::Alias(const std::string& family, const std::string& standIn) {
@@ -65,6 +79,7 @@ void OtherFonts::WriteConfiguration() const {
   WriteFile(folder_ / "fonts.conf", "<fontconfig><dir>" + folder_ / "fonts" + "</dir><cachedir>" +
                                         folder_ / "cache" + "</cachedir>" + aliases_ +
                                         "</fontconfig>");
+  Touch(folder_.Path() / "fonts.conf");
 }
 
 std::string WithLicence(const std::string& path, unsigned bits) {

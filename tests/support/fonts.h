@@ -27,8 +27,11 @@ class OtherFonts {
   OtherFonts& operator=(const OtherFonts&) = delete;
   ~OtherFonts();
 
-  /// Adds a font file.
+  /// Adds a font file, in a folder of its own perhaps.
   void Add(const std::string& name, const std::string& bytes);
+
+  /// Removes a font file.
+  void Remove(const std::string& name);
 
   /// Has a family stand for another as one of the same metrics.
   void Alias(const std::string& family, const std::string& standIn);

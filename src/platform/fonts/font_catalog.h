@@ -57,6 +57,10 @@ class FontCatalog {
   /// @return every face, the closest to the one asked for first, whatever the locale; never null.
   [[nodiscard]] virtual std::unique_ptr<const FaceSet> StandIns(const std::string& family,
                                                                 int weight, int slant) = 0;
+
+  /// @return false once fonts came or went since the catalogue was opened, or what it goes by
+  ///         changed. It goes on to answer as it did.
+  [[nodiscard]] virtual bool IsUpToDate() const = 0;
 };
 
 }  // namespace kelvane

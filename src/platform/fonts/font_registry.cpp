@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <tuple>
 
 #include "platform/fonts/fontconfig_catalog.h"
@@ -32,6 +33,14 @@ StyledFace Styled(const Typeface* typeface, const InstalledFace& face, bool isBo
   return {typeface, isItalic && IsUpright(face), isBold && face.weight < kDemiBoldWeight};
 }
 
+// Time is asked for at each name; to a few milliseconds it costs next to nothing.
+std::chrono::steady_clock::time_point CoarseTime() {
+  timespec time = {};
+  clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+  return std::chrono::steady_clock::time_point(std::chrono::seconds(time.tv_sec) +
+                                               std::chrono::nanoseconds(time.tv_nsec));
+}
+
 }  // namespace
 
 std::optional<StyledFace> FontStyle::StandIn(char32_t character) const {
@@ -45,8 +54,12 @@ FontRegistry& FontRegistry::Shared() {
 
 FontRegistry::FontRegistry() : FontRegistry(OpenInstalledFonts) {}
 
+FontRegistry::FontRegistry(CatalogOpener openCatalog)
+    : FontRegistry(std::move(openCatalog), CoarseTime) {}
+
 FontID FontRegistry::FindByFullName(const std::string& name) {
   const std::scoped_lock lock(mutex_);
+  SeeChanges();
   return FindOnce(fullNames_, name, [&]() -> std::optional<InstalledFace> {
     const auto face = Closest(Catalog().FacesOfFullName(name), InstalledFace{}, AnyFont);
     return face ? face : RegularFace(name);
@@ -55,7 +68,38 @@ FontID FontRegistry::FindByFullName(const std::string& name) {
 
 FontID FontRegistry::FindByFamily(const std::string& name) {
   const std::scoped_lock lock(mutex_);
+  SeeChanges();
   return FindOnce(families_, name, [&] { return RegularFace(name); });
+}
+
+void FontRegistry::SeeChanges() {
+  if (catalog_ == nullptr) return;
+  const auto now = clock_();
+  if (now < nextCheck_) return;
+  if (!catalog_->IsUpToDate()) {
+    auto current = openCatalog_();
+    Forget();
+    catalog_ = std::move(current);
+  }
+  nextCheck_ = now + kCheckInterval;
+}
+
+// Numbers, styles and faces may be in use: they stay as they are, and only nobody is given a style
+// or a stand-in any more that was chosen among other fonts.
+void FontRegistry::Forget() noexcept {
+  fullNames_.clear();
+  families_.clear();
+  defaultFonts_.clear();
+  for (auto& [id, font] : fonts_) {
+    font.family.reset();
+    font.styles.clear();
+  }
+  for (KnownStyle& style : styles_) {
+    style.candidates.reset();
+    style.standIns.clear();
+  }
+  standInCount_ = 0;
+  std::erase_if(typefaces_, [](const auto& entry) { return entry.second == nullptr; });
 }
 
 template <class LookUp>
@@ -68,7 +112,10 @@ FontID FontRegistry::FindOnce(Names& known, const std::string& name, const LookU
 }
 
 FontCatalog& FontRegistry::Catalog() {
-  if (!catalog_) catalog_ = openCatalog_();
+  if (catalog_ == nullptr) {
+    catalog_ = openCatalog_();
+    nextCheck_ = clock_() + kCheckInterval;
+  }
   return *catalog_;
 }
 

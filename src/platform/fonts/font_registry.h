@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -53,7 +54,8 @@ class FontStyle {
 };
 
 /// Fonts, each of which is looked up, opened and read once, for all threads. The catalogue is not
-/// opened before the first question. What is handed out lives as long as the registry.
+/// opened before the first question, and opened anew when fonts came or went, which is found out
+/// when a name is looked up. What is handed out lives as long as the registry.
 class FontRegistry {
  public:
   using CatalogOpener = std::function<std::unique_ptr<FontCatalog>()>;
@@ -61,8 +63,15 @@ class FontRegistry {
   /// @return the one of this process, of the installed fonts, which lives until its end.
   static FontRegistry& Shared();
 
+  using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+  /// How long fonts may have come or gone unseen.
+  static constexpr std::chrono::seconds kCheckInterval{5};
+
   FontRegistry();  // of the installed fonts
-  explicit FontRegistry(CatalogOpener openCatalog) : openCatalog_(std::move(openCatalog)) {}
+  explicit FontRegistry(CatalogOpener openCatalog);
+  FontRegistry(CatalogOpener openCatalog, Clock clock)
+      : openCatalog_(std::move(openCatalog)), clock_(std::move(clock)) {}
 
   /// @param name  UTF-8.
   /// @return the face installed under the name, or else the regular face of a family that stands
@@ -118,6 +127,8 @@ class FontRegistry {
 
   // All of these are called under the lock. What is remembered is remembered whole: one that throws
   // leaves the question as open as it was.
+  void SeeChanges();
+  void Forget() noexcept;
   template <class LookUp>
   FontID FindOnce(Names& known, const std::string& name, const LookUp& lookUp);
   FontCatalog& Catalog();
@@ -140,6 +151,8 @@ class FontRegistry {
 
   std::mutex mutex_;
   CatalogOpener openCatalog_;
+  Clock clock_;
+  std::chrono::steady_clock::time_point nextCheck_;
   std::unique_ptr<FontCatalog> catalog_;                          // null until it is asked
   std::map<FaceKey, std::unique_ptr<const Typeface>> typefaces_;  // null for what cannot be read
   std::unordered_map<FontID, Font> fonts_;

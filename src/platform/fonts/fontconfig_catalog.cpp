@@ -1,11 +1,13 @@
 #include "platform/fonts/fontconfig_catalog.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <new>
 #include <utility>
 
 #include <fontconfig/fontconfig.h>
+#include <sys/stat.h>
 
 namespace kelvane {
 namespace {
@@ -31,6 +33,10 @@ using Pattern = std::unique_ptr<FcPattern, PatternDestroyer>;
 
 struct ObjectSetDestroyer {
   void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
+};
+
+struct PathListDestroyer {
+  void operator()(FcStrList* list) const { FcStrListDone(list); }
 };
 
 struct CharacterSetDestroyer {
@@ -150,10 +156,50 @@ class FontconfigFaces final : public FaceSet {
   std::shared_ptr<const Characters> covered_;
 };
 
+using PathList = std::unique_ptr<FcStrList, PathListDestroyer>;
+
+/// A file or folder, and when it had last changed.
+struct WatchedPath {
+  std::string path;
+  timespec changed;
+};
+
+/// @return zeros for what is not there.
+timespec LastChange(const char* path) {
+  struct stat status = {};
+  return stat(path, &status) == 0 ? status.st_mtim : timespec{};
+}
+
+bool HasChanged(const WatchedPath& watched) {
+  const timespec now = LastChange(watched.path.c_str());
+  return now.tv_sec != watched.changed.tv_sec || now.tv_nsec != watched.changed.tv_nsec;
+}
+
+/// @param found  owned; may be null.
+void Watch(std::vector<WatchedPath>& paths, FcStrList* found) {
+  const PathList list(found);
+  while (const FcChar8* const path = list ? FcStrListNext(list.get()) : nullptr) {
+    const char* const name = reinterpret_cast<const char*>(path);
+    paths.push_back({name, LastChange(name)});
+  }
+}
+
+// What Fontconfig's own check looks at. That one compares whole seconds, so what is installed in
+// the second of the start would never be seen, and complains on standard error of times to come.
+std::vector<WatchedPath> PathsBehind(FcConfig* config) {
+  std::vector<WatchedPath> paths;
+  Watch(paths, FcConfigGetConfigFiles(config));
+  Watch(paths, FcConfigGetConfigDirs(config));
+  Watch(paths, FcConfigGetFontDirs(config));
+  return paths;
+}
+
 class FontconfigCatalog final : public FontCatalog {
  public:
   /// @param config  null when not even a fallback could be made; then there are no fonts.
-  explicit FontconfigCatalog(Config config) : config_(std::move(config)) {}
+  /// @param watched  what tells by a change that the fonts are others.
+  explicit FontconfigCatalog(Config config, std::vector<WatchedPath> watched)
+      : config_(std::move(config)), watched_(std::move(watched)) {}
 
   [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string& family) const override {
     return FacesWith(FC_FAMILY, family);
@@ -167,12 +213,16 @@ class FontconfigCatalog final : public FontCatalog {
   [[nodiscard]] std::vector<std::string> Equivalents(const std::string& family) const override;
   [[nodiscard]] std::unique_ptr<const FaceSet> StandIns(const std::string& family, int weight,
                                                         int slant) override;
+  [[nodiscard]] bool IsUpToDate() const override {
+    return std::ranges::none_of(watched_, HasChanged);
+  }
 
  private:
   [[nodiscard]] std::vector<InstalledFace> FacesWith(const char* property,
                                                      const std::string& value) const;
 
   Config config_;
+  std::vector<WatchedPath> watched_;
   std::shared_ptr<const Characters> covered_;  // by all faces together; null until it is asked
 };
 
@@ -232,7 +282,10 @@ std::unique_ptr<const FaceSet> FontconfigCatalog::StandIns(const std::string& fa
 }  // namespace
 
 std::unique_ptr<FontCatalog> OpenInstalledFonts() {
-  return std::make_unique<FontconfigCatalog>(Config(FcInitLoadConfigAndFonts()));
+  Config config(FcInitLoadConfigAndFonts());
+  std::vector<WatchedPath> watched;
+  if (config) watched = PathsBehind(config.get());
+  return std::make_unique<FontconfigCatalog>(std::move(config), std::move(watched));
 }
 
 std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files) {
@@ -240,7 +293,7 @@ std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files
   if (!config) throw std::bad_alloc();
   for (const std::string& file : files)
     FcConfigAppFontAddFile(config.get(), Text(file));
-  return std::make_unique<FontconfigCatalog>(std::move(config));
+  return std::make_unique<FontconfigCatalog>(std::move(config), std::vector<WatchedPath>());
 }
 
 }  // namespace kelvane

@@ -152,6 +152,111 @@ TEST(FontRegistry, KeepsAStyle) {
             &registry.Style(kDefaultFont, true, false, AnyFont));
 }
 
+/// A registry of the fonts that are installed, at a time that only the test moves on.
+class AFontRegistryAfterAWhile : public testing::Test {
+ protected:
+  void LetTimePass() { now_ += FontRegistry::kCheckInterval; }
+
+  test::OtherFonts fonts{{test::kLiberationSans}};
+  FontRegistry registry{OpenInstalledFonts, [this] { return now_; }};
+
+ private:
+  std::chrono::steady_clock::time_point now_;
+};
+
+TEST_F(AFontRegistryAfterAWhile, FindsAFontThatWasInstalled) {
+  EXPECT_EQ(registry.FindByFamily("Junction"), kNoFont);
+  fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
+  EXPECT_EQ(registry.FindByFamily("Junction"), kNoFont);
+  LetTimePass();
+  EXPECT_EQ(NameOf(registry, registry.FindByFamily("Junction")), "Junction");
+}
+
+TEST_F(AFontRegistryAfterAWhile, FindsAFontInAFolderThatIsNew) {
+  EXPECT_EQ(registry.FindByFamily("Junction"), kNoFont);
+  fonts.Add("new/Junction.otf", test::ReadFile(test::kJunction));
+  LetTimePass();
+  EXPECT_NE(registry.FindByFamily("Junction"), kNoFont);
+}
+
+TEST_F(AFontRegistryAfterAWhile, GoesByTheConfigurationThatIsThere) {
+  EXPECT_EQ(registry.FindByFamily("Arial"), kNoFont);
+  fonts.Alias("Arial", "Liberation Sans");
+  LetTimePass();
+  EXPECT_EQ(registry.FindByFamily("Arial"), registry.FindByFamily("Liberation Sans"));
+}
+
+TEST_F(AFontRegistryAfterAWhile, DoesNotFindAFontThatWasRemoved) {
+  fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
+  const FontID font = registry.FindByFamily("Junction");
+  const FontStyle& style = registry.Style(font, false, false, AnyFont);
+  fonts.Remove("Junction.otf");
+  LetTimePass();
+  EXPECT_EQ(registry.FindByFamily("Junction"), kNoFont);
+  EXPECT_EQ(NameOf(style.Face()), "Junction") << "what is in use stays";
+}
+
+TEST_F(AFontRegistryAfterAWhile, ReadsAFileAgainThatWasNotWholeYet) {
+  const std::string font = test::ReadFile(test::kDejaVuSans);
+  fonts.Add("DejaVuSans.ttf", font.substr(0, font.size() / 2));
+  const FontStyle& before = registry.Style(kDefaultFont, false, false, AnyFont);
+  EXPECT_FALSE(before.StandIn(U'\u05D0'));
+  fonts.Remove("DejaVuSans.ttf");
+  fonts.Add("DejaVuSans.ttf", font);
+  LetTimePass();
+  EXPECT_NE(registry.FindByFamily("DejaVu Sans"), kNoFont);
+  EXPECT_TRUE(before.StandIn(U'\u05D0'));
+}
+
+TEST_F(AFontRegistryAfterAWhile, KeepsTheNumberOfAFont) {
+  const FontID font = registry.FindByFamily("Liberation Sans");
+  fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
+  LetTimePass();
+  EXPECT_EQ(registry.FindByFamily("Liberation Sans"), font);
+  EXPECT_EQ(NameOf(registry, font), "LiberationSans");
+}
+
+/// A catalogue without fonts that counts how often it is asked whether there are others by now.
+class CountingCatalog final : public FontCatalog {
+ public:
+  explicit CountingCatalog(int& count) : count_(count) {}
+
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string&) const override {
+    return {};
+  }
+  [[nodiscard]] std::vector<InstalledFace> FacesOfFullName(const std::string&) const override {
+    return {};
+  }
+  [[nodiscard]] std::vector<std::string> Equivalents(const std::string&) const override {
+    return {};
+  }
+  [[nodiscard]] std::unique_ptr<const FaceSet> StandIns(const std::string&, int, int) override {
+    return OpenFontFiles({})->StandIns("", kRegularWeight, kUpright);
+  }
+  [[nodiscard]] bool IsUpToDate() const override {
+    ++count_;
+    return true;
+  }
+
+ private:
+  int& count_;
+};
+
+TEST(FontRegistry, LooksForOtherFontsOnceInAnInterval) {
+  int count = 0;
+  std::chrono::steady_clock::time_point now;
+  FontRegistry registry([&count] { return std::make_unique<CountingCatalog>(count); },
+                        [&now] { return now; });
+  registry.FindByFamily("Arial");
+  now += FontRegistry::kCheckInterval - std::chrono::milliseconds(1);
+  registry.FindByFamily("Arial");
+  EXPECT_EQ(count, 0);
+  now += std::chrono::milliseconds(1);
+  registry.FindByFamily("Arial");
+  registry.FindByFullName("Helvetica");
+  EXPECT_EQ(count, 1);
+}
+
 TEST(FontRegistry, AnswersManyThreadsAlike) {
   FontRegistry registry;
   std::vector<const FontStyle*> styles(8);
