@@ -2,9 +2,12 @@
 #include <filesystem>
 #include <map>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
+#include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "classic/document/record_factory.h"
@@ -14,6 +17,8 @@
 
 namespace kelvane {
 namespace {
+
+namespace fs = std::filesystem;
 
 const std::string kRoot = test::SourcePath("") + "/";
 
@@ -29,23 +34,47 @@ TEST(Readme, NamesASampleThatIsThere) {
   EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
 }
 
-TEST(Readme, LeadsToPagesThatAreThere) {
-  const std::string readme = test::ReadFile(kRoot + "README.md");
-  const std::regex link("\\]\\(([^)]+)\\)");
-  int links = 0;
-  for (std::sregex_iterator match(readme.begin(), readme.end(), link), end; match != end; ++match) {
-    EXPECT_TRUE(std::filesystem::exists(kRoot + (*match)[1].str())) << (*match)[1];
-    ++links;
-  }
-  EXPECT_GT(links, 5);
+/// All that the first group of a pattern matches in a text.
+std::multiset<std::string> Matches(const std::string& text, const std::regex& pattern) {
+  const std::sregex_token_iterator first(text.begin(), text.end(), pattern, 1);
+  return {first, std::sregex_token_iterator()};
 }
 
-TEST(Readme, ShowsTheCommandsOfACallerThatIsBuilt) {
-  const std::string project = test::ReadFile(kRoot + "tests/consumer/cpp/CMakeLists.txt");
-  for (const std::string command : {"find_package(kelvane REQUIRED)\n",
-                                    "target_link_libraries(program PRIVATE kelvane::kelvane)\n"}) {
-    EXPECT_NE(test::ReadFile(kRoot + "README.md").find("    " + command), std::string::npos);
-    EXPECT_NE(project.find("\n" + command), std::string::npos);
+/// The links of a page whose file is not there.
+std::vector<std::string> DeadLinks(const fs::path& page) {
+  static const std::regex kLink("\\]\\(([^)#]+)[^)]*\\)");
+  std::vector<std::string> dead;
+  for (const std::string& link : Matches(test::ReadFile(page), kLink)) {
+    if (!fs::exists(page.parent_path() / link)) dead.push_back(link);
+  }
+  return dead;
+}
+
+TEST(Pages, LinkOnlyToFilesThatAreThere) {
+  std::vector<fs::path> pages = {kRoot + "README.md", kRoot + "CONTRIBUTING.md"};
+  for (const auto& entry : fs::directory_iterator(kRoot + "docs")) {
+    if (entry.path().extension() == ".md") pages.push_back(entry.path());
+  }
+  for (const fs::path& page : pages)
+    EXPECT_THAT(DeadLinks(page), testing::IsEmpty()) << page;
+}
+
+TEST(Readme, LinksToEveryPageOfTheDocumentsThatStandsOnItsOwn) {
+  const std::string readme = test::ReadFile(kRoot + "README.md");
+  for (const auto& entry : fs::directory_iterator(kRoot + "docs")) {
+    const std::string name = entry.path().filename().string();
+    if (!name.ends_with(".md") || name == "performance-tried.md") continue;  // part of another
+    EXPECT_NE(readme.find("](docs/" + name + ")"), std::string::npos) << name;
+  }
+}
+
+TEST(ArchitecturePage, NamesFoldersOfSourcesThatAreThere) {
+  const std::string page = test::ReadFile(kRoot + "docs/architecture.md");
+  const auto folders = Matches(page, std::regex("\n\\| `([^`]+)` \\|"));
+  EXPECT_GT(folders.size(), 15U);
+  for (const std::string& folder : folders) {
+    EXPECT_TRUE(fs::is_directory(kRoot + "src/" + folder)) << folder;
+    EXPECT_EQ(folders.count(folder), 1U) << folder;
   }
 }
 
