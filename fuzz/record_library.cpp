@@ -6,6 +6,7 @@ namespace {
 
 using test::Bytes;
 using test::Metafile;
+using enum test::EmrType;
 
 // Object indexes 1 to 4 are what the records below create and select.
 
@@ -24,21 +25,29 @@ void AddFigures(Metafile& metafile) {
 }
 
 void AddStates(Metafile& metafile) {
-  metafile.SetMapMode(8).SetMapMode(1).SetWindowOrg(-10, 10).SetWindowExt(1000, 500);
+  metafile.SetMapMode(test::kMapAnisotropic)
+      .SetMapMode(1)
+      .SetWindowOrg(-10, 10)
+      .SetWindowExt(1000, 500);
   metafile.SetViewportOrg(1, 2).SetViewportExt(100, 100).SaveDC().RestoreDC();
   metafile.SetWorldTransform({0.5F, 0.25F, -0.25F, 0.5F, 3, 4});
   for (const int mode : {1, 2, 3, 4}) {
     metafile.ModifyWorldTransform({1, 0, 0, -2, 5, 6}, mode);
   }
-  metafile.SetArcDirection(2).BeginPath().EndPath().CloseFigure().FillPath().StrokePath();
-  metafile.StrokeAndFillPath().SelectClipPath(1).SelectClipPath(5);
+  metafile.SetArcDirection(test::kArcClockwise)
+      .BeginPath()
+      .EndPath()
+      .CloseFigure()
+      .FillPath()
+      .StrokePath();
+  metafile.StrokeAndFillPath().SelectClipPath(test::kRegionAnd).SelectClipPath(test::kRegionCopy);
   metafile.SetTextAlign(test::kTextBaseline).SetTextAlign(test::kTextUpdateCP).SetTextColor(0xFF);
   metafile.SetBkColor(0xFF00).SetBkMode(test::kOpaque).SetBkMode(test::kTransparent);
-  metafile.Record(30, Bytes().Rectangle(10, 10, 60, 60));     // EMR_INTERSECTCLIPRECT
-  metafile.Record(31, Bytes().I32(1).I32(2).I32(3).I32(0));   // EMR_SCALEVIEWPORTEXTEX
-  metafile.Record(32, Bytes().I32(1).I32(2).I32(-1).I32(4));  // EMR_SCALEWINDOWEXTEX
-  metafile.Record(58, Bytes().F32(4)).Record(115, Bytes().U32(1));
-  metafile.Record(19, Bytes().U32(1)).Record(57, Bytes().U32(1));
+  metafile.Record(EMR_INTERSECTCLIPRECT, Bytes().Rectangle(10, 10, 60, 60));
+  metafile.Record(EMR_SCALEVIEWPORTEXTEX, Bytes().I32(1).I32(2).I32(3).I32(0));
+  metafile.Record(EMR_SCALEWINDOWEXTEX, Bytes().I32(1).I32(2).I32(-1).I32(4));
+  metafile.Record(EMR_SETMITERLIMIT, Bytes().F32(4)).Record(EMR_SETLAYOUT, Bytes().U32(1));
+  metafile.Record(EMR_SETPOLYFILLMODE, Bytes().U32(1)).Record(EMR_SETARCDIRECTION, Bytes().U32(1));
 }
 
 void AddObjects(Metafile& metafile) {
@@ -48,12 +57,9 @@ void AddObjects(Metafile& metafile) {
   for (const std::uint32_t index : {1U, 2U, 3U, 4U, test::kStockNullBrush, test::kStockNullPen})
     metafile.SelectObject(index);
   metafile.DeleteObject(1).DeleteObject(3);
-  // EMR_EXTCREATEPEN and EMR_CREATEDIBPATTERNBRUSHPT
-  metafile.Record(
-      95,
-      Bytes().U32(1).U32(0).U32(0).U32(0).U32(0).U32(1).U32(2).U32(0).U32(0xFF).U32(0).U32(1).U32(
-          5));
-  metafile.Record(94,
+  metafile.Record(EMR_EXTCREATEPEN,
+                  Bytes().U32(1).Zeros(16).U32(1).U32(2).U32(0).U32(0xFF).U32(0).U32(1).U32(5));
+  metafile.Record(EMR_CREATEDIBPATTERNBRUSHPT,
                   Bytes().U32(2).U32(0).U32(32).U32(40).U32(72).U32(4).BitmapHeader({}).Zeros(4));
 }
 
@@ -75,7 +81,7 @@ void AddBitmaps(Metafile& metafile) {
 void AddText(Metafile& metafile) {
   metafile.TextOut({10, 20}, u"Text", {5, 6, 7, 8}).TextOut({10, 20}, u"a\u0301\u05D0\u4E2D\u0634");
   metafile.TextOut({0, 0}, u"\xD83D\xDE00\xDC00\xD800 x", {1}).TextOutA({30, 40}, "ab\1c", {9, 9});
-  metafile.Record(70, Bytes().U32(4).U32(0x2B464D45));  // EMR_GDICOMMENT
+  metafile.Record(EMR_GDICOMMENT, Bytes().U32(4).U32(0x2B464D45));
 }
 
 }  // namespace

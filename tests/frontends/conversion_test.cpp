@@ -5,6 +5,7 @@
 #include <thread>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/files.h"
@@ -85,7 +86,8 @@ TEST(Conversion, WritesOneWholeDocumentWhenManyThreadsConvertTheSameFile) {
 }
 
 TEST(Conversion, ThrowsOneWhenThereIsNoHeader) {
-  EXPECT_THROW(ConvertToPdf({2, 0, 0, 0, 0}), int);
+  EXPECT_THAT([] { ConvertToPdf(Bytes().U32(EMR_POLYBEZIER).U8(0).Data()); },
+              testing::Throws<int>(1));
 }
 
 }  // namespace

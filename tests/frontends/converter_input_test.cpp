@@ -64,7 +64,8 @@ INSTANTIATE_TEST_SUITE_P(
                  [](Path path) { WriteFile(path, Metafile().Bounds(0, 5, 9, 5).Build()); }, ""},
         BadInput{"RecordPastTheEnd",
                  [](Path path) {
-                   WriteFile(path, Metafile().RecordOfSize(0x7777, 100).BuildWithoutEnd());
+                   constexpr std::uint32_t kUnknownType = 77;
+                   WriteFile(path, Metafile().RecordOfSize(kUnknownType, 100).BuildWithoutEnd());
                  },
                  ""}),
     [](const auto& row) { return row.param.name; });

@@ -98,13 +98,6 @@ TEST(KELVANE, ReadsTheLastPointWhenAByteFollows) {
   EXPECT_NE(Pdf(ConvertInMemory(metafile).output).Content().find("30 -40"), std::string::npos);
 }
 
-/// A metafile whose header, 108 bytes long, says that its description starts at `offset`.
-Block WithDescriptionAt(unsigned char offset) {
-  Block metafile = Lines();
-  metafile[64] = offset;
-  return metafile;
-}
-
 struct Garbage {
   const char* name;
   Block bytes;
@@ -121,11 +114,13 @@ TEST_P(KelvaneGarbage, FailsAndLeavesTheOutputAsItWas) {
 
 INSTANTIATE_TEST_SUITE_P(
     , KelvaneGarbage,
-    testing::Values(Garbage{"NoBytes", {}}, Garbage{"OneByte", {1}},
+    testing::Values(Garbage{"NoBytes", {}}, Garbage{"OneByte", {EMR_HEADER}},
                     Garbage{"ThreeZeros", Block(3)},
-                    Garbage{"AnotherFirstRecord", Bytes().U32(2).Zeros(200).Data()},
-                    Garbage{"HeaderLongerThanTheData", Bytes().U32(1).U32(5000).Zeros(200).Data()},
-                    Garbage{"DescriptionBehindItsHeader", WithDescriptionAt(109)},
+                    Garbage{"AnotherFirstRecord", Bytes().U32(EMR_POLYBEZIER).Zeros(200).Data()},
+                    Garbage{"HeaderLongerThanTheData",
+                            Bytes().U32(EMR_HEADER).U32(5000).Zeros(200).Data()},
+                    Garbage{"DescriptionBehindItsHeader",
+                            WithField(Lines(), kDescriptionOffsetAt, kHeaderSize + 1)},
                     Garbage{"TwoHundredBytesOfOnes", Block(200, 0xFF)}),
     [](const auto& row) { return row.param.name; });
 

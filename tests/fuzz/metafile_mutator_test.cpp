@@ -12,6 +12,8 @@
 namespace kelvane::fuzz {
 namespace {
 
+using enum test::EmrType;
+
 constexpr std::size_t kPlenty = 1 << 20;
 
 // Stands for the fuzzer's own changes to bytes.
@@ -38,10 +40,10 @@ std::vector<ByteVector> SampleFiles() {
 
 TEST(Frames, AreThoseOfTheRecords) {
   const Frames frames = TakeApart(Lines());
-  EXPECT_EQ(frames.header.size(), 108U);
+  EXPECT_EQ(frames.header.size(), test::kHeaderSize);
   ASSERT_EQ(frames.records.size(), 4U);
-  EXPECT_EQ(frames.records[1], test::Bytes().U32(27).U32(16).I32(5).I32(6).Data());
-  EXPECT_EQ(FieldAt(frames.records[3], 0), 14U);
+  EXPECT_EQ(frames.records[1], test::Bytes().U32(EMR_MOVETOEX).U32(16).I32(5).I32(6).Data());
+  EXPECT_EQ(FieldAt(frames.records[3], 0), EMR_EOF);
   EXPECT_TRUE(frames.rest.empty());
 }
 
@@ -62,7 +64,7 @@ TEST(Frames, MakeTheFileAgainWhereverItIsCut) {
 TEST(Frames, MakeTheFileAgainWhateverSizesARecordStates) {
   for (const std::uint32_t size : {0U, 4U, 7U, 9U, 1000U, 0x80000000U, 0xFFFFFFFFU}) {
     const ByteVector file =
-        test::Metafile().MoveTo(1, 2).RecordOfSize(54, size).MoveTo(3, 4).Build();
+        test::Metafile().MoveTo(1, 2).RecordOfSize(EMR_LINETO, size).MoveTo(3, 4).Build();
     EXPECT_EQ(PutTogether(TakeApart(file), kPlenty), file) << size;
   }
 }
@@ -71,8 +73,8 @@ TEST(Frames, AreLeftOutFromTheBackUntilTheFileFits) {
   const ByteVector file = Lines();
   const Frames kept = TakeApart(PutTogether(TakeApart(file), file.size() - 1));
   ASSERT_EQ(kept.records.size(), 3U);
-  EXPECT_EQ(FieldAt(kept.records[1], 0), 27U);  // the LineTo is gone, the end is not
-  EXPECT_EQ(FieldAt(kept.records[2], 0), 14U);
+  EXPECT_EQ(FieldAt(kept.records[1], 0), EMR_MOVETOEX);  // the LineTo is gone, the end is not
+  EXPECT_EQ(FieldAt(kept.records[2], 0), EMR_EOF);
 }
 
 TEST(IsFramed, IsTrueOfEverySample) {
@@ -81,8 +83,8 @@ TEST(IsFramed, IsTrueOfEverySample) {
 }
 
 TEST(IsFramed, IsFalseOfARecordThatMisstatesItsSize) {
-  EXPECT_FALSE(IsFramed(test::Metafile().RecordOfSize(54, 1000).Build()));
-  EXPECT_FALSE(IsFramed(test::Metafile().RecordOfSize(54, 4).Build()));
+  EXPECT_FALSE(IsFramed(test::Metafile().RecordOfSize(EMR_LINETO, 1000).Build()));
+  EXPECT_FALSE(IsFramed(test::Metafile().RecordOfSize(EMR_LINETO, 4).Build()));
 }
 
 TEST(IsFramed, IsFalseWithoutAnEnd) {
@@ -96,9 +98,12 @@ TEST(RecordLibrary, HoldsFramedRecordsOfEveryKindThatIsPlayedBack) {
     types.insert(FieldAt(record, 0));
   }
   // Records that change nothing, and those without a body that could be changed.
-  const std::set<std::uint32_t> leftOut = {13, 15, 18, 20, 21, 28, 48, 56, 92, 93, 98};
+  const std::set<std::uint32_t> leftOut = {
+      EMR_SETBRUSHORGEX,     EMR_SETPIXELV,       EMR_SETBKMODE,     EMR_SETROP2,
+      EMR_SETSTRETCHBLTMODE, EMR_SETMETARGN,      EMR_SELECTPALETTE, EMR_POLYDRAW,
+      EMR_POLYDRAW16,        EMR_CREATEMONOBRUSH, EMR_SETICMMODE};
   for (std::uint32_t type = 1; type < 130; ++type) {
-    if (type == 14) continue;  // the end
+    if (type == EMR_EOF) continue;
     test::ParsedMetafile parsed(test::Metafile().Record(type).Build());
     const bool isKnown = dynamic_cast<UnrecognizedRecord*>(&*parsed->records.at(0)) == nullptr;
     if (isKnown && !leftOut.contains(type)) {
@@ -163,11 +168,11 @@ TEST(MetafileMutator, CrossesInTheOtherFilesRecordsAndStaysFramed) {
   for (std::uint32_t seed = 0; seed < 100; ++seed) {
     const ByteVector child = Mutator(seed).Cross(Lines(), other, kPlenty);
     EXPECT_TRUE(IsFramed(child));
-    crossed +=
-        std::ranges::any_of(TakeApart(child).records,
-                            [](const ByteVector& record) { return FieldAt(record, 0) == 42; })
-            ? 1
-            : 0;
+    crossed += std::ranges::any_of(
+                   TakeApart(child).records,
+                   [](const ByteVector& record) { return FieldAt(record, 0) == EMR_ELLIPSE; })
+                   ? 1
+                   : 0;
   }
   EXPECT_GT(crossed, 50);
 }

@@ -3,8 +3,7 @@
 namespace kelvane::test {
 namespace {
 
-constexpr std::uint32_t kUnknownType = 77;
-constexpr std::size_t kHeaderSizeAt = 4;
+constexpr std::uint32_t kUnknownType = 77;  // playback skips it
 
 /// A line, a record that states the size, and another line.
 std::vector<unsigned char> BetweenLines(std::uint32_t type, std::uint32_t size, const Bytes& body) {
@@ -17,7 +16,7 @@ std::vector<unsigned char> BetweenLines(std::uint32_t type, std::uint32_t size, 
 std::vector<unsigned char> Overlapping(int records, std::uint32_t count) {
   Metafile metafile;
   for (int i = 0; i < records; ++i)
-    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(count));
+    metafile.RecordOfSize(EMR_POLYLINE16, 28, Bytes().Zeros(16).U32(count));
   return metafile.Build();
 }
 
@@ -39,9 +38,10 @@ std::vector<HostileFile> FilesThatLeadAstray() {
        kLineTrace},
       {"size_3_of_a_skipped_record", BetweenLines(kUnknownType, 3, Bytes().Zeros(8)), 0,
        kLineTrace},
-      {"size_0_of_a_drawn_record", BetweenLines(87, 0, line), 0, twice},
-      {"size_4_of_a_drawn_record", BetweenLines(87, 4, line), 0, twice},
-      {"size_that_wraps_to_the_file_before", BetweenLines(87, 0xFFFFFF9C, line), 0, twice},
+      {"size_0_of_a_drawn_record", BetweenLines(EMR_POLYLINE16, 0, line), 0, twice},
+      {"size_4_of_a_drawn_record", BetweenLines(EMR_POLYLINE16, 4, line), 0, twice},
+      {"size_that_wraps_to_the_file_before", BetweenLines(EMR_POLYLINE16, 0xFFFFFF9C, line), 0,
+       twice},
 
       // Records on top of each other.
       {"overlapping_without_end", Overlapping(8000, 0x10000000), -1},
@@ -49,14 +49,15 @@ std::vector<HostileFile> FilesThatLeadAstray() {
        [] {
          Metafile metafile;
          for (int i = 0; i < 100000; ++i)
-           metafile.RecordOfSize(82, 8);
+           metafile.RecordOfSize(EMR_EXTCREATEFONTINDIRECTW, 8);
          return metafile.Build();
        }(),
        -1},
 
       // Ends.
       {"header_size_past_the_end", WithField(Metafile().Build(), kHeaderSizeAt, 0x7FFFFFFF), -1},
-      {"header_size_at_the_end", WithField(Metafile().Build(), kHeaderSizeAt, 129), -1},
+      {"header_size_at_the_end", WithField(Metafile().Build(), kHeaderSizeAt, kHeaderSize + 21),
+       -1},
       {"header_size_negative", WithField(Metafile().Build(), kHeaderSizeAt, 0xFFFFFFF0), -1},
       {"skipped_record_past_the_end",
        CutShort(Metafile().Record(kUnknownType, Bytes().Zeros(60)).BuildWithoutEnd(), 20), -1},
@@ -68,25 +69,25 @@ std::vector<HostileFile> FilesThatLeadAstray() {
        [] {
          Metafile metafile;
          auto file = AddLine(metafile).BuildWithoutEnd();
-         file.insert(file.end(), {87, 0, 0, 0});
+         file.insert(file.end(), {EMR_POLYLINE16, 0, 0, 0});
          return file;
        }(),
        0, kLineTrace},
       {"records_behind_the_end",
        [] {
          Metafile metafile;
-         return AddLine(metafile.RecordOfSize(14, 20, Bytes().Zeros(12))).Build();
+         return AddLine(metafile.RecordOfSize(EMR_EOF, 20, Bytes().Zeros(12))).Build();
        }(),
        0, ""},
-      {"no_header", {2, 0, 0, 0, 8, 0, 0, 0}, -1},
-      {"header_alone", CutShort(Metafile().BuildWithoutEnd(), 0), 0, ""},
+      {"no_header", Bytes().U32(EMR_POLYBEZIER).U32(8).Data(), -1},
+      {"header_alone", Metafile().BuildWithoutEnd(), 0, ""},
       {"half_a_header", CutShort(Metafile().BuildWithoutEnd(), 60), -1},
 
       // Without its own fields, skipped by its size.
       {"poly_draw",
        [] {
          Metafile metafile;
-         return AddLine(metafile.Record(56, Bytes().U32(0xFFFFFFFF).Zeros(40))).Build();
+         return AddLine(metafile.Record(EMR_POLYDRAW, Bytes().U32(0xFFFFFFFF).Zeros(40))).Build();
        }(),
        0, kLineTrace},
   };

@@ -9,22 +9,15 @@ constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
-constexpr std::int32_t kAnisotropic = 8;
-constexpr std::int32_t kSet = 4;  // a mode of ModifyWorldTransform
 
 std::vector<unsigned char> ThenALine(Metafile& metafile) {
   return AddLine(metafile).Build();
 }
 
-Metafile WithFont() {
-  Metafile metafile;
-  return metafile.SetMapMode(2).SetTextAlign(kTextBaseline).CreateFont(1, {}).SelectObject(1);
-}
-
 /// The line, mapped from a window of one unit to a viewport.
 std::vector<unsigned char> ThroughAViewport(std::int32_t cx, std::int32_t cy) {
   Metafile metafile;
-  metafile.SetMapMode(kAnisotropic).SetWindowExt(1, 1).SetViewportExt(cx, cy);
+  metafile.SetMapMode(kMapAnisotropic).SetWindowExt(1, 1).SetViewportExt(cx, cy);
   return ThenALine(metafile);
 }
 
@@ -32,7 +25,7 @@ std::vector<unsigned char> ThroughAViewport(std::int32_t cx, std::int32_t cy) {
 /// transform that is not finite.
 std::vector<unsigned char> Under(const XForm& transform) {
   Metafile metafile;
-  metafile.SaveDC().ModifyWorldTransform(transform, kSet).Polyline({{5, 6}, {7, 8}});
+  metafile.SaveDC().ModifyWorldTransform(transform, kSetTransform).Polyline({{5, 6}, {7, 8}});
   return ThenALine(metafile.RestoreDC());
 }
 
@@ -47,7 +40,7 @@ std::vector<unsigned char> Nested(int depth, Metafile& (*open)(Metafile&)) {
 std::vector<unsigned char> NestedClips(int depth) {
   Metafile metafile;
   for (int i = 0; i < depth; ++i)
-    metafile.SaveDC().BeginPath().Rectangle({0, 0, 50, 50}).EndPath().SelectClipPath(1);
+    metafile.SaveDC().BeginPath().Rectangle({0, 0, 50, 50}).EndPath().SelectClipPath(kRegionAnd);
   return ThenALine(metafile);
 }
 
@@ -70,7 +63,7 @@ std::vector<HostileFile> FilesOfBadValues() {
        [] {
          Metafile metafile;
          return ThenALine(
-             metafile.SetMapMode(kAnisotropic).SetWindowExt(0, 0).SetViewportExt(5, 5));
+             metafile.SetMapMode(kMapAnisotropic).SetWindowExt(0, 0).SetViewportExt(5, 5));
        }(),
        0, kLineTrace},
       {"viewport_that_saturates", ThroughAViewport(kMost, kMost), 0,
@@ -80,15 +73,17 @@ std::vector<HostileFile> FilesOfBadValues() {
       {"scale_by_a_zero_denominator",
        [] {
          Metafile metafile;
-         metafile.SetMapMode(kAnisotropic).SetWindowExt(1, 1).SetViewportExt(2, 2);
-         return ThenALine(metafile.Record(31, Bytes().I32(5).I32(0).I32(7).I32(0)));
+         metafile.SetMapMode(kMapAnisotropic).SetWindowExt(1, 1).SetViewportExt(2, 2);
+         return ThenALine(
+             metafile.Record(EMR_SCALEVIEWPORTEXTEX, Bytes().I32(5).I32(0).I32(7).I32(0)));
        }(),
        0, "move 2 -4\nline 6 -8\nstroke\n"},
       {"scale_that_saturates",
        [] {
          Metafile metafile;
-         metafile.SetMapMode(kAnisotropic).SetWindowExt(1, 1).SetViewportExt(2, 1);
-         return ThenALine(metafile.Record(31, Bytes().I32(kMost).I32(1).I32(1).I32(1)));
+         metafile.SetMapMode(kMapAnisotropic).SetWindowExt(1, 1).SetViewportExt(2, 1);
+         return ThenALine(
+             metafile.Record(EMR_SCALEVIEWPORTEXTEX, Bytes().I32(kMost).I32(1).I32(1).I32(1)));
        }(),
        0, "move 2147483648 -2\nline 2147483648 -4\nstroke\n"},
       {"page_without_area", Metafile().Bounds(0, 5, 9, 5).Build(), -1},
@@ -109,7 +104,7 @@ std::vector<HostileFile> FilesOfBadValues() {
       {"miter_limit_of_the_bits_of_nan",
        [] {
          Metafile metafile;
-         return ThenALine(metafile.Record(58, Bytes().F32(kNaN)));
+         return ThenALine(metafile.Record(EMR_SETMITERLIMIT, Bytes().F32(kNaN)));
        }(),
        0, std::string("miter-limit 2143289344\n") + kLineTrace},
       {"text_at_an_angle_that_saturates",
@@ -162,7 +157,7 @@ std::vector<HostileFile> FilesOfBadValues() {
       {"path_ended_without_a_beginning",
        [] {
          Metafile metafile;
-         return ThenALine(metafile.EndPath().CloseFigure().FillPath().SelectClipPath(1));
+         return ThenALine(metafile.EndPath().CloseFigure().FillPath().SelectClipPath(kRegionAnd));
        }(),
        0, kLineTrace},
   };

@@ -1,7 +1,5 @@
 #include "hostile/hostile_files.h"
 
-#include <algorithm>
-
 namespace kelvane::test {
 
 std::vector<HostileFile> HostileFiles() {
@@ -11,12 +9,6 @@ std::vector<HostileFile> HostileFiles() {
     all.insert(all.end(), group.begin(), group.end());
   }
   return all;
-}
-
-std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
-                                     std::uint32_t value) {
-  std::ranges::copy(Bytes().U32(value).Data(), file.begin() + static_cast<std::ptrdiff_t>(offset));
-  return file;
 }
 
 }  // namespace kelvane::test

@@ -11,7 +11,7 @@ namespace kelvane::test {
 struct HostileFile {
   std::string name;
   std::vector<unsigned char> bytes;
-  int status = 0;                          // of the conversion
+  int status = 0;                          // that the conversion ends with
   std::string trace = {};                  // what is drawn, when the status is 0
   std::vector<unsigned char> pixels = {};  // of the one image, where that is the point
 };
@@ -30,8 +30,13 @@ inline Metafile& AddLine(Metafile& metafile) {
   return metafile.Polyline({{1, 2}, {3, 4}});
 }
 
-/// @return the file with a field of four bytes replaced.
-std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
-                                     std::uint32_t value);
+/// A beginning after which text is drawn at its reference point, on the baseline.
+inline Metafile WithFont() {
+  Metafile metafile;
+  return metafile.SetMapMode(kMapMetric)
+      .SetTextAlign(kTextBaseline)
+      .CreateFont(1, {})
+      .SelectObject(1);
+}
 
 }  // namespace kelvane::test

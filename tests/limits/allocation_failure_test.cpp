@@ -23,7 +23,7 @@ using Names = std::vector<std::string>;
 Metafile Picture() {
   Metafile metafile;
   metafile.CreatePen(1, 3, Rgb(255, 0, 0)).SelectObject(1).Polygon({{1, 2}, {30, 4}, {5, 60}});
-  metafile.SaveDC().BeginPath().Ellipse({5, 5, 50, 60}).EndPath().SelectClipPath(1);
+  metafile.SaveDC().BeginPath().Ellipse({5, 5, 50, 60}).EndPath().SelectClipPath(kRegionAnd);
   metafile.StretchDibits({0, 0, 50, 50}, Bytes().BitmapHeader({.width = 2, .height = 2}).Zeros(16));
   return metafile.RestoreDC();
 }

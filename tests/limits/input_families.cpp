@@ -53,8 +53,9 @@ File Attributes(std::size_t size) {
 }
 
 File Comments(std::size_t size) {
-  return Repeated(size, 12,
-                  [](Metafile& metafile, std::size_t) { metafile.Record(70, Bytes().U32(0)); });
+  return Repeated(size, 12, [](Metafile& metafile, std::size_t) {
+    metafile.Record(EMR_GDICOMMENT, Bytes().U32(0));
+  });
 }
 
 File Lines(std::size_t size) {
@@ -78,7 +79,8 @@ File Pens(std::size_t size) {
 
 File UnevenStrokes(std::size_t size) {
   return Repeated(size, 36 + 36, [](Metafile& metafile, std::size_t i) {
-    metafile.ModifyWorldTransform({1, 0.25F, 0, 1.5F, 0, static_cast<float>(i % 64)}, 4);
+    metafile.ModifyWorldTransform({1, 0.25F, 0, 1.5F, 0, static_cast<float>(i % 64)},
+                                  kSetTransform);
     metafile.Polyline({{Scattered(i), 1}, {3, Scattered(i + 1)}});
   });
 }
@@ -87,7 +89,7 @@ File UnevenStrokes(std::size_t size) {
 File NestedClips(std::size_t size) {
   return Repeated(size, 8 + 8 + 24 + 8 + 12 + 24, [](Metafile& metafile, std::size_t i) {
     metafile.SaveDC().BeginPath().Rectangle({0, 0, 1000, Scattered(i)}).EndPath();
-    metafile.SelectClipPath(1).Rectangle({1, 2, 3, 4});
+    metafile.SelectClipPath(kRegionAnd).Rectangle({1, 2, 3, 4});
   });
 }
 
@@ -236,14 +238,14 @@ File TruncatedBitmaps(std::size_t size) {
 
 File OverlappingPoints(std::size_t size) {
   return Repeated(size, 28, [](Metafile& metafile, std::size_t) {
-    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(0x10000000));
+    metafile.RecordOfSize(EMR_POLYLINE16, 28, Bytes().Zeros(16).U32(0x10000000));
   });
 }
 
 // As much as one parse may read, in points of four bytes.
 File BarelyOverlappingPoints(std::size_t size) {
   return Repeated(size, 28, [](Metafile& metafile, std::size_t) {
-    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(44));
+    metafile.RecordOfSize(EMR_POLYLINE16, 28, Bytes().Zeros(16).U32(44));
   });
 }
 
@@ -260,7 +262,7 @@ File OverlappingSmallBitmaps(std::size_t size) {
   constexpr std::uint32_t kDepth = 24 << 16 | 1;
   return Repeated(size, 36, [](Metafile& metafile, std::size_t i) {
     const Bytes words = Bytes().U32(40).U32(8).U32(1).U32(kDepth).U32(0).U32(Number(i)).U32(0);
-    metafile.RecordOfSize(81, 36, words);
+    metafile.RecordOfSize(EMR_STRETCHDIBITS, 36, words);
   });
 }
 
@@ -297,9 +299,9 @@ const std::vector<InputFamily>& InputFamilies() {
       {"truncated_bitmaps", false, TruncatedBitmaps},
       {"overlapping_points", false, OverlappingPoints},
       {"barely_overlapping_points", false, BarelyOverlappingPoints},
-      {"overlapping_texts", false, Overlapping<84>},
-      {"overlapping_fonts", false, Overlapping<82>},
-      {"overlapping_bitmaps", false, Overlapping<81>},
+      {"overlapping_texts", false, Overlapping<EMR_EXTTEXTOUTW>},
+      {"overlapping_fonts", false, Overlapping<EMR_EXTCREATEFONTINDIRECTW>},
+      {"overlapping_bitmaps", false, Overlapping<EMR_STRETCHDIBITS>},
       {"overlapping_small_bitmaps", false, OverlappingSmallBitmaps},
   };
   return kFamilies;

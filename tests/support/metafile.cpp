@@ -1,12 +1,12 @@
 #include "support/metafile.h"
 
-#include "classic/document/record_type.h"
+#include <algorithm>
+
 #include "classic/reader/integer_arithmetic.h"
 
 namespace kelvane::test {
 namespace {
 
-constexpr std::uint32_t kHeaderSize = 108;
 constexpr std::uint32_t kEndSize = 20;
 
 // The device: an edge in pixels is this much in units of 0.01 mm.
@@ -15,10 +15,6 @@ constexpr SIZEL kDeviceMillimeters = {320, 240};
 
 std::int32_t HundredthsOfMillimeters(std::int32_t pixels) {
   return Truncate(100.0 * pixels * kDeviceMillimeters.cx / kDevicePixels.cx);
-}
-
-std::uint32_t Number(RecordType type) {
-  return static_cast<std::uint32_t>(type);
 }
 
 void AppendPoints(Bytes& body, const Points& points, bool wide) {
@@ -44,78 +40,73 @@ Metafile& Metafile::Bounds(std::int32_t left, std::int32_t top, std::int32_t rig
 }
 
 Metafile& Metafile::Polyline(const Points& points, bool wide) {
-  return Poly(Number(RecordType::EMR_POLYLINE), Number(RecordType::EMR_POLYLINE16), points, wide);
+  return Poly(EMR_POLYLINE, EMR_POLYLINE16, points, wide);
 }
 
 Metafile& Metafile::Polygon(const Points& points, bool wide) {
-  return Poly(Number(RecordType::EMR_POLYGON), Number(RecordType::EMR_POLYGON16), points, wide);
+  return Poly(EMR_POLYGON, EMR_POLYGON16, points, wide);
 }
 
 Metafile& Metafile::Polybezier(const Points& points, bool wide) {
-  return Poly(Number(RecordType::EMR_POLYBEZIER), Number(RecordType::EMR_POLYBEZIER16), points,
-              wide);
+  return Poly(EMR_POLYBEZIER, EMR_POLYBEZIER16, points, wide);
 }
 
 Metafile& Metafile::PolylineTo(const Points& points, bool wide) {
-  return Poly(Number(RecordType::EMR_POLYLINETO), Number(RecordType::EMR_POLYLINETO16), points,
-              wide);
+  return Poly(EMR_POLYLINETO, EMR_POLYLINETO16, points, wide);
 }
 
 Metafile& Metafile::PolybezierTo(const Points& points, bool wide) {
-  return Poly(Number(RecordType::EMR_POLYBEZIERTO), Number(RecordType::EMR_POLYBEZIERTO16), points,
-              wide);
+  return Poly(EMR_POLYBEZIERTO, EMR_POLYBEZIERTO16, points, wide);
 }
 
 Metafile& Metafile::PolyPolyline(const std::vector<Points>& figures, bool wide) {
-  return PolyPoly(Number(RecordType::EMR_POLYPOLYLINE), Number(RecordType::EMR_POLYPOLYLINE16),
-                  figures, wide);
+  return PolyPoly(EMR_POLYPOLYLINE, EMR_POLYPOLYLINE16, figures, wide);
 }
 
 Metafile& Metafile::PolyPolygon(const std::vector<Points>& figures, bool wide) {
-  return PolyPoly(Number(RecordType::EMR_POLYPOLYGON), Number(RecordType::EMR_POLYPOLYGON16),
-                  figures, wide);
+  return PolyPoly(EMR_POLYPOLYGON, EMR_POLYPOLYGON16, figures, wide);
 }
 
 Metafile& Metafile::MoveTo(std::int32_t x, std::int32_t y) {
-  return Record(Number(RecordType::EMR_MOVETOEX), Bytes().PointL(x, y));
+  return Record(EMR_MOVETOEX, Bytes().PointL(x, y));
 }
 
 Metafile& Metafile::LineTo(std::int32_t x, std::int32_t y) {
-  return Record(Number(RecordType::EMR_LINETO), Bytes().PointL(x, y));
+  return Record(EMR_LINETO, Bytes().PointL(x, y));
 }
 
 Metafile& Metafile::Rectangle(const RectangleL& box) {
-  return Record(Number(RecordType::EMR_RECTANGLE), Box(box));
+  return Record(EMR_RECTANGLE, Box(box));
 }
 
 Metafile& Metafile::RoundRectangle(const RectangleL& box, std::int32_t cornerWidth,
                                    std::int32_t cornerHeight) {
-  return Record(Number(RecordType::EMR_ROUNDRECT), Box(box).PointL(cornerWidth, cornerHeight));
+  return Record(EMR_ROUNDRECT, Box(box).PointL(cornerWidth, cornerHeight));
 }
 
 Metafile& Metafile::Ellipse(const RectangleL& box) {
-  return Record(Number(RecordType::EMR_ELLIPSE), Box(box));
+  return Record(EMR_ELLIPSE, Box(box));
 }
 
 Metafile& Metafile::Arc(const RectangleL& box, At start, At end) {
-  return ArcLike(Number(RecordType::EMR_ARC), box, start, end);
+  return ArcLike(EMR_ARC, box, start, end);
 }
 
 Metafile& Metafile::ArcTo(const RectangleL& box, At start, At end) {
-  return ArcLike(Number(RecordType::EMR_ARCTO), box, start, end);
+  return ArcLike(EMR_ARCTO, box, start, end);
 }
 
 Metafile& Metafile::Chord(const RectangleL& box, At start, At end) {
-  return ArcLike(Number(RecordType::EMR_CHORD), box, start, end);
+  return ArcLike(EMR_CHORD, box, start, end);
 }
 
 Metafile& Metafile::Pie(const RectangleL& box, At start, At end) {
-  return ArcLike(Number(RecordType::EMR_PIE), box, start, end);
+  return ArcLike(EMR_PIE, box, start, end);
 }
 
 Metafile& Metafile::AngleArc(At centre, std::uint32_t radius, float startDegrees,
                              float sweepDegrees) {
-  return Record(Number(RecordType::EMR_ANGLEARC),
+  return Record(EMR_ANGLEARC,
                 Bytes().PointL(centre.x, centre.y).U32(radius).F32(startDegrees).F32(sweepDegrees));
 }
 
@@ -128,7 +119,7 @@ Metafile& Metafile::BitBlt(At origin, At size, std::uint32_t rop, const Bytes& b
   body.PointL(0, 0).F32(1).F32(0).F32(0).F32(1).F32(0).F32(0).U32(0).U32(0);
   body.U32(kFixedSize).U32(headerSize).U32(kFixedSize + headerSize);
   body.U32(static_cast<std::uint32_t>(bits.Size())).Append(header.Data()).Append(bits.Data());
-  return Record(Number(RecordType::EMR_BITBLT), body);
+  return Record(EMR_BITBLT, body);
 }
 
 Metafile& Metafile::StretchDibits(const RectangleL& bounds, const Bytes& bitmap, std::uint32_t rop,
@@ -139,7 +130,7 @@ Metafile& Metafile::StretchDibits(const RectangleL& bounds, const Bytes& bitmap,
   body.PointL(1000, 2000).PointL(1, 2).PointL(3, 4);
   body.U32(kFixedSize).U32(40).U32(kFixedSize + 40).U32(bitmapSize - 40).U32(0);
   body.U32(rop).PointL(7, cyDest).Append(bitmap.Data());
-  return Record(Number(RecordType::EMR_STRETCHDIBITS), body);
+  return Record(EMR_STRETCHDIBITS, body);
 }
 
 Metafile& Metafile::Record(std::uint32_t type, const Bytes& body) {
@@ -158,7 +149,7 @@ Metafile& Metafile::RecordOfSize(std::uint32_t type, std::uint32_t declaredSize,
 std::vector<unsigned char> Metafile::Build() const {
   Bytes file;
   file.Append(BuildWithoutEnd());
-  file.U32(Number(RecordType::EMR_EOF)).U32(kEndSize).U32(0).U32(16).U32(kEndSize);
+  file.U32(EMR_EOF).U32(kEndSize).U32(0).U32(16).U32(kEndSize);
   return file.Data();
 }
 
@@ -167,7 +158,7 @@ std::vector<unsigned char> Metafile::BuildWithoutEnd() const {
   constexpr std::uint32_t kVersion = 0x00010000;
   const auto size = static_cast<std::uint32_t>(kHeaderSize + records_.Size() + kEndSize);
   Bytes file;
-  file.U32(Number(RecordType::EMR_HEADER)).U32(kHeaderSize);
+  file.U32(EMR_HEADER).U32(kHeaderSize);
   file.Append(Box(bounds_).Data());
   for (const std::int32_t edge : {bounds_.left, bounds_.top, bounds_.right, bounds_.bottom}) {
     file.I32(HundredthsOfMillimeters(edge));
@@ -206,6 +197,12 @@ Metafile& Metafile::PolyPoly(std::uint32_t type, std::uint32_t type16,
 
 Metafile& Metafile::ArcLike(std::uint32_t type, const RectangleL& box, At start, At end) {
   return Record(type, Box(box).PointL(start.x, start.y).PointL(end.x, end.y));
+}
+
+std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
+                                     std::uint32_t value) {
+  std::ranges::copy(Bytes().U32(value).Data(), file.begin() + static_cast<std::ptrdiff_t>(offset));
+  return file;
 }
 
 }  // namespace kelvane::test

@@ -7,6 +7,7 @@
 
 #include "classic/reader/geometry_types.h"
 #include "support/bytes.h"
+#include "support/record_types.h"
 
 namespace kelvane::test {
 
@@ -33,6 +34,28 @@ inline constexpr std::uint32_t kStockNullPen = 0x80000008;
 /// Ternary raster operations.
 inline constexpr std::uint32_t kSrcCopy = 0x00CC0020;
 inline constexpr std::uint32_t kPatCopy = 0x00F00021;
+
+/// Modes and directions, as records store them.
+inline constexpr std::int32_t kMapMetric = 2;  // MM_LOMETRIC
+inline constexpr std::int32_t kMapAnisotropic = 8;
+inline constexpr std::int32_t kMultiplyLeft = 2;  // ModifyWorldTransform
+inline constexpr std::int32_t kSetTransform = 4;
+inline constexpr std::int32_t kArcCounterClockwise = 1;
+inline constexpr std::int32_t kArcClockwise = 2;
+inline constexpr std::uint32_t kRegionAnd = 1;  // SelectClipPath
+inline constexpr std::uint32_t kRegionCopy = 5;
+
+/// The header of the files below, and where some of its fields stand, in bytes from its start.
+inline constexpr std::uint32_t kHeaderSize = 108;
+inline constexpr std::size_t kHeaderSizeAt = 4;
+inline constexpr std::size_t kFileSizeAt = 48;
+inline constexpr std::size_t kRecordCountAt = 52;
+inline constexpr std::size_t kDescriptionLengthAt = 60;
+inline constexpr std::size_t kDescriptionOffsetAt = 64;
+inline constexpr std::size_t kPaletteLengthAt = 68;
+
+/// Where the string of a text record stands, in bytes from the record's start.
+inline constexpr std::uint32_t kTextAt = 76;
 
 /// What a font is created with; everything else is 0.
 struct FontAttributes {
@@ -102,11 +125,12 @@ class Metafile {
   Metafile& StrokeAndFillPath();
   Metafile& SelectClipPath(std::uint32_t mode);
 
-  /// A solid pen, `width` in logical units, or a solid brush. Table indexes start at 1.
+  /// A solid pen, `width` in logical units, and a solid brush. Table indexes start at 1.
   Metafile& CreatePen(std::uint32_t index, std::int32_t width, std::uint32_t color);
   Metafile& CreateBrush(std::uint32_t index, std::uint32_t color);
   Metafile& SelectObject(std::uint32_t index);
   Metafile& DeleteObject(std::uint32_t index);
+
   /// A rectangle painted with the brush, or with a source bitmap's bits: a 24-bit header and what
   /// `bits` holds.
   Metafile& BitBlt(At origin, At size, std::uint32_t rop = kPatCopy, const Bytes& bits = {});
@@ -136,7 +160,7 @@ class Metafile {
   /// Any record with a size field of its own, whatever the body holds.
   Metafile& RecordOfSize(std::uint32_t type, std::uint32_t declaredSize, const Bytes& body = {});
 
-  /// The file: a header of 108 bytes, the records, EMR_EOF.
+  /// The file: the header, the records, EMR_EOF.
   [[nodiscard]] std::vector<unsigned char> Build() const;
 
   /// The same without the EMR_EOF.
@@ -154,5 +178,9 @@ class Metafile {
   std::uint32_t recordCount_ = 0;
   std::uint32_t handleCount_ = 1;  // object table entries, the reserved one included
 };
+
+/// @return the file with a field of four bytes replaced.
+std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
+                                     std::uint32_t value);
 
 }  // namespace kelvane::test

@@ -3,17 +3,6 @@
 namespace kelvane::test {
 namespace {
 
-// Not taken from the library, so that a wrong number there is noticed ([MS-EMF] 2.1.1).
-constexpr std::uint32_t kSetBkMode = 18;
-constexpr std::uint32_t kSetTextAlign = 22;
-constexpr std::uint32_t kSetTextColor = 24;
-constexpr std::uint32_t kSetBkColor = 25;
-constexpr std::uint32_t kExtCreateFontIndirectW = 82;
-constexpr std::uint32_t kExtTextOutA = 83;
-constexpr std::uint32_t kExtTextOutW = 84;
-
-constexpr std::size_t kTextAt = 76;  // from the record's start
-
 /// The record's fields up to the string, which stands behind them.
 Bytes TextHead(At reference, std::size_t count, std::size_t stringSize, bool hasSpacing,
                const RectangleL& bounds) {
@@ -28,7 +17,7 @@ Bytes TextHead(At reference, std::size_t count, std::size_t stringSize, bool has
       .U32(kTextAt)
       .U32(0)
       .Rectangle(0, 0, -1, -1)
-      .U32(hasSpacing ? static_cast<std::uint32_t>(kTextAt + stringSize) : 0);
+      .U32(hasSpacing ? kTextAt + static_cast<std::uint32_t>(stringSize) : 0);
 }
 
 void AppendSpacing(Bytes& body, const std::vector<std::uint32_t>& spacing) {
@@ -45,23 +34,23 @@ Metafile& Metafile::CreateFont(std::uint32_t index, const FontAttributes& font) 
   body.I32(font.height).I32(font.width).I32(font.escapement).I32(0).I32(400);
   body.U8(font.italic).Zeros(7).Utf16(font.face);
   body.Zeros(2 * (kFaceNameUnits - font.face.size()) + kRest);
-  return CreateObject(kExtCreateFontIndirectW, index, body);
+  return CreateObject(EMR_EXTCREATEFONTINDIRECTW, index, body);
 }
 
 Metafile& Metafile::SetTextAlign(std::uint32_t align) {
-  return Record(kSetTextAlign, Bytes().U32(align));
+  return Record(EMR_SETTEXTALIGN, Bytes().U32(align));
 }
 
 Metafile& Metafile::SetTextColor(std::uint32_t color) {
-  return Record(kSetTextColor, Bytes().U32(color));
+  return Record(EMR_SETTEXTCOLOR, Bytes().U32(color));
 }
 
 Metafile& Metafile::SetBkColor(std::uint32_t color) {
-  return Record(kSetBkColor, Bytes().U32(color));
+  return Record(EMR_SETBKCOLOR, Bytes().U32(color));
 }
 
 Metafile& Metafile::SetBkMode(std::int32_t mode) {
-  return Record(kSetBkMode, Bytes().I32(mode));
+  return Record(EMR_SETBKMODE, Bytes().I32(mode));
 }
 
 Metafile& Metafile::TextOut(At reference, std::u16string_view text,
@@ -71,7 +60,7 @@ Metafile& Metafile::TextOut(At reference, std::u16string_view text,
       TextHead(reference, text.size(), 2 * text.size() + padding, !spacing.empty(), bounds);
   body.Utf16(text).Zeros(padding);
   AppendSpacing(body, spacing);
-  return Record(kExtTextOutW, body);
+  return Record(EMR_EXTTEXTOUTW, body);
 }
 
 Metafile& Metafile::TextOutA(At reference, std::string_view text,
@@ -83,7 +72,7 @@ Metafile& Metafile::TextOutA(At reference, std::string_view text,
     body.U8(static_cast<unsigned char>(unit));
   body.Zeros(padding);
   AppendSpacing(body, spacing);
-  return Record(kExtTextOutA, body);
+  return Record(EMR_EXTTEXTOUTA, body);
 }
 
 }  // namespace kelvane::test

@@ -73,7 +73,7 @@ class RandomMetafile {
         break;
       case 11:
       case 12:
-        metafile.SelectClipPath(Number(0, 2) > 0 ? 1 : 5);
+        metafile.SelectClipPath(Number(0, 2) > 0 ? test::kRegionAnd : test::kRegionCopy);
         break;
       case 13:
         AddPen(metafile, Index());

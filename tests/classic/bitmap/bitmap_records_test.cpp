@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "classic/document/record_factory.h"
 #include "support/bytes.h"
 #include "support/metafile.h"
 #include "support/playback.h"
@@ -28,8 +27,6 @@ constexpr std::uint32_t kBlackness = 0x00000042;
 constexpr std::uint32_t kLeaveDestination = 0x00AA0029;
 constexpr std::uint32_t kPatInvert = 0x005A0049;
 constexpr std::uint32_t kSrcInvert = 0x00660046;
-constexpr std::uint32_t kComment = 70;
-constexpr std::uint32_t kStretchDibits = 81;
 constexpr RectangleL kBox = {10, 20, 30, 60};
 const Bytes kPixel = Bytes().BitmapHeader({}).Each({3, 2, 1, 0});
 const std::string kPixelInBox = "image 1 1 rgb under 20 0 0 40 10 -60\n";
@@ -202,7 +199,7 @@ TEST(StretchDibitsRecord, HasNoPixelsOnceOthersTookTheSameBytesTooOften) {
                               .StretchDibits(kBox, onlyAHeader)
                               .StretchDibits(kBox, onlyAHeader)
                               .StretchDibits(kBox, onlyAHeader)
-                              .Record(kComment, Bytes().Zeros(kMegabyte));
+                              .Record(test::EMR_GDICOMMENT, Bytes().Zeros(kMegabyte));
   // A megabyte taken from behind counts as eight, and the budget is 16 and 8 times the metafile's.
   const std::string image = "image 512 512 rgb under 20 0 0 40 10 -60\n";
   EXPECT_EQ(Trace(shared), image + image);
@@ -210,15 +207,11 @@ TEST(StretchDibitsRecord, HasNoPixelsOnceOthersTookTheSameBytesTooOften) {
 
 TEST(StretchDibitsRecord, OfASizeBeyondTheDataEndsTheParse) {
   const Bytes body = Bytes().Rectangle(10, 20, 30, 60).Zeros(56).Append(kPixel.Data());
-  ParsedMetafile parsed(
-      Metafile().RecordOfSize(kStretchDibits, 0x10000, body).LineTo(1, 2).BuildWithoutEnd());
+  ParsedMetafile parsed(Metafile()
+                            .RecordOfSize(test::EMR_STRETCHDIBITS, 0x10000, body)
+                            .LineTo(1, 2)
+                            .BuildWithoutEnd());
   EXPECT_THAT(parsed->records, SizeIs(1));
-}
-
-TEST(BitmapRecords, AreMadeByTheFactory) {
-  RecordArena arena;
-  EXPECT_NE(dynamic_cast<BitBltRecord*>(MakeRecord(76, arena).get()), nullptr);
-  EXPECT_NE(dynamic_cast<StretchDibitsRecord*>(MakeRecord(kStretchDibits, arena).get()), nullptr);
 }
 
 }  // namespace

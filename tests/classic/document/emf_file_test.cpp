@@ -16,29 +16,21 @@ namespace {
 using test::Bytes;
 using test::ConvertToPdf;
 using test::FullTrace;
+using test::kHeaderSize;
+using test::kHeaderSizeAt;
 using test::Metafile;
 using test::ParsedMetafile;
 using test::Pdf;
 using test::Trace;
+using test::WithField;
+using enum test::EmrType;
 
-constexpr std::uint32_t kUnknownType = 77;
+constexpr std::uint32_t kUnknownType = 77;  // playback skips it
 constexpr const char* kLine = "move 1 -2\nline 3 -4\nstroke\n";
 
 Metafile& AddLine(Metafile& metafile) {
   return metafile.Polyline({{1, 2}, {3, 4}});
 }
-
-/// Sets a field of the header at its offset.
-std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
-                                     std::uint32_t value) {
-  for (std::size_t i = 0; i < 4; ++i) {
-    file[offset + i] = static_cast<unsigned char>(value >> (8 * i));
-  }
-  return file;
-}
-
-constexpr std::size_t kHeaderSizeOffset = 4;
-constexpr std::int32_t kMultiply = 2;
 
 TEST(EMFFile, WithoutRecordsIsOneBlankPage) {
   EXPECT_TRUE(ParsedMetafile(Metafile().Build())->records.empty());
@@ -64,7 +56,7 @@ TEST(EMFFile, MakesTheSamePageFromReversedBounds) {
 
 TEST(EMFFile, KeepsARecordForEachOfTheFile) {
   Metafile metafile;
-  AddLine(metafile).Record(kUnknownType).Record(28).Record(1);
+  AddLine(metafile).Record(kUnknownType).Record(EMR_SETMETARGN).Record(EMR_HEADER);
   EXPECT_EQ(ParsedMetafile(metafile.Build())->records.size(), 4U);
 }
 
@@ -78,14 +70,14 @@ TEST(EMFFile, SkipsWhatItDoesNotKnow) {
 
 TEST(EMFFile, RealignsOnADeclaredSizeThatExceedsTheFields) {
   Metafile metafile;
-  metafile.Record(18, Bytes().U32(2).U32(0xFFFFFFFF));  // EMR_SETBKMODE and four bytes more
+  metafile.Record(EMR_SETBKMODE, Bytes().U32(test::kOpaque).U32(0xFFFFFFFF));  // four bytes more
   EXPECT_EQ(Trace(AddLine(metafile)), kLine);
 }
 
 TEST(EMFFile, RealignsOnARecordThatReadsPastItsEnd) {
   Metafile metafile;
   // A polyline of one stored point that claims three: the points run into the record after it.
-  metafile.Record(87, Bytes().Zeros(16).U32(3).Point(7, 7));
+  metafile.Record(EMR_POLYLINE16, Bytes().Zeros(16).U32(3).Point(7, 7));
   ParsedMetafile parsed(AddLine(metafile).Build());
   EXPECT_EQ(parsed->records.size(), 2U);
   EXPECT_THAT(Trace(metafile), testing::EndsWith(kLine));
@@ -94,7 +86,7 @@ TEST(EMFFile, RealignsOnARecordThatReadsPastItsEnd) {
 TEST(EMFFile, IgnoresWhatFollowsItsEnd) {
   auto file = Metafile().Build();
   const auto more = AddLine(*std::make_unique<Metafile>()).Build();
-  file.insert(file.end(), more.begin() + 108, more.end());
+  file.insert(file.end(), more.begin() + kHeaderSize, more.end());
   EXPECT_TRUE(ParsedMetafile(file)->records.empty());
 }
 
@@ -106,7 +98,7 @@ TEST(EMFFile, WithoutEndEndsWithTheData) {
 TEST(EMFFile, DiscardsATypeAtTheVeryEnd) {
   Metafile metafile;
   auto file = AddLine(metafile).BuildWithoutEnd();
-  file.insert(file.end(), {87, 0, 0, 0});
+  file.insert(file.end(), {EMR_POLYLINE16, 0, 0, 0});
   EXPECT_EQ(ParsedMetafile(file)->records.size(), 1U);
 }
 
@@ -114,14 +106,15 @@ TEST(EMFFile, StartsWhereTheHeaderSaysItEnds) {
   Metafile metafile;
   metafile.Record(kUnknownType, Bytes().U32(1));
   AddLine(metafile);
-  EXPECT_EQ(ParsedMetafile(WithField(metafile.Build(), kHeaderSizeOffset, 120))->records.size(),
-            1U);
+  const std::uint32_t behindTheRecord = kHeaderSize + 8 + 4;
+  const auto file = WithField(metafile.Build(), kHeaderSizeAt, behindTheRecord);
+  EXPECT_EQ(ParsedMetafile(file)->records.size(), 1U);
 }
 
 TEST(EMFFile, StartsInsideAHeaderThatSaysSo) {
   // At 80 of the header stand the millimetres 320 and 240: an unknown type of 240 bytes, larger
   // than the block, so the reader stays behind its size field and finds zeros, which lead nowhere.
-  const auto file = WithField(Metafile().Build(), kHeaderSizeOffset, 80);
+  const auto file = WithField(Metafile().Build(), kHeaderSizeAt, 80);
   ParsedMetafile metafile(file);
   ASSERT_EQ(metafile->records.size(), 2U);
   EXPECT_EQ(dynamic_cast<UnrecognizedRecord&>(*metafile->records[0]).type, 320U);
@@ -129,7 +122,7 @@ TEST(EMFFile, StartsInsideAHeaderThatSaysSo) {
 
 TEST(EMFFile, StrokesThePathThatIsPendingAtTheEnd) {
   Metafile metafile;
-  metafile.MoveTo(1, 2).Record(59).LineTo(3, 4).LineTo(5, 6);  // an open path bracket
+  metafile.MoveTo(1, 2).BeginPath().LineTo(3, 4).LineTo(5, 6);  // an open path bracket
   EXPECT_EQ(Trace(metafile), "move 3 -4\nline 5 -6\nstroke\n");
 }
 
@@ -149,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(DeclaredSizes, NonAdvancingRecord, testing::Values(0, 1
 TEST(EMFFile, ThatLeadsPastItsEndIsAbandoned) {
   const auto size = static_cast<std::uint32_t>(Metafile().Build().size());
   for (const std::uint32_t start : {size + 1, size + 1000, 0x80000000U, 0xFFFFFFF0U}) {
-    EXPECT_THROW(ParsedMetafile(WithField(Metafile().Build(), kHeaderSizeOffset, start)),
+    EXPECT_THROW(ParsedMetafile(WithField(Metafile().Build(), kHeaderSizeAt, start)),
                  std::runtime_error)
         << start;
   }
@@ -168,14 +161,14 @@ TEST(EMFFile, WhoseRecordsOverlapIsAbandoned) {
   // would take quadratic time.
   Metafile metafile;
   for (int i = 0; i < 8000; ++i) {
-    metafile.RecordOfSize(87, 28, Bytes().Zeros(16).U32(0x10000000));
+    metafile.RecordOfSize(EMR_POLYLINE16, 28, Bytes().Zeros(16).U32(0x10000000));
   }
   EXPECT_THROW(ParsedMetafile(metafile.Build()), std::runtime_error);
 }
 
 TEST(EMFFile, GoesBackToTheStartOfThePageOnARestoreWithoutASave) {
   const auto doubled = [](Metafile& metafile) {
-    metafile.ModifyWorldTransform({2, 0, 0, 2, 0, 0}, kMultiply);
+    metafile.ModifyWorldTransform({2, 0, 0, 2, 0, 0}, test::kMultiplyLeft);
   };
   Metafile restored;
   doubled(restored);

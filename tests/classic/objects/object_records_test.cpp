@@ -19,6 +19,7 @@ constexpr CGColor kFullRed = {0.99609375F, 0, 0, 1};
 constexpr CGColor kBlack = {0, 0, 0, 1};
 constexpr CGColor kWhite = {1, 1, 1, 1};
 constexpr std::uint32_t kStock = 0x80000000;
+constexpr std::uint32_t kHatchedBrushStyle = 2;
 
 Bytes Brush(std::uint32_t index, std::uint32_t style, std::uint32_t color) {
   return Bytes().U32(index).U32(style).U32(color).U32(0);
@@ -70,7 +71,7 @@ TEST_F(ObjectRecords, SelectingANullBrushIsHollowAndStillSetsTheFillColour) {
 }
 
 TEST_F(ObjectRecords, SelectingAHatchedBrushFillsSolid) {
-  CreateBrush(1, 2, 0x000000FF);
+  CreateBrush(1, kHatchedBrushStyle, 0x000000FF);
   context_.hollowBrush = 1;
   Select(1);
   EXPECT_EQ(context_.hollowBrush, 0);
@@ -145,36 +146,36 @@ TEST_F(ObjectRecords, APlainPenBecomesAnExtendedOneWithoutTheRest) {
 
 TEST_F(ObjectRecords, StockBrushesSetTheFillColour) {
   context_.hollowBrush = 1;
-  Select(kStock | 0);
+  Select(test::kStockWhiteBrush);
   EXPECT_EQ(State().fillColor, kWhite);
   EXPECT_EQ(context_.fillColor.green, 1.0);
   EXPECT_EQ(context_.hollowBrush, 0);
   context_.hollowBrush = 1;
-  Select(kStock | 4);
+  Select(test::kStockBlackBrush);
   EXPECT_EQ(State().fillColor, kBlack);
   EXPECT_EQ(context_.fillColor.green, 0.0);
   EXPECT_EQ(context_.hollowBrush, 0);
 }
 
 TEST_F(ObjectRecords, TheStockNullBrushOnlyIsHollow) {
-  Select(kStock | 0);
-  Select(kStock | 5);
+  Select(test::kStockWhiteBrush);
+  Select(test::kStockNullBrush);
   EXPECT_EQ(context_.hollowBrush, 1);
   EXPECT_EQ(State().fillColor, kWhite);
   EXPECT_EQ(context_.fillColor.red, 1.0);
 }
 
 TEST_F(ObjectRecords, StockPensSetTheStrokeColour) {
-  Select(kStock | 6);
+  Select(test::kStockWhitePen);
   EXPECT_EQ(State().strokeColor, kWhite);
-  Select(kStock | 7);
+  Select(test::kStockBlackPen);
   EXPECT_EQ(State().strokeColor, kBlack);
 }
 
 TEST_F(ObjectRecords, TheStockNullPenOnlySetsTheLineWidth) {
   CreatePen(1, 5, 0x000000FF);
   Select(1);
-  Select(kStock | 8);
+  Select(test::kStockNullPen);
   EXPECT_EQ(State().lineWidth, 0);
   EXPECT_EQ(State().strokeColor, kFullRed);
   EXPECT_EQ(context_.penWidth, 5U);
@@ -199,8 +200,8 @@ TEST_F(ObjectRecords, AnUnknownIndexIsTakenForAStockObjects) {
 }
 
 TEST_F(ObjectRecords, AnIndexOfTheTableComesBeforeTheStockObjects) {
-  CreateBrush(kStock | 0, 0, 0x000000FF);
-  Select(kStock | 0);
+  CreateBrush(test::kStockWhiteBrush, 0, 0x000000FF);
+  Select(test::kStockWhiteBrush);
   EXPECT_EQ(State().fillColor, kFullRed);
 }
 
@@ -252,7 +253,8 @@ TEST(CreateDIBBrushRecord, KeepsTheBytesThatTheDataSupplies) {
 TEST(ExtCreateFontIndirectWRecord, OfAnyLengthEndsWhereItDeclares) {
   for (const std::size_t length : {92U, 320U, 348U}) {
     Metafile metafile;
-    metafile.Record(82, Bytes().U32(1).I32(-20).Zeros(length - 4)).Polyline({{1, 2}, {3, 4}});
+    metafile.Record(test::EMR_EXTCREATEFONTINDIRECTW, Bytes().U32(1).I32(-20).Zeros(length - 4));
+    metafile.Polyline({{1, 2}, {3, 4}});
     ParsedMetafile parsed(metafile.Build());
     EXPECT_EQ(parsed->records.size(), 2U) << length;
     EXPECT_EQ(dynamic_cast<ExtCreateFontIndirectWRecord&>(*parsed->records[0]).font.font.lfHeight,

@@ -32,12 +32,12 @@ TEST_F(MappingRecords, ModifyWorldTransformReplacesTheSurfacesTransform) {
 }
 
 TEST_F(MappingRecords, MappingRecordsSetTheMapping) {
-  Play<SetMapModeRecord>(Bytes().I32(8));
+  Play<SetMapModeRecord>(Bytes().I32(kMapModeAnisotropic));
   Play<SetWindowExtExRecord>(Bytes().I32(1).I32(2));
   Play<SetWindowOrgExRecord>(Bytes().I32(3).I32(4));
   Play<SetViewPortExtExRecord>(Bytes().I32(5).I32(6));
   Play<SetViewPortOrgExRecord>(Bytes().I32(7).I32(8));
-  EXPECT_EQ(context_.mapMode, 8);
+  EXPECT_EQ(context_.mapMode, kMapModeAnisotropic);
   EXPECT_EQ(context_.windowExt.cx, 1);
   EXPECT_EQ(context_.windowExt.cy, 2);
   EXPECT_EQ(context_.windowOrg.x, 3);

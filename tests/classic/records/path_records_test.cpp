@@ -8,12 +8,12 @@ namespace kelvane {
 namespace {
 
 using test::Bytes;
+using test::kRegionAnd;
 using test::kStockNullBrush;
 using test::Metafile;
 using test::Points;
 using test::Trace;
 
-constexpr std::uint32_t kRgnAnd = 1;
 constexpr const char* kOpenTriangle = "move 0 0\nline 10 0\nline 10 -10\n";
 
 const Points& Triangle() {
@@ -77,12 +77,12 @@ Metafile RectanglePath() {
 }
 
 TEST(SelectClipPathRecord, CutsWhatFollowsToThePathAndPaintsNothing) {
-  EXPECT_EQ(Trace(RectanglePath().SelectClipPath(kRgnAnd).Polyline(Triangle())),
+  EXPECT_EQ(Trace(RectanglePath().SelectClipPath(kRegionAnd).Polyline(Triangle())),
             std::string("save\nrect 0 -10 10 10\nclip\n") + kOpenTriangle + "stroke\nrestore\n");
 }
 
 TEST(SelectClipPathRecord, OfNothingDrawnWritesNothing) {
-  EXPECT_EQ(Trace(RectanglePath().SelectClipPath(kRgnAnd)), "");
+  EXPECT_EQ(Trace(RectanglePath().SelectClipPath(kRegionAnd)), "");
 }
 
 TEST(SelectClipPathRecord, InOtherModesLeavesThePathToBeStroked) {
@@ -99,7 +99,7 @@ TEST(SelectClipPathRecord, LastsUntilItsStateIsRestored) {
                       .BeginPath()
                       .Rectangle({0, 0, 10, 10})
                       .EndPath()
-                      .SelectClipPath(kRgnAnd)
+                      .SelectClipPath(kRegionAnd)
                       .Polyline(Triangle())
                       .RestoreDC()
                       .Polyline(Triangle())),
@@ -108,7 +108,9 @@ TEST(SelectClipPathRecord, LastsUntilItsStateIsRestored) {
 }
 
 TEST(IntersectClipRectRecord, ClipsNothing) {
-  EXPECT_EQ(Trace(Metafile().Record(30, Bytes().Rectangle(0, 0, 1, 1)).Polyline(Triangle())),
+  EXPECT_EQ(Trace(Metafile()
+                      .Record(test::EMR_INTERSECTCLIPRECT, Bytes().Rectangle(0, 0, 1, 1))
+                      .Polyline(Triangle())),
             std::string(kOpenTriangle) + "stroke\n");
 }
 

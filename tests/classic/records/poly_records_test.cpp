@@ -1,5 +1,7 @@
 #include "classic/records/poly_records.h"
 
+#include <cstring>
+
 #include <gtest/gtest.h>
 
 #include "support/playback.h"
@@ -14,9 +16,6 @@ using test::Metafile;
 using test::Points;
 using test::ReadRecord;
 using test::Trace;
-
-constexpr std::uint32_t kBeginPath = 59;
-constexpr std::uint32_t kEndPath = 60;
 
 const Points& Corner() {
   static const Points kCorner = {{0, 0}, {10, 0}, {10, 10}};
@@ -79,36 +78,36 @@ TEST_P(PolyRecords, ToRecordsOutsideAPathStartFromNoPoint) {
 
 TEST_P(PolyRecords, ToRecordsInsideAPathContinueIt) {
   EXPECT_EQ(Trace(Metafile()
-                      .Record(kBeginPath)
+                      .BeginPath()
                       .MoveTo(50, 50)
                       .PolylineTo({{1, 2}}, GetParam())
                       .PolybezierTo({{3, 3}, {4, 4}, {5, 5}}, GetParam())
-                      .Record(kEndPath)),
+                      .EndPath()),
             "move 50 -50\nline 1 -2\ncurve 3 -3 4 -4 5 -5\nstroke\n");
 }
 
 TEST_P(PolyRecords, OnlyAddToThePathInsideABracket) {
   EXPECT_EQ(Trace(Metafile()
-                      .Record(kBeginPath)
+                      .BeginPath()
                       .Polyline({{0, 0}, {1, 1}}, GetParam())
                       .Polygon({{2, 2}, {3, 3}}, GetParam())
                       .Polybezier({{4, 4}, {5, 5}, {6, 6}, {7, 7}}, GetParam())
-                      .Record(kEndPath)),
+                      .EndPath()),
             "move 0 0\nline 1 -1\nmove 2 -2\nline 3 -3\nmove 4 -4\ncurve 5 -5 6 -6 7 -7\nstroke\n");
 }
 
 TEST_P(PolyRecords, StrokeWhatIsPendingFirst) {
   EXPECT_EQ(Trace(Metafile().AngleArc({0, 0}, 10, 0, 90).Polyline({{1, 2}, {3, 4}}, GetParam()))
                 .find("stroke\nmove 1 -2\nline 3 -4\nstroke\n"),
-            Trace(Metafile().AngleArc({0, 0}, 10, 0, 90)).size() - 7);
+            Trace(Metafile().AngleArc({0, 0}, 10, 0, 90)).size() - std::strlen("stroke\n"));
 }
 
 TEST_P(PolyRecords, WithoutPointsOnlyStrokeWhatIsPending) {
   EXPECT_EQ(Trace(Metafile().MoveTo(1, 2).Polyline({}, GetParam())), "");
   EXPECT_EQ(Trace(Metafile()
-                      .Record(kBeginPath)
+                      .BeginPath()
                       .Polyline({{0, 0}, {1, 1}})
-                      .Record(kEndPath)
+                      .EndPath()
                       .Polygon({}, GetParam())
                       .Rectangle({0, 0, 2, 2})),
             "move 0 0\nline 1 -1\nstroke\nfill-color 1 1 1\nrect 0 -2 2 2\nfill-stroke\n");
@@ -144,7 +143,11 @@ TEST(PolyPolyRecord, KeepsCountsAndPointsReadBeforeTheDataEnds) {
 TEST(PolyDrawRecord, PaintsNothingAndChangesNothing) {
   const Bytes body =
       Bytes().Rectangle(0x7FFFFFFF, 0, 9, 9).U32(2).PointL(1, 2).PointL(3, 4).U8(6).U8(2);
-  EXPECT_EQ(Trace(Metafile().MoveTo(7, 8).Record(56, body).Record(92, body).LineTo(9, 9)),
+  EXPECT_EQ(Trace(Metafile()
+                      .MoveTo(7, 8)
+                      .Record(test::EMR_POLYDRAW, body)
+                      .Record(test::EMR_POLYDRAW16, body)
+                      .LineTo(9, 9)),
             "move 7 -8\nline 9 -9\nstroke\n");
 }
 

@@ -1,5 +1,7 @@
 #include "classic/records/shape_records.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "support/playback.h"
@@ -7,12 +9,13 @@
 namespace kelvane {
 namespace {
 
+using test::kArcClockwise;
+using test::kArcCounterClockwise;
 using test::Metafile;
 using test::PageContent;
 using test::Trace;
 
 constexpr RectangleL kBox = {10, 20, 30, 60};
-constexpr std::uint32_t kStockNullBrush = 0x80000005;
 
 /// The trace without its last line, which says how the path is painted.
 std::string PathOf(const std::string& trace) {
@@ -26,7 +29,7 @@ std::string PaintingOf(const std::string& trace) {
 
 Metafile Hollow() {
   Metafile metafile;
-  metafile.SelectObject(kStockNullBrush);
+  metafile.SelectObject(test::kStockNullBrush);
   return metafile;
 }
 
@@ -140,15 +143,21 @@ TEST(AngleArcRecord, FollowsTheArcDirection) {
   const auto lines = [](const std::string& trace) {
     return std::count(trace.begin(), trace.end(), '\n');
   };
-  const auto clockwise = Trace(Metafile().SetArcDirection(2).AngleArc({0, 0}, 10, 0, 90));
-  const auto counterClockwise = Trace(Metafile().SetArcDirection(1).AngleArc({0, 0}, 10, 0, 90));
+  const auto clockwise =
+      Trace(Metafile().SetArcDirection(kArcClockwise).AngleArc({0, 0}, 10, 0, 90));
+  const auto counterClockwise =
+      Trace(Metafile().SetArcDirection(kArcCounterClockwise).AngleArc({0, 0}, 10, 0, 90));
   EXPECT_EQ(lines(clockwise), 5) << "a move, three quarters, a stroke";
   EXPECT_EQ(lines(counterClockwise), 3);
 }
 
 TEST(ArcRecords, OnlyAngleArcFollowsTheArcDirection) {
-  EXPECT_EQ(Trace(Metafile().SetArcDirection(2).Arc(kBox, {1, 2}, {3, 4}).Ellipse(kBox)),
-            Trace(Metafile().SetArcDirection(1).Arc(kBox, {1, 2}, {3, 4}).Ellipse(kBox)));
+  EXPECT_EQ(
+      Trace(Metafile().SetArcDirection(kArcClockwise).Arc(kBox, {1, 2}, {3, 4}).Ellipse(kBox)),
+      Trace(Metafile()
+                .SetArcDirection(kArcCounterClockwise)
+                .Arc(kBox, {1, 2}, {3, 4})
+                .Ellipse(kBox)));
 }
 
 TEST(ShapeRecords, OnlyAddToThePathInsideABracket) {

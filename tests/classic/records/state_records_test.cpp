@@ -17,7 +17,8 @@ class StateRecords : public test::SurfaceFixture {};
 
 TEST_F(StateRecords, SaveAndRestoreKeepTheWorldTransformAndTheSurfacesState) {
   Play<SaveDCRecord>({});
-  Play<ModifyWorldTransformRecord>(Bytes().F32(2).F32(0).F32(0).F32(2).F32(0).F32(0).I32(4));
+  Play<ModifyWorldTransformRecord>(
+      Bytes().F32(2).F32(0).F32(0).F32(2).F32(0).F32(0).I32(test::kSetTransform));
   CGContextSetLineWidth(context_.context, 9);
   Play<RestoreDCRecord>(Bytes().I32(-1));
   EXPECT_EQ(context_.worldTransform.eM11, 1);
@@ -43,11 +44,11 @@ TEST_F(StateRecords, RestoringMoreThanWasSavedIsHarmless) {
 
 TEST_F(StateRecords, AttributesOfTheContextAreNotSaved) {
   Play<SaveDCRecord>({});
-  Play<SetMapModeRecord>(Bytes().I32(8));
-  Play<SetBkModeRecord>(Bytes().I32(2));
+  Play<SetMapModeRecord>(Bytes().I32(kMapModeAnisotropic));
+  Play<SetBkModeRecord>(Bytes().I32(test::kOpaque));
   Play<RestoreDCRecord>(Bytes().I32(-1));
-  EXPECT_EQ(context_.mapMode, 8);
-  EXPECT_EQ(context_.bkMode, 2);
+  EXPECT_EQ(context_.mapMode, kMapModeAnisotropic);
+  EXPECT_EQ(context_.bkMode, test::kOpaque);
 }
 
 TEST_F(StateRecords, ColoursAreTwoHundredAndFiftySixths) {
@@ -61,14 +62,14 @@ TEST_F(StateRecords, ColoursAreTwoHundredAndFiftySixths) {
   EXPECT_EQ(context_.textColor.blue, 0.5);
 }
 
-TEST_F(StateRecords, ModesAreKeptAsTheyAre) {
-  Play<SetBkModeRecord>(Bytes().I32(2));
+TEST_F(StateRecords, BackgroundModeAndTextAlignmentAreKeptAsTheyAre) {
+  Play<SetBkModeRecord>(Bytes().I32(test::kOpaque));
   Play<SetTextAlignRecord>(Bytes().I32(-1));
-  EXPECT_EQ(context_.bkMode, 2);
+  EXPECT_EQ(context_.bkMode, test::kOpaque);
   EXPECT_EQ(context_.textAlign, 0xFFFFFFFFU);
 }
 
-TEST_F(StateRecords, OnlyOneIsCounterClockwise) {
+TEST_F(StateRecords, EveryArcDirectionButOneIsClockwise) {
   const auto clockwise = [this](std::int32_t direction) {
     Play<SetArcDirectionRecord>(Bytes().I32(direction));
     return context_.clockwise;
@@ -85,8 +86,9 @@ TEST_F(StateRecords, TheMiterLimitGoesToTheSurface) {
 }
 
 TEST(SetMiterLimitRecord, OfTheInitialLimitWritesNothing) {
-  EXPECT_EQ(Trace(Metafile().Record(58, Bytes().U32(10)).Polyline({{0, 0}, {1, 1}})),
-            Trace(Metafile().Polyline({{0, 0}, {1, 1}})));
+  EXPECT_EQ(
+      Trace(Metafile().Record(test::EMR_SETMITERLIMIT, Bytes().U32(10)).Polyline({{0, 0}, {1, 1}})),
+      Trace(Metafile().Polyline({{0, 0}, {1, 1}})));
 }
 
 }  // namespace

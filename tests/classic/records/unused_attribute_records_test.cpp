@@ -23,10 +23,12 @@ TEST_P(UnusedRecords, ChangeNothing) {
   EXPECT_EQ(drawing(Metafile().Record(GetParam(), body)), drawing(Metafile()));
 }
 
-// Brush origin, pixel, fill mode, raster operation, stretch mode, palette, comment, colour
-// management, layout.
 INSTANTIATE_TEST_SUITE_P(Types, UnusedRecords,
-                         testing::Values(13, 15, 19, 20, 21, 48, 70, 98, 115));
+                         testing::Values(test::EMR_SETBRUSHORGEX, test::EMR_SETPIXELV,
+                                         test::EMR_SETPOLYFILLMODE, test::EMR_SETROP2,
+                                         test::EMR_SETSTRETCHBLTMODE, test::EMR_SELECTPALETTE,
+                                         test::EMR_GDICOMMENT, test::EMR_SETICMMODE,
+                                         test::EMR_SETLAYOUT));
 
 TEST(UnusedRecords, KeepWhatTheyRead) {
   EXPECT_EQ(ReadRecord<SetRop2Record>(Bytes().U32(13))->mode, 13U);
