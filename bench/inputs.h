@@ -16,7 +16,8 @@ struct Input {
 std::vector<Input> AllInputs();
 
 /// A drawing such as maps and plots are made of: in each group a pen, a long winding polyline, a
-/// run of Bezier curves and twenty single lines. @param bytes  about how long the metafile is.
+/// run of Bezier curves and twenty single lines.
+/// @param bytes  about how long the metafile is.
 std::vector<unsigned char> Drawing(std::size_t bytes);
 
 /// Point lists of 301 points each, and nothing else.

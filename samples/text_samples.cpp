@@ -20,8 +20,8 @@ void SetFont(Metafile& page, const FontAttributes& font) {
   page.CreateFont(kFont, font).SelectObject(kFont);
 }
 
-/// The spacing of text as it is usually set. @param em  units, as wide as Helvetica's letters are
-/// for their em.
+/// The spacing of text as it is usually set.
+/// @param em  units, as wide as Helvetica's letters are for their em.
 std::vector<std::uint32_t> Natural(std::u16string_view text, float em) {
   std::vector<std::uint32_t> spacing;
   for (const char16_t unit : text) {

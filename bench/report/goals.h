@@ -11,8 +11,8 @@ namespace kelvane::bench {
 /// size.
 std::vector<Finding> LargeFiles();
 
-/// The most memory a conversion of 100 MB takes. @param self  path of this program, which is run
-/// again for it.
+/// The most memory a conversion of 100 MB takes.
+/// @param self  path of this program, which is run again for it.
 std::vector<Finding> Memory(const std::string& self);
 
 /// What this program does when it is run again for Memory: it converts and prints its peak in
@@ -22,7 +22,8 @@ void PrintPeak();
 /// Conversion of small files in memory, against an empty page.
 std::vector<Finding> SmallFiles();
 
-/// The tool as a process, against the start of comparable tools. @param converter  its path.
+/// The tool as a process, against the start of comparable tools.
+/// @param converter  its path.
 std::vector<Finding> Processes(const std::string& converter);
 
 /// Bytes of PDF against what an optimiser makes of the same file.

@@ -18,7 +18,7 @@ Series Summarize(std::vector<double> values);
 using Action = std::function<void()>;
 
 /// @return seconds of wall-clock time that one call of `action` takes, the mean over `repeats`
-/// calls.
+///         calls.
 double SecondsOf(const Action& action, int repeats = 1);
 
 /// Runs two actions in turn, so that whatever slows the machine down slows down both.

@@ -12,7 +12,7 @@ namespace kelvane {
 class TextBuffer {
  public:
   /// @return where the text goes on, with room for `size` characters. What is written there counts
-  /// once EndAt is told where it ends; until then the room stays the same.
+  ///         once EndAt is told where it ends; until then the room stays the same.
   [[nodiscard]] char* Room(std::size_t size) {
     if (text_.size() - length_ < size) text_.resize(std::max(length_ + size, text_.size() * 2));
     return text_.data() + length_;

@@ -4,10 +4,11 @@
 
 namespace kelvane {
 
-/// Converts the metafile in `bytes`, every byte but the last of which is read, and appends the
-/// document to `output`. Throws when the conversion fails, and then `output` is as it was: the
-/// `int` 1 or a std::exception.
-/// @param buffer  borrowed for the call. @param output  null makes no document.
+/// Converts the metafile in `buffer`, every byte but the last of which is read, and appends the
+/// document to `output`. Throws the `int` 1 or a std::exception when the conversion fails, and then
+/// `output` is as it was.
+/// @param buffer  borrowed for the call; may be null when `length` is 0.
+/// @param output  null makes no document.
 void ConvertBuffer(const unsigned char* buffer, unsigned long length, CFMutableDataRef output);
 
 /// Converts a metafile file and writes the document beside it. Throws like ConvertBuffer; the file

@@ -16,7 +16,8 @@ class InstalledTree {
   /// Throws std::runtime_error when it cannot be installed.
   InstalledTree();
 
-  /// The path of a file or folder in it. @param name  from the prefix.
+  /// The path of a file or folder in it.
+  /// @param name  from the prefix.
   [[nodiscard]] std::string operator/(std::string_view name) const;
 
   /// The files in it, from the prefix; a link with where it leads, as in "a -> b".
@@ -33,11 +34,13 @@ class InstalledTree {
 /// build's C compiler, and CFLAGS to what a program needs to load the library that it made.
 ProcessResult RunInShell(const InstalledTree& tree, const std::string& line);
 
-/// Runs this build's CMake. @param arguments  its own.
+/// Runs this build's CMake.
+/// @param arguments  its own.
 ProcessResult RunCMake(const std::vector<std::string>& arguments);
 
 /// Configures a project with this build's compilers, the tree being the first place to look for
-/// packages. @param source, binary  its folders.
+/// packages.
+/// @param source, binary  its folders.
 ProcessResult ConfigureProject(const InstalledTree& tree, const std::string& source,
                                const std::string& binary);
 

@@ -43,7 +43,8 @@ class Pdf {
   std::unique_ptr<QPDF> document_;
 };
 
-/// Checks a PDF with the external checker. @return its complaints; empty when there are none.
+/// Checks a PDF with the external checker.
+/// @return its complaints; empty when there are none.
 std::string ComplaintsAbout(const std::string& pdfPath);
 
 /// @return the text that an external reader finds in a document, without the line and page breaks

@@ -65,7 +65,8 @@ void ReadInto(T& target, const Bytes& bytes) {
   target.read(reader);
 }
 
-/// Reads a structure embedded in records. @param structure  what it holds before.
+/// Reads a structure embedded in records.
+/// @param structure  what it holds before.
 template <class T>
 T ReadStructure(const Bytes& bytes, T structure = {}) {
   ReadInto(structure, bytes);

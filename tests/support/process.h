@@ -11,7 +11,8 @@ struct ProcessResult {
   double processorSeconds = 0;  // user and system time, of its own children too
 };
 
-/// Runs a program to its end. @param command  the program, looked up in PATH, and its arguments.
+/// Runs a program to its end.
+/// @param command  the program, looked up in PATH, and its arguments.
 ProcessResult Run(const std::vector<std::string>& command);
 
 }  // namespace kelvane::test

@@ -31,7 +31,8 @@ class Raster {
 
 /// How many pixels of two pictures show what the other shows nowhere within a pixel of the place.
 /// Renderers that agree on the picture but not on the share that an edge has in a pixel differ in
-/// none. @param tolerance  by how much each channel may lie outside the colours found there.
+/// none.
+/// @param tolerance  by how much each channel may lie outside the colours found there.
 /// @return all pixels for pictures of different sizes.
 int DifferingPixels(const Raster& picture, const Raster& other, int tolerance);
 

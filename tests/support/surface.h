@@ -28,15 +28,16 @@ std::string DocumentBytesOf(const Drawing& draw);
 /// @return the decoded content of the PDF page on which `draw` drew.
 std::string PdfContentOf(const Drawing& draw);
 
-/// Opens a document over a copy of the bytes. @return null when they are no PDF.
+/// Opens a document over a copy of the bytes.
+/// @return null when they are no PDF.
 CFOwned<CGPDFDocument> OpenPdf(const std::string& bytes);
 
 /// @return a provider over a copy of the bytes.
 CFOwned<const CGDataProvider> ProviderOf(const std::vector<unsigned char>& bytes);
 
+/// @param bytesPerRow  0: rows without padding.
 /// @return an image of 8-bit components, 1 (grey) or 3 (RGB) a pixel, over a copy of the bytes;
-/// null when they
-///         do not suffice. @param bytesPerRow  0: rows without padding.
+///         null when they do not suffice.
 CFOwned<const CGImage> ImageOf(std::size_t width, std::size_t height, std::size_t components,
                                const std::vector<unsigned char>& bytes,
                                std::size_t bytesPerRow = 0);

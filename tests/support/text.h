@@ -32,7 +32,8 @@ void DrawText(CGContextRef surface, std::u16string_view text, const TextSetting&
 void DrawUnits(CGContextRef surface, std::u16string_view text, float advance,
                const TextSetting& setting = {});
 
-/// Draws the line in the standard Helvetica. @param matrix  text space to user space.
+/// Draws the line in the standard Helvetica.
+/// @param matrix  text space to user space.
 void DrawHelvetica(CGContextRef surface, std::u16string_view text, CGFloat size,
                    const CGAffineTransform& matrix = {});
 

@@ -38,13 +38,16 @@ class CFAllocator;
 using CFAllocatorRef = const CFAllocator*;
 inline constexpr CFAllocatorRef kCFAllocatorDefault = nullptr;
 
-/// Takes one more reference. @param object may be null. @return the object.
+/// Takes one more reference.
+/// @param object  may be null.
+/// @return the object.
 inline CFTypeRef CFRetain(CFTypeRef object) noexcept {
   if (object != nullptr) object->Retain();
   return object;
 }
 
-/// Gives one reference back. @param object may be null.
+/// Gives one reference back.
+/// @param object  may be null.
 inline void CFRelease(CFTypeRef object) noexcept {
   if (object != nullptr) object->Release();
 }
@@ -57,7 +60,8 @@ struct CFReleaser {
 template <class T>
 using CFOwned = std::unique_ptr<T, CFReleaser>;
 
-/// Shares an object: takes a reference of its own. @param object may be null.
+/// Shares an object: takes a reference of its own.
+/// @param object  may be null.
 template <class T>
 [[nodiscard]] CFOwned<T> CFShare(T* object) noexcept {
   CFRetain(object);

@@ -11,7 +11,8 @@ namespace {
 
 constexpr CGRect kPage = CGRectMake(0, -100, 100, 100);
 
-/// Draws on a page with `draw`. @return the trace of its marks.
+/// Draws on a page with `draw`.
+/// @return the trace of its marks.
 std::string Marks(const std::function<void(AbstractContext&)>& draw) {
   std::string trace;
   const CFOwned<CGContext> surface(CGTraceContextCreate(trace));

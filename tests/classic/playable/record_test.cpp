@@ -25,8 +25,8 @@ class GreedyRecord final : public Record {
   std::uint32_t bytes_;
 };
 
-/// Reads a record whose type field ended at 4 in a block of 64 bytes. @return where the reader then
-/// stands.
+/// Reads a record whose type field ended at 4 in a block of 64 bytes.
+/// @return where the reader then stands.
 std::int64_t PositionAfter(Record& record, std::uint32_t declaredSize) {
   Bytes block = Bytes().U32(99).U32(declaredSize).Zeros(56);
   Reader reader(block.Data().data(), static_cast<std::int32_t>(block.Size()));

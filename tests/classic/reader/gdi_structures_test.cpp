@@ -10,7 +10,8 @@ namespace {
 
 using test::Bytes;
 
-/// Reads a structure from the bytes, with more behind them. @return how many bytes it took.
+/// Reads a structure from the bytes, with more behind them.
+/// @return how many bytes it took.
 template <class T>
 std::int64_t ReadFrom(const Bytes& bytes, T& structure) {
   std::vector<unsigned char> block = bytes.Data();
