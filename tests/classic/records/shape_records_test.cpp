@@ -50,7 +50,7 @@ TEST(LineToRecord, WithoutACurrentPointOnlySetsIt) {
 }
 
 TEST(LineToRecord, StrokesUnderAHollowBrushToo) {
-  EXPECT_EQ(Trace(Metafile().SelectObject(0x80000005).MoveTo(0, 0).LineTo(1, 1)),
+  EXPECT_EQ(Trace(Metafile().SelectObject(test::kStockNullBrush).MoveTo(0, 0).LineTo(1, 1)),
             "move 0 0\nline 1 -1\nstroke\n");
 }
 
