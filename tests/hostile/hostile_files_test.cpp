@@ -23,7 +23,7 @@ class AHostileFile : public testing::TestWithParam<HostileFile> {
   const TemporaryFolder folder_;
 };
 
-TEST_P(AHostileFile, EndsAsItMust) {
+TEST_P(AHostileFile, EndsInASecondWithItsStatusAndAWholeDocumentOrNone) {
   using Names = std::vector<std::string>;
   const ProcessResult result = RunConverter({folder_ / "a.emf"});
   EXPECT_EQ(result.status, GetParam().status & 0xFF);

@@ -31,7 +31,7 @@ class ManualPage : public testing::Test {
   InstalledTree tree_;
 };
 
-TEST_F(ManualPage, IsWithoutFault) {
+TEST_F(ManualPage, GivesACheckerNothingToComplainOf) {
   const ProcessResult result = test::Run({"mandoc", "-Tlint", Path()});
   EXPECT_EQ(result.output, "");
   EXPECT_EQ(result.status, 0);

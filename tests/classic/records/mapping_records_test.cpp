@@ -31,7 +31,7 @@ TEST_F(MappingRecords, ModifyWorldTransformReplacesTheSurfacesTransform) {
   EXPECT_EQ(State().ctm, CGAffineTransformMake(2, 0, 0, 2, 10, -20));
 }
 
-TEST_F(MappingRecords, MappingRecordsSetTheMapping) {
+TEST_F(MappingRecords, KeepModeExtentsAndOriginsInTheContext) {
   Play<SetMapModeRecord>(Bytes().I32(kMapModeAnisotropic));
   Play<SetWindowExtExRecord>(Bytes().I32(1).I32(2));
   Play<SetWindowOrgExRecord>(Bytes().I32(3).I32(4));

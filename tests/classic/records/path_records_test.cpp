@@ -32,12 +32,12 @@ TEST(FillPathRecord, FillsOnceWithoutStroke) {
             std::string("fill-color 1 1 1\n") + kOpenTriangle + "fill\n");
 }
 
-TEST(FillPathRecord, FillsAndStrokes) {
+TEST(FillPathRecord, FillsAndStrokesInOneOperation) {
   EXPECT_EQ(Trace(TrianglePath().StrokeAndFillPath()),
             std::string("fill-color 1 1 1\n") + kOpenTriangle + "fill-stroke\n");
 }
 
-TEST(FillPathRecord, Strokes) {
+TEST(FillPathRecord, StrokesOnceWithoutFill) {
   EXPECT_EQ(Trace(TrianglePath().StrokePath()), std::string(kOpenTriangle) + "stroke\n");
 }
 

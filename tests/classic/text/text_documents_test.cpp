@@ -104,7 +104,7 @@ TEST(ATextDocument, EmbedsASubsetOfEveryFont) {
   }
 }
 
-TEST(ATextDocument, HasNoFaults) {
+TEST(ATextDocument, GivesACheckerNothingToComplainOf) {
   const Metafile metafile = Page({.face = u"Junction", .width = 700, .italic = 1})
                                 .TextOut({10, 20}, u"Bold \u6F22\u05D0", Even(8, 10))
                                 .CreateFont(2, {.escapement = 300})
@@ -172,7 +172,7 @@ class GlyphOrigins : public testing::TestWithParam<XForm> {};
 
 TEST_P(GlyphOrigins, AreThoseOfTheTraceForAnyReader) {
   const Metafile metafile = Page({.face = u"Junction"})
-                                .ModifyWorldTransform(GetParam(), 4)
+                                .ModifyWorldTransform(GetParam(), test::kSetTransform)
                                 .TextOut({10, 20}, u"Spread out", {7, 3, 12, 0, 9, 40, 5, 5, 5, 5})
                                 .TextOut({11, 21}, u"and close", Even(9, 1));
   const Origins expected = OriginsInTrace(Trace(metafile));
