@@ -4,7 +4,10 @@
 
 namespace kelvane::samples {
 
-test::Metafile Text();     // fonts, sizes, colours, alignments, an opaque box, a line that goes on
-test::Metafile Scripts();  // other scripts, from other faces where the font lacks them, and turned
+/// Fonts, sizes, colours, alignments, an opaque box, a line that goes on.
+test::Metafile Text();
+
+/// Other scripts, from other faces where the font lacks them, and turned.
+test::Metafile Scripts();
 
 }  // namespace kelvane::samples

@@ -48,8 +48,8 @@ class AbstractContext {
 
   void SetWorldTransform(const XForm& transform) { worldTransform = transform; }
 
-  /// @param mode  a TransformMode; any other number changes nothing. @param transform  may alias
-  /// worldTransform.
+  /// @param mode       a TransformMode; any other number changes nothing.
+  /// @param transform  may alias worldTransform.
   void ModifyWorldTransform(std::int32_t mode, const XForm& transform);
 
   void SaveState() { savedTransforms.push_back(worldTransform); }
@@ -65,8 +65,9 @@ class AbstractContext {
   /// are ignored.
   void DeleteObject(std::uint32_t index);
 
-  /// Makes the object at the index current. @return false, and no change, when the index is not in
-  /// the table: stock objects, whose indexes have the high bit set, never are.
+  /// Makes the object at the index current.
+  /// @return false, and no change, when the index is not in the table: stock objects, whose indexes
+  ///         have the high bit set, never are.
   bool SelectObject(std::uint32_t index);
 
   /// Destroys every object in the table in ascending order of index; the indexes stay known.
@@ -77,8 +78,7 @@ class AbstractContext {
   void EmptyDraw(const char* /*name*/) const {}
 
   std::map<std::uint32_t, std::unique_ptr<Object>> objects;  // null after DeleteObject
-  Object* currentObject =
-      nullptr;  // pens, brushes and fonts share the slot; borrowed from `objects`
+  Object* currentObject = nullptr;  // of `objects`: pens, brushes and fonts share the one slot
   XForm worldTransform = kIdentityTransform;
   std::int32_t inPath = 0;     // not 0 inside a path bracket: drawing records only add to the path
   std::int32_t clockwise = 0;  // arc direction, as CGContextAddArc takes it

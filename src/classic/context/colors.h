@@ -7,7 +7,7 @@
 namespace kelvane {
 
 /// @param colorRef  red in bits 0 to 7, green in 8 to 15, blue in 16 to 23; the top byte is
-/// ignored.
+///                  ignored.
 /// @return each channel divided by 256, so that 255 gives 0.99609375.
 ContextColor FromColorRef(std::uint32_t colorRef);
 

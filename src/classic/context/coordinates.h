@@ -14,7 +14,7 @@ namespace kelvane {
 void ChangeXY(const AbstractContext& context, std::int32_t& x, std::int32_t& y);
 
 /// @return the page box of a metafile's bounds: device units, no mapping, origin at the smaller x
-/// and -bottom.
+///         and -bottom.
 CGRect GetImageBox(const AbstractContext& context, const RectangleL& bounds);
 
 /// @return radians, rounded once to single precision.
@@ -23,7 +23,8 @@ float DegreesToRadians(float degrees);
 /// @return the mapped rectangle, corners put in order.
 CGRect RectangleToCGRect(const AbstractContext& context, RectangleL rectangle);
 
-/// Replaces the surface's CTM by exactly `transform`, up to rounding.
+/// Replaces the surface's CTM by `transform`, up to rounding. A singular CTM cannot be undone:
+/// `transform` is then applied before it.
 void ContextSetCTM(AbstractContext& context, const CGAffineTransform& transform);
 
 /// Replaces the CTM by a world transform. Its vertical translation follows the page's negated y, as

@@ -23,8 +23,9 @@ using PDFContextMaker = CGContextRef (*)(CGDataConsumerRef consumer, const CGRec
 /// by one thread.
 class EMFFile {
  public:
-  /// @param block  the metafile, borrowed; must outlive the EMFFile. @param size  as for
-  /// BufferReader. @param makePDFContext  for DrawToPDF, the only one that calls it.
+  /// @param block           the metafile, borrowed; must outlive the EMFFile.
+  /// @param size            as for BufferReader.
+  /// @param makePDFContext  for DrawToPDF, the only one that calls it.
   EMFFile(const unsigned char* block, std::int32_t size, PDFContextMaker makePDFContext = nullptr)
       : reader(block, size), makePDFContext_(makePDFContext) {}
 
@@ -39,7 +40,8 @@ class EMFFile {
   /// is as it was.
   void DrawToPDF(CFMutableDataRef data);
 
-  /// Plays the records onto a page of any surface. @param surface  borrowed.
+  /// Plays the records onto a page of any surface.
+  /// @param surface  borrowed.
   void DrawToPage(CGContextRef surface);
 
   /// @return the record for `type`, read from the reader, which then stands at the record's end.

@@ -8,7 +8,7 @@ namespace kelvane {
 
 /// @param arena  borrowed; must outlive the record.
 /// @return a new record of the class that plays back `type`, not yet read; UnrecognizedRecord for
-/// every other type. Throws std::bad_alloc.
+///         every other type. Throws std::bad_alloc.
 OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena);
 
 }  // namespace kelvane

@@ -42,7 +42,8 @@ class BufferReader {
 
   /// Reads one little-endian scalar into its native form. When the block ends early, the bytes that
   /// there are fill the least significant end and the others stay as they were.
-  /// @param destination  the scalar's storage. @param count  its width: 1, 2 or 4 bytes.
+  /// @param destination  the scalar's storage.
+  /// @param count        its width: 1, 2 or 4 bytes.
   void GetBytes(unsigned char* destination, unsigned long count) {
     const unsigned long available = std::min<unsigned long>(count, Remaining());
     if (available == 0) return;

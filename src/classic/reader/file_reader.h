@@ -19,7 +19,8 @@ class FileReader {
   /// @return the stream, owned by this reader; null, and no file, when it cannot be opened.
   std::FILE* setSource(const char* path);
 
-  /// Reads `count` bytes as they stand. @return 1 when all were there, else 0.
+  /// Reads `count` bytes as they stand.
+  /// @return 1 when all were there, else 0.
   std::size_t getBytes(unsigned char* destination, unsigned long count) const;
 
   [[nodiscard]] bool isEnd() const { return std::feof(file_.get()) != 0; }

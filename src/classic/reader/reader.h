@@ -17,7 +17,8 @@ namespace kelvane {
 /// was read. Nothing here fails: a read past the end leaves the rest of its destination as it was.
 class Reader {
  public:
-  /// @param start  borrowed; must outlive the reader. @param size  as for BufferReader.
+  /// @param start  borrowed; must outlive the reader.
+  /// @param size   as for BufferReader.
   Reader(const unsigned char* start, std::int32_t size) : source_(start, size) {}
 
   // Kept so that a parse ends alike whatever it reads from; a block of memory needs no opening or
@@ -109,21 +110,19 @@ class Reader {
   }
 
   /// @return the bytes read inside finished checks, all together. Records that overlap count again
-  /// and again, which
-  ///         is what gives a file of overlapping records away.
+  ///         and again, which is what gives a file of overlapping records away.
   [[nodiscard]] std::uint64_t CheckedBytes() const { return checkedBytes_; }
 
   /// @return bytes: the most that one parse of this block may read in all, and the most that its
-  /// bitmaps may decode
-  ///         to in all. Real files stay far below; it keeps time and memory in proportion to the
-  ///         data.
+  ///         bitmaps may decode to in all. Real files stay far below; it keeps time and memory in
+  ///         proportion to the data.
   [[nodiscard]] std::uint64_t ByteBudget() const {
     return 8 * static_cast<std::uint64_t>(bufferReaderSize()) + (std::uint64_t{16} << 20);
   }
 
   /// Takes `count` bytes out of the budget that all decoded bitmaps of this parse share.
   /// @return false, and nothing taken, when that many are not left: what was to be decoded must not
-  /// be.
+  ///         be.
   [[nodiscard]] bool ClaimDecodedBytes(std::uint64_t count);
 
  private:

@@ -20,14 +20,16 @@ enum class FigureMode : std::uint32_t {
 
 enum class DrawFromPointMode : std::uint32_t {
   kMoveToFirst = 0,  // the figure starts with a move to its first point
-  kContinue = 1,     // it continues from the current point, as the records named …TO do
+  kContinue = 1,     // it goes on from the current point, if any, as the records named …TO do
 };
 
 }  // namespace draw_modes
 
 /// Plays one figure: outside a path bracket it strokes what is pending, adds the figure and paints
-/// it; inside one it only adds. A polygon is never closed, so its fill closes it and its stroke
-/// leaves the last edge out. Points that do not make up a group of three are left out of a Bezier.
+/// it; inside one it only adds. The current point goes with what is stroked, so outside a bracket
+/// no figure goes on from it: lines then start at their first point, a Bezier run at its third. A
+/// polygon is never closed, so its fill closes it and its stroke leaves the last edge out. Points
+/// that do not make up a group of three are left out of a Bezier run.
 /// @param points  logical units. T is PointL or Point16.
 template <class T>
 void DrawFigure(AbstractContext& context, std::span<const T> points,

@@ -14,7 +14,8 @@ std::string convertToCharString(std::u16string_view text);
 
 /// Looks a font up: first by full name, generic family names having been given a real one, then by
 /// the requested name as a family.
-/// @param name  zero-terminated. @return the default font when there is neither.
+/// @param name  zero-terminated.
+/// @return the default font when there is neither.
 ATSUFontID GetFontID(const char* name);
 
 /// @return the style of text in a logical font, owned by the caller (ATSUDisposeStyle). Its size is

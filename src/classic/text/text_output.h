@@ -13,7 +13,8 @@ namespace kelvane {
 /// Draws a line of text in the context's font and text colour, over a box of the background colour
 /// when the background is opaque; a path that is pending is stroked before the box. The brush's
 /// fill colour is in force again afterwards, and the current point stands behind the text.
-/// @param reference  logical units. @param bounds  the box, logical units.
+/// @param reference  logical units.
+/// @param bounds     the box, logical units.
 /// @param dx         how far the pen moves after each unit, page units, wrapping at 32 bits.
 void DrawText(AbstractContext& context, std::u16string_view text, PointL reference,
               const RectangleL& bounds, const std::vector<std::uint32_t>& dx);

@@ -29,7 +29,7 @@ class ExtTextOutRecord final : public Record {
   float yScale = 0;                // read, never used
   TextW block;
   std::vector<T> text;
-  std::vector<std::uint32_t> spacing;  // logical units
+  std::vector<std::uint32_t> spacing;  // stored in logical units, taken for page units
 };
 
 }  // namespace kelvane
