@@ -20,9 +20,15 @@ std::vector<unsigned char> Overlapping(int records, std::uint32_t count) {
   return metafile.Build();
 }
 
-std::vector<unsigned char> CutShort(std::vector<unsigned char> file, std::size_t bytes) {
-  file.resize(file.size() - bytes);
-  return file;
+/// A line, and the first bytes of a polyline's type and size.
+std::vector<unsigned char> EndingInType(std::size_t bytes) {
+  Metafile metafile;
+  AddLine(metafile);
+  return CutShort(AddLine(metafile).BuildWithoutEnd(), 36 - bytes);
+}
+
+std::vector<unsigned char> EndingInLineTo(std::size_t bytes) {
+  return CutShort(Metafile().MoveTo(1, 2).LineTo(3, 4).BuildWithoutEnd(), 8 - bytes);
 }
 
 }  // namespace
@@ -65,14 +71,15 @@ std::vector<HostileFile> FilesThatLeadAstray() {
        kLineTrace},
       {"drawn_record_cut_short",
        CutShort(Metafile().Polyline({{1, 2}, {3, 4}, {5, 6}}).BuildWithoutEnd(), 4), 0, kLineTrace},
-      {"type_at_the_very_end",
-       [] {
-         Metafile metafile;
-         auto file = AddLine(metafile).BuildWithoutEnd();
-         file.insert(file.end(), {EMR_POLYLINE16, 0, 0, 0});
-         return file;
-       }(),
-       0, kLineTrace},
+      {"type_cut_short", EndingInType(3), 0, kLineTrace},
+      {"type_at_the_very_end", EndingInType(4), 0, kLineTrace},
+      {"size_cut_short_to_1_byte", EndingInType(5), 0, kLineTrace},
+      {"size_cut_short_to_2_bytes", EndingInType(6), 0, kLineTrace},
+      {"size_cut_short_to_3_bytes", EndingInType(7), 0, kLineTrace},
+      {"size_at_the_very_end", EndingInType(8), 0, kLineTrace},
+      {"point_cut_short_inside_x", EndingInLineTo(1), 0, "move 1 -2\nline 3 0\nstroke\n"},
+      {"point_cut_short_before_y", EndingInLineTo(4), 0, "move 1 -2\nline 3 0\nstroke\n"},
+      {"point_cut_short_inside_y", EndingInLineTo(5), 0, "move 1 -2\nline 3 -4\nstroke\n"},
       {"records_behind_the_end",
        [] {
          Metafile metafile;

@@ -21,6 +21,7 @@ std::vector<HostileFile> HostileFiles();
 
 std::vector<HostileFile> FilesThatPromiseTooMuch();  // counts, sizes, offsets
 std::vector<HostileFile> FilesThatLeadAstray();      // records that overlap, end early, go nowhere
+std::vector<HostileFile> FilesCutInsideAList();      // the data ends inside an element
 std::vector<HostileFile> FilesOfBadBitmaps();
 std::vector<HostileFile> FilesOfBadValues();  // numbers, handles, states
 
@@ -38,5 +39,15 @@ inline Metafile WithFont() {
       .CreateFont(1, {})
       .SelectObject(1);
 }
+
+/// The body of a text record at (10, 20) up to its string: `count` units promised. Offsets of 0 say
+/// that there is no string, or no spacing.
+Bytes TextFields(std::uint32_t count, std::uint32_t stringOffset, std::uint32_t spacingOffset);
+
+/// What is drawn of a character of that text. @param x  where the pen stands.
+std::string TextTrace(char character, int x);
+
+/// @return the file without its last bytes.
+std::vector<unsigned char> CutShort(std::vector<unsigned char> file, std::size_t bytes);
 
 }  // namespace kelvane::test

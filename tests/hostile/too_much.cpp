@@ -21,12 +21,10 @@ Bytes WidePoly(std::uint32_t count, const Points& points) {
   return body;
 }
 
-/// The body of a text record: `count` units promised, those of `text` there.
+/// A text record's body of `count` units promised, those of `text` there.
 Bytes Text(std::uint32_t count, std::uint32_t offset, std::uint32_t spacingOffset,
            std::u16string_view text) {
-  Bytes body;
-  body.Rectangle(0, 0, -1, -1).U32(2).F32(1).F32(1).PointL(10, 20).U32(count).U32(offset).U32(0);
-  return body.Rectangle(0, 0, -1, -1).U32(spacingOffset).Utf16(text);
+  return TextFields(count, offset, spacingOffset).Utf16(text);
 }
 
 std::vector<unsigned char> Ending(std::uint32_t type, const Bytes& body) {
@@ -37,11 +35,6 @@ std::vector<unsigned char> BeforeALine(std::uint32_t type, const Bytes& body) {
   Metafile metafile;
   metafile.Record(type, body);
   return AddLine(metafile).Build();
-}
-
-std::string Unit(const char* text, int x) {
-  return std::string("text \"") + text + "\" LiberationSans 10 under 1 0 0 1 " + std::to_string(x) +
-         " -20\n";
 }
 
 }  // namespace
@@ -67,12 +60,12 @@ std::vector<HostileFile> FilesThatPromiseTooMuch() {
        kLineTrace},
       {"text_units",
        WithFont().Record(EMR_EXTTEXTOUTW, Text(kHuge, kTextAt, 0, u"ab")).BuildWithoutEnd(), 0,
-       Unit("a", 10) + Unit("b", 10)},
+       TextTrace('a', 10) + TextTrace('b', 10)},
       {"text_spacing",
        WithFont()
            .Record(EMR_EXTTEXTOUTW, Text(4, kTextAt, kTextAt + 8, u"abcd").U32(7))
            .BuildWithoutEnd(),
-       0, Unit("a", 10) + Unit("b", 17) + Unit("c", 17) + Unit("d", 17)},
+       0, TextTrace('a', 10) + TextTrace('b', 17) + TextTrace('c', 17) + TextTrace('d', 17)},
       {"palette",
        Ending(EMR_STRETCHDIBITS, Bytes()
                                      .Rectangle(0, 0, 10, 10)
@@ -99,12 +92,12 @@ std::vector<HostileFile> FilesThatPromiseTooMuch() {
 
       // Offsets: none is followed.
       {"text_offset", WithFont().Record(EMR_EXTTEXTOUTW, Text(1, 0xFFFFFFF0, 0, u"a")).Build(), 0,
-       Unit("a", 10)},
+       TextTrace('a', 10)},
       {"spacing_offset",
        WithFont()
            .Record(EMR_EXTTEXTOUTW, Text(2, kTextAt, 0xFFFFFFF0, u"ab").U32(5).U32(6))
            .Build(),
-       0, Unit("a", 10) + Unit("b", 15)},
+       0, TextTrace('a', 10) + TextTrace('b', 15)},
       {"bitmap_offsets",
        Ending(EMR_STRETCHDIBITS, Bytes()
                                      .Rectangle(0, 0, 10, 10)

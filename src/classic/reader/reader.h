@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -85,15 +86,18 @@ class Reader {
   }
 
   /// Appends up to `count` elements to `list`, stopping when the data can supply no further whole
-  /// one. Memory follows the data, whatever the count promises.
+  /// one. What is left of the data then goes with them, so that half an element is never taken for
+  /// what follows. Memory follows the data, whatever the count promises.
   template <class T>
   void readList(std::vector<T>& list, std::uint32_t count) {
     const std::size_t known = list.size();
-    list.resize(known + std::min<std::size_t>(count, Remaining() / sizeof(T)));
+    const std::size_t whole = std::min<std::size_t>(count, Remaining() / sizeof(T));
+    list.resize(known + whole);
     for (auto element = list.begin() + static_cast<std::ptrdiff_t>(known); element != list.end();
          ++element) {
       read(*element);
     }
+    if (whole < count) (void)TakeBytes(Remaining());
   }
 
   /// Remembers the position; checks nest.

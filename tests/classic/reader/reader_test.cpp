@@ -172,6 +172,22 @@ TEST(Reader, KeepsTheWholeElementsOfAListThatEndsEarly) {
   reader->readList(points, 0x40000000);
   ASSERT_EQ(points.size(), 2U);
   EXPECT_EQ(points[1].x, 3);
+}
+
+TEST(Reader, IsAtItsEndAfterAListThatEndsInsideAnElement) {
+  for (std::size_t left = 1; left < sizeof(PointL); ++left) {
+    ReaderOver reader(Bytes().PointL(1, 2).Zeros(left).U8(0));
+    std::vector<PointL> points;
+    reader->readList(points, 2);
+    EXPECT_EQ(points.size(), 1U);
+    EXPECT_TRUE(reader->isEnd()) << left;
+  }
+}
+
+TEST(Reader, LeavesWhatFollowsAListThatIsWhole) {
+  ReaderOver reader(Bytes().PointL(1, 2).Zeros(5).U8(0));
+  std::vector<PointL> points;
+  reader->readList(points, 1);
   EXPECT_EQ(reader->getPosition(), 8);
 }
 
