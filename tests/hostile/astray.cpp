@@ -20,6 +20,15 @@ std::vector<unsigned char> Overlapping(int records, std::uint32_t count) {
   return metafile.Build();
 }
 
+/// A line, a font that states the size, and another line. @param before  lines in front of it all.
+std::vector<unsigned char> FontBetweenLines(std::uint32_t size, int before = 0) {
+  Metafile metafile;
+  for (int i = 0; i < before; ++i)
+    metafile.MoveTo(i, i);
+  AddLine(metafile).RecordOfSize(EMR_EXTCREATEFONTINDIRECTW, size, Bytes().U32(1).Zeros(320));
+  return AddLine(metafile).Build();
+}
+
 /// A line, and the first bytes of a polyline's type and size.
 std::vector<unsigned char> EndingInType(std::size_t bytes) {
   Metafile metafile;
@@ -48,6 +57,13 @@ std::vector<HostileFile> FilesThatLeadAstray() {
       {"size_4_of_a_drawn_record", BetweenLines(EMR_POLYLINE16, 4, line), 0, twice},
       {"size_that_wraps_to_the_file_before", BetweenLines(EMR_POLYLINE16, 0xFFFFFF9C, line), 0,
        twice},
+      {"size_of_a_font_that_wraps_to_the_file_before", FontBetweenLines(0xFFFFFF9C), 0, kLineTrace},
+      {"size_of_a_font_that_wraps_to_the_start", FontBetweenLines(0U - 144), 0, kLineTrace},
+      {"size_of_a_font_that_wraps_past_the_start", FontBetweenLines(0xFFFFF000), 0, kLineTrace},
+      {"size_of_a_font_far_down_that_wraps", FontBetweenLines(0xFFFFF000, 1000), 0, kLineTrace},
+      {"size_of_a_font_that_is_the_least", FontBetweenLines(0x80000000), 0, kLineTrace},
+      {"size_of_a_font_that_is_nearly_the_least", FontBetweenLines(0x8000014C), 0, kLineTrace},
+      {"size_of_a_font_that_is_the_most", FontBetweenLines(0x7FFFFFFF), -1},
 
       // Records on top of each other.
       {"overlapping_without_end", Overlapping(8000, 0x10000000), -1},
@@ -80,6 +96,8 @@ std::vector<HostileFile> FilesThatLeadAstray() {
       {"point_cut_short_inside_x", EndingInLineTo(1), 0, "move 1 -2\nline 3 0\nstroke\n"},
       {"point_cut_short_before_y", EndingInLineTo(4), 0, "move 1 -2\nline 3 0\nstroke\n"},
       {"point_cut_short_inside_y", EndingInLineTo(5), 0, "move 1 -2\nline 3 -4\nstroke\n"},
+      {"font_cut_short", CutShort(FontBetweenLines(332), 20 + 36 + 100), 0, kLineTrace},
+      {"font_cut_short_behind_its_fields", CutShort(FontBetweenLines(400), 20 + 36), 0, kLineTrace},
       {"records_behind_the_end",
        [] {
          Metafile metafile;

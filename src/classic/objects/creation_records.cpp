@@ -56,7 +56,14 @@ void ExtCreateFontIndirectWRecord::read(Reader& reader) {
   reader.StartChecking();
   reader.readAll(objectIndex, font);
   if (reader.FinishChecking(size - kTypeAndSize)) return;
-  reader.setToPosition(reader.getPosition() + reader.GetSizeDifference());
+  const std::int64_t declaredEnd = reader.getPosition() + reader.GetSizeDifference();
+  const bool negative = static_cast<std::int32_t>(size) < 0;
+  const bool cutShort = reader.isEnd() && declaredEnd > reader.getPosition();
+  if (negative) {
+    reader.setToPosition(0);  // before any record, wherever in the file this one stands
+  } else if (!cutShort) {
+    reader.setToPosition(declaredEnd);
+  }
 }
 
 }  // namespace kelvane

@@ -69,7 +69,8 @@ class ExtCreateFontIndirectWRecord final : public Record {
 
   /// Always reads the longest form of the structure, 320 bytes, and then moves the reader to the
   /// record's declared end, since files carry shorter and longer ones. What was read beyond a short
-  /// record's end is kept.
+  /// record's end is kept. Where the data ends inside the record, the reader stays there. A size
+  /// that is negative as a signed number leads back behind the record, where parsing ends.
   void read(Reader& reader) override;
 
   std::uint32_t objectIndex = 0;
