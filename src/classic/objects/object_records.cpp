@@ -48,13 +48,13 @@ void SelectStockObject(AbstractContext& context, StockObject object) {
   }
 }
 
-// A width that a mirrored viewport makes negative is kept as the bit pattern of the unsigned width.
+// A mirrored viewport makes the width negative, which counts as the unsigned number of its bits.
 std::uint32_t PageWidth(const AbstractContext& context, std::uint32_t width) {
   const std::int32_t window = context.windowExt.cx;
   const std::int32_t viewport = context.viewportExt.cx;
   if (context.mapMode == kMapModeAnisotropic && window != 0 && viewport != 0) {
     const double ratio = static_cast<double>(viewport) / static_cast<double>(window);
-    width = static_cast<std::uint32_t>(Truncate(static_cast<double>(width) * ratio));
+    width = TruncateToUnsigned(static_cast<double>(width) * ratio);
   }
   return width != 0 ? width : 1;
 }

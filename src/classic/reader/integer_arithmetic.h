@@ -19,6 +19,15 @@ constexpr std::int32_t Truncate(double value) {
   return static_cast<std::int32_t>(value);
 }
 
+/// The same for a number without a sign: what lies above saturates at its own highest value. What
+/// lies below 0 keeps the bits of the signed number.
+constexpr std::uint32_t TruncateToUnsigned(double value) {
+  constexpr double kHighest = std::numeric_limits<std::uint32_t>::max();
+  if (value >= kHighest) return std::numeric_limits<std::uint32_t>::max();
+  if (value > 0) return static_cast<std::uint32_t>(value);
+  return static_cast<std::uint32_t>(Truncate(value));
+}
+
 // Sums and differences wrap at 32 bits, as on the machines the format was made for.
 
 constexpr std::int32_t WrappingAdd(std::int32_t a, std::int32_t b) {

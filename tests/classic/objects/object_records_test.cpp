@@ -107,6 +107,14 @@ TEST_F(ObjectRecords, APensWidthIsScaledToTheViewport) {
   EXPECT_EQ(LineWidth(10, 1000, 50), 1) << "scaled to nothing";
 }
 
+TEST_F(ObjectRecords, APensScaledWidthIsAsWideAsAnUnsignedNumber) {
+  constexpr std::int32_t kWide = 0x60000000;
+  EXPECT_EQ(LineWidth(kWide, 1, 2), 3221225472.0F);
+  EXPECT_EQ(context_.penWidth, 3221225472U);
+  EXPECT_EQ(LineWidth(kWide, 1, 3), 4294967296.0F);
+  EXPECT_EQ(context_.penWidth, 4294967295U) << "saturated";
+}
+
 TEST_F(ObjectRecords, APensWidthIsNotScaledWithoutExtents) {
   EXPECT_EQ(LineWidth(10, 0, 250), 10);
   EXPECT_EQ(LineWidth(10, 1000, 0), 10);

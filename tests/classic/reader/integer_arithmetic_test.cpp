@@ -29,6 +29,28 @@ TEST(Truncate, GivesZeroForNotANumber) {
   EXPECT_EQ(Truncate(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
+TEST(TruncateToUnsigned, GoesTowardZero) {
+  EXPECT_EQ(TruncateToUnsigned(7.9), 7U);
+  EXPECT_EQ(TruncateToUnsigned(-0.5), 0U);
+}
+
+TEST(TruncateToUnsigned, ReachesItsOwnHighestNumber) {
+  EXPECT_EQ(TruncateToUnsigned(2147483648.0), 2147483648U);
+  EXPECT_EQ(TruncateToUnsigned(4294967294.9), 4294967294U);
+  EXPECT_EQ(TruncateToUnsigned(4294967295.0), 4294967295U);
+  EXPECT_EQ(TruncateToUnsigned(4294967296.0), 4294967295U);
+  EXPECT_EQ(TruncateToUnsigned(std::numeric_limits<double>::infinity()), 4294967295U);
+}
+
+TEST(TruncateToUnsigned, KeepsTheBitsOfNegativeNumbers) {
+  EXPECT_EQ(TruncateToUnsigned(-2.5), 4294967294U);
+  EXPECT_EQ(TruncateToUnsigned(-1e300), 2147483648U);
+}
+
+TEST(TruncateToUnsigned, GivesZeroForNotANumber) {
+  EXPECT_EQ(TruncateToUnsigned(std::numeric_limits<double>::quiet_NaN()), 0U);
+}
+
 TEST(WrappingArithmetic, IsThatOfIntegersWhereTheResultFits) {
   EXPECT_EQ(WrappingAdd(3, -5), -2);
   EXPECT_EQ(WrappingSubtract(3, -5), 8);
