@@ -44,7 +44,8 @@ std::size_t EntryOf(const std::string& font, const std::string& table) {
 
 }  // namespace
 
-OtherFonts::OtherFonts(const std::vector<std::string>& files) : before_(std::getenv(kVariable)) {
+OtherFonts::OtherFonts(const std::vector<std::string>& files, const std::string& rules)
+    : rules_(rules), before_(std::getenv(kVariable)) {
   std::filesystem::create_directory(folder_ / "fonts");
   for (const std::string& file : files) {
     Add(std::filesystem::path(file).filename().string(), ReadFile(file));
@@ -70,14 +71,14 @@ void OtherFonts::Remove(const std::string& name) {
 }
 
 void OtherFonts::Alias(const std::string& family, const std::string& standIn) {
-  aliases_ += "<alias binding=\"same\"><family>" + family + "</family><accept><family>" + standIn +
-              "</family></accept></alias>";
+  rules_ += "<alias binding=\"same\"><family>" + family + "</family><accept><family>" + standIn +
+            "</family></accept></alias>";
   WriteConfiguration();
 }
 
 void OtherFonts::WriteConfiguration() const {
   WriteFile(folder_ / "fonts.conf", "<fontconfig><dir>" + folder_ / "fonts" + "</dir><cachedir>" +
-                                        folder_ / "cache" + "</cachedir>" + aliases_ +
+                                        folder_ / "cache" + "</cachedir>" + rules_ +
                                         "</fontconfig>");
   Touch(folder_.Path() / "fonts.conf");
 }

@@ -22,7 +22,8 @@ inline constexpr const char* kJunction = "/usr/share/fonts/opentype/junction/Jun
 class OtherFonts {
  public:
   /// @param files  fonts, copied. With none the machine has no font at all.
-  explicit OtherFonts(const std::vector<std::string>& files);
+  /// @param rules  Fontconfig's elements for what the fonts are called and stand for.
+  explicit OtherFonts(const std::vector<std::string>& files, const std::string& rules = {});
   OtherFonts(const OtherFonts&) = delete;
   OtherFonts& operator=(const OtherFonts&) = delete;
   ~OtherFonts();
@@ -40,7 +41,7 @@ class OtherFonts {
   void WriteConfiguration() const;
 
   TemporaryFolder folder_;
-  std::string aliases_;
+  std::string rules_;
   std::string before_;
 };
 

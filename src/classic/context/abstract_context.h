@@ -41,7 +41,7 @@ class AbstractContext {
   AbstractContext() = default;
   AbstractContext(const AbstractContext&) = delete;
   AbstractContext& operator=(const AbstractContext&) = delete;
-  ~AbstractContext() = default;  // destroys the objects left in the table
+  ~AbstractContext() { CleanContext(); }
 
   /// @return the object selected last, borrowed from the table; null when none was or it is gone.
   [[nodiscard]] Object* GetCurrentObject() const { return currentObject; }

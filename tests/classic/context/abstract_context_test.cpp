@@ -212,13 +212,16 @@ TEST(ObjectTable, IsCleanedInOrderOfIndexAndOnlyOnce) {
   EXPECT_EQ(destroyed.size(), 3U);
 }
 
-TEST(ObjectTable, GoesWithTheContext) {
+TEST(ObjectTable, GoesWithTheContextInOrderOfIndex) {
   std::vector<int> destroyed;
   {
     AbstractContext context;
-    context.CreateObject(std::make_unique<WatchedObject>(1, destroyed), 7);
+    for (const int index : {9, 3, 6}) {
+      context.CreateObject(std::make_unique<WatchedObject>(index, destroyed),
+                           static_cast<std::uint32_t>(index));
+    }
   }
-  EXPECT_EQ(destroyed, std::vector<int>{1});
+  EXPECT_EQ(destroyed, (std::vector<int>{3, 6, 9}));
 }
 
 }  // namespace

@@ -235,6 +235,23 @@ TEST_F(ObjectRecords, SelectingAFontCopiesItToTheContext) {
   EXPECT_EQ(context_.font.lfFaceName.size(), 32U);
 }
 
+TEST_F(ObjectRecords, SelectingADeletedFontLeavesTheContextsFont) {
+  Play<ExtCreateFontIndirectWRecord>(Font(1, -20, 0));
+  Select(1);
+  Play<DeleteObjectRecord>(Bytes().U32(1));
+  Select(1);
+  EXPECT_EQ(context_.font.lfHeight, -20);
+  EXPECT_EQ(context_.font.lfFaceName.size(), 32U);
+}
+
+TEST_F(ObjectRecords, AFontsEscapementStaysWhenAnotherIsSelected) {
+  Play<ExtCreateFontIndirectWRecord>(Font(1, -20, 0));
+  Play<ExtCreateFontIndirectWRecord>(Font(2, 10, 900));
+  Select(1);
+  EXPECT_EQ(context_.font.lfHeight, -20);
+  EXPECT_EQ(context_.textAngle, 90);
+}
+
 TEST_F(ObjectRecords, AFontsEscapementTurnsTextOnceItIsCreated) {
   Play<ExtCreateFontIndirectWRecord>(Font(1, 10, 900));
   Play<SelectObjectRecord>(Bytes().U32(2));

@@ -65,6 +65,13 @@ TEST(EndPathRecord, WithoutABracketChangesNothing) {
             std::string(kOpenTriangle) + "stroke\n");
 }
 
+TEST(EndPathRecord, WithoutABracketKeepsThePathThatIsPending) {
+  const auto pending = [] { return Metafile().MoveTo(1, 1).AngleArc({0, 0}, 10, 0, 90); };
+  EXPECT_NE(Trace(pending()), "");
+  EXPECT_EQ(Trace(pending().EndPath()), Trace(pending()));
+  EXPECT_EQ(Trace(pending().EndPath().StrokePath()), Trace(pending().StrokePath()));
+}
+
 TEST(CloseFigureRecord, LeavesTheFigureOpen) {
   EXPECT_EQ(Trace(Metafile().BeginPath().Polyline(Triangle()).CloseFigure().EndPath().StrokePath()),
             std::string(kOpenTriangle) + "stroke\n");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "classic/records/mapping_records.h"
+#include "support/context_fields.h"
 #include "support/playback.h"
 #include "support/surface_fixture.h"
 
@@ -83,6 +84,15 @@ TEST_F(StateRecords, EveryArcDirectionButOneIsClockwise) {
 TEST_F(StateRecords, TheMiterLimitGoesToTheSurface) {
   Play<SetMiterLimitRecord>(Bytes().U32(4));
   EXPECT_EQ(State().miterLimit, 4);
+}
+
+TEST_F(StateRecords, TheMiterLimitLeavesTheContextAndWhatIsSavedAlone) {
+  Play<SaveDCRecord>({});
+  const std::string before = test::FieldsOf(context_);
+  Play<SetMiterLimitRecord>(Bytes().U32(4));
+  EXPECT_EQ(test::FieldsOf(context_), before);
+  Play<RestoreDCRecord>(Bytes().I32(-1));
+  EXPECT_EQ(State().miterLimit, 10);
 }
 
 TEST(SetMiterLimitRecord, OfTheInitialLimitWritesNothing) {

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "classic/document/record_factory.h"
 #include "classic/reader/reader.h"
+#include "support/context_fields.h"
 #include "support/playback.h"
+#include "support/surface_fixture.h"
 
 namespace kelvane {
 namespace {
@@ -13,14 +16,28 @@ using test::Metafile;
 using test::PageContent;
 using test::ReadRecord;
 
-class UnusedRecords : public testing::TestWithParam<std::uint32_t> {};
+class UnusedRecords : public testing::WithParamInterface<std::uint32_t>,
+                      public test::SurfaceFixture {
+ protected:
+  // As a mode, an origin and a count, nothing that a context starts with.
+  const Bytes body_ = Bytes().U32(2).U32(3).U32(4);
+};
 
-TEST_P(UnusedRecords, ChangeNothing) {
+TEST_P(UnusedRecords, LeaveThePageAsItIs) {
   const auto drawing = [](Metafile metafile) {
     return PageContent(metafile.MoveTo(0, 0).LineTo(1, 1).Polygon({{0, 0}, {1, 1}, {1, 0}}));
   };
-  const Bytes body = Bytes().U32(2).U32(3).U32(4);
-  EXPECT_EQ(drawing(Metafile().Record(GetParam(), body)), drawing(Metafile()));
+  EXPECT_EQ(drawing(Metafile().Record(GetParam(), body_)), drawing(Metafile()));
+}
+
+TEST_P(UnusedRecords, LeaveEveryFieldOfTheContextAsItIs) {
+  RecordArena arena;
+  const OwnedRecord record = MakeRecord(GetParam(), arena);
+  test::ReadInto(*record, body_);
+  context_.SaveState();
+  const std::string before = test::FieldsOf(context_);
+  record->drawToPDF(context_);
+  EXPECT_EQ(test::FieldsOf(context_), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, UnusedRecords,
@@ -30,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(Types, UnusedRecords,
                                          test::EMR_GDICOMMENT, test::EMR_SETICMMODE,
                                          test::EMR_SETLAYOUT));
 
-TEST(UnusedRecords, KeepWhatTheyRead) {
+TEST(UnusedRecord, KeepsWhatItReads) {
   EXPECT_EQ(ReadRecord<SetRop2Record>(Bytes().U32(13))->mode, 13U);
   EXPECT_EQ(ReadRecord<SetBrushOrgExRecord>(Bytes().I32(1).I32(-2))->origin.y, -2);
   EXPECT_EQ(ReadRecord<SetPixelVRecord>(Bytes().I32(1).I32(2).U32(3))->color, 3U);

@@ -243,6 +243,26 @@ TEST_F(WithoutFonts, BoldAndItalicAreMadeUp) {
   EXPECT_THAT(content, HasSubstr("1 0 0.21255656 1 10 -20 Tm"));
 }
 
+constexpr const char* kSansIsLiberation =
+    R"(<alias binding="same"><family>sans</family><accept><family>Liberation Sans</family></accept></alias>)";
+constexpr const char* kHelveticaIsAFullName = R"(<match target="scan">
+    <test name="fullname"><string>DejaVu Sans</string></test>
+    <edit name="fullname" mode="assign"><string>Helvetica</string></edit></match>)";
+
+std::string FontsOfSansWith(const std::string& rules) {
+  const test::OtherFonts fonts({test::kDejaVuSans, test::kLiberationSans}, rules);
+  return FontsIn(ConvertElsewhere(Page({.face = u"sans"}).TextOut({10, 20}, u"a")));
+}
+
+TEST(TheFontOfSans, IsHelveticaByItsFullNameFirst) {
+  EXPECT_THAT(FontsOfSansWith(std::string(kSansIsLiberation) + kHelveticaIsAFullName),
+              HasSubstr("DejaVuSans"));
+}
+
+TEST(TheFontOfSans, IsThatOfItsOwnFamilyWithoutHelvetica) {
+  EXPECT_THAT(FontsOfSansWith(kSansIsLiberation), HasSubstr("LiberationSans"));
+}
+
 /// Runs the tool while Fontconfig tells of every configuration it reads.
 std::string TalkOfFonts(const Metafile& metafile) {
   const test::TemporaryFolder folder;

@@ -8,6 +8,7 @@
 #import <kelvane/torvi_emf_image_rep.h>
 
 #include "support/appkit/appkit.h"
+#include "support/appkit/replaced_method.h"
 #include "support/bytes.h"
 #include "support/metafile.h"
 
@@ -82,6 +83,27 @@ TEST_F(DrawnImage, ShowsBitmapsTheRightWayUp) {
   EXPECT_EQ(picture.At(38, 1), (Raster::Color{0, 0, 255}));
   EXPECT_EQ(picture.At(1, 38), (Raster::Color{0, 0, 0}));
   EXPECT_EQ(picture.At(38, 38), (Raster::Color{0, 255, 0}));
+}
+
+TEST_F(DrawnImage, IsWhatItsInnerRepresentationDraws) {
+  TorviEMFImageRep* image = [[[TorviEMFImageRep alloc]
+      initWithData:DataOf(RedCorner({0, 0}, {40, 30}).TextOut({20, 20}, u"Ag").Build())]
+      autorelease];
+  const Raster picture = PictureOf(40, 30, [&] { EXPECT_EQ([image draw], YES); });
+  const Raster inner = PictureOf(40, 30, [&] { EXPECT_EQ([[image pdfImageRep] draw], YES); });
+  EXPECT_EQ(inner.At(5, 5), kRed);
+  EXPECT_EQ(DifferingPixels(picture, inner, 0), 0);
+}
+
+BOOL AnswerNo(id /*self*/, SEL /*name*/) {
+  return NO;
+}
+
+TEST_F(DrawnImage, AnswersWhatItsInnerRepresentationAnswers) {
+  NSImageRep* image = ImageOf(RedCorner({0, 0}, {40, 30}));
+  const ReplacedMethod method("KelvanePDFImageRep", @selector(draw), AnswerNo);
+  const Raster picture = PictureOf(40, 30, [&] { EXPECT_EQ([image draw], NO); });
+  EXPECT_EQ(picture.At(5, 5), kWhite);
 }
 
 TEST_F(DrawnImage, CannotBeDrawnWithoutAContext) {
