@@ -1,39 +1,52 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <vector>
 
-#include "classic/bitmap/bitmap_info_header.h"
 #include "classic/bitmap/gdi_palette.h"
 
 namespace kelvane {
 
 class Reader;
 
-/// Decoded pixels: rows top first, each padded to a multiple of 4 bytes.
-struct DecodedPixels {
-  std::vector<unsigned char> bytes;  // empty when the bitmap has no row or no column
-  std::uint16_t bitsPerPixel = 0;    // 8: one grey byte; 24: red, green, blue
-};
-
-/// Decodes the pixels that follow a bitmap's colour table.
+/// Decodes the pixels that follow a bitmap's colour table. Its fields are what the bitmap's header
+/// says; those of the decoded pixels are changed by Decompress. Used once.
 class BitmapCompression {
  public:
+  explicit BitmapCompression(std::uint32_t kind) : compression(kind) {}
+  BitmapCompression(const BitmapCompression&) = delete;
+  BitmapCompression& operator=(const BitmapCompression&) = delete;
   virtual ~BitmapCompression() = default;
 
-  /// @param reader  stands behind the colour table; moved past what is decoded. Where the data ends
-  ///                early the pixels' remaining bytes are 0.
-  /// @return the pixels; nullopt for a kind that is left undecoded, for a negative width, for more
-  ///         than 32 bits can count, and for more than this parse's bitmaps may still decode to.
-  ///         Throws std::bad_alloc.
-  [[nodiscard]] virtual std::optional<DecodedPixels> Decompress(
-      const BitMapInfoHeader& header, Reader& reader, const GDIPalette& palette) const = 0;
+  /// Fills `data` with rows, the top one first, each padded to a multiple of 4 bytes. Where the
+  /// data ends early the remaining bytes are 0. A kind that is left undecoded, a width that is
+  /// negative as a signed number, more bytes than 32 bits can count and more than this parse's
+  /// bitmaps may still decode to leave everything as it is.
+  /// @param reader  stands behind the colour table; moved past what is decoded.
+  /// Throws std::bad_alloc.
+  virtual void Decompress(std::vector<unsigned char>& data, Reader& reader,
+                          const GDIPalette& palette) = 0;
 
   /// @param compression  a header's biCompression.
   /// @return its decoder; null when it is left undecoded. Throws std::bad_alloc.
   [[nodiscard]] static std::unique_ptr<BitmapCompression> GetCompression(std::uint32_t compression);
+
+  const std::uint32_t compression;  // [MS-WMF] 2.1.1.7
+  std::uint32_t height = 0;         // rows
+  std::uint32_t width = 0;          // pixels
+  std::uint32_t bitCount = 0;       // bits a pixel: as stored, and as decoded once they are
+  std::uint32_t size = 0;           // bytes of the decoded pixels, once they are
+  bool topDown = false;             // the first stored row is the top one
+
+ protected:
+  /// @return the colours of the two pixels in a byte, that of its high half first.
+  /// @param colors  those of the sixteen indexes.
+  [[nodiscard]] static std::array<std::uint32_t, 2> Expand4BitTuple(
+      std::uint32_t byte, const std::array<std::uint32_t, 16>& colors) {
+    return {colors[byte >> 4], colors[byte & 0xF]};
+  }
 };
 
 }  // namespace kelvane

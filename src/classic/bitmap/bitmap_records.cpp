@@ -39,20 +39,23 @@ void StretchDibitsRecord::drawToPDF(AbstractContext& context) const {
 }
 
 void StretchDibitsRecord::read(Reader& reader) {
-  constexpr std::int64_t kTypeAndSize = 8;
-  const std::int64_t end = reader.getPosition() + size - kTypeAndSize;
+  constexpr std::uint32_t kTypeAndSize = 8;
+  const std::int64_t start = reader.getPosition();
   reader.readAll(rclBounds, xDest, yDest, xSrc, ySrc, cxSrc, cySrc, offBmiSrc, cbBmiSrc, offBitsSrc,
                  cbBitsSrc, iUsageSrc, dwRop, cxDest, cyDest);
   if (cyDest < 0) {
     cyDest = WrappingNegate(cyDest);
     flipped = true;
   }
+  dib.size = cbBitsSrc;
+  dib.bitsPosition = offBitsSrc + kTypeAndSize + static_cast<std::uint32_t>(start);
   dib.read(reader);
-  const std::int64_t rest = end - reader.getPosition();
+  const std::int64_t rest = start + size - kTypeAndSize - reader.getPosition();
   if (rest > 0) {
     (void)reader.TakeBytes(static_cast<std::size_t>(rest));
   } else if (!reader.ClaimDecodedBytes(kPriceOfABorrowedByte * static_cast<std::uint64_t>(-rest))) {
     dib.data.clear();
+    dib.size = 0;
   }
 }
 

@@ -1,7 +1,5 @@
 #include "classic/bitmap/dib.h"
 
-#include <utility>
-
 #include "classic/bitmap/bitmap_compression.h"
 
 namespace kelvane {
@@ -12,10 +10,14 @@ void DIB::read(Reader& reader) {
   palette.read(reader);
   const auto decoder = BitmapCompression::GetCompression(header.biCompression);
   if (!decoder) return;
-  auto pixels = decoder->Decompress(header, reader, palette);
-  if (!pixels) return;
-  data = std::move(pixels->bytes);
-  header.biBitCount = pixels->bitsPerPixel;
+  decoder->size = size;
+  decoder->width = static_cast<std::uint32_t>(header.biWidth);
+  decoder->height = static_cast<std::uint32_t>(header.biHeight);
+  decoder->bitCount = header.biBitCount;
+  decoder->topDown = header.topDown;
+  decoder->Decompress(data, reader, palette);
+  size = decoder->size;
+  header.biBitCount = static_cast<std::uint16_t>(decoder->bitCount);
 }
 
 }  // namespace kelvane

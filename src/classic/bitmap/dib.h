@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "classic/bitmap/bitmap_info_header.h"
@@ -16,9 +17,11 @@ struct DIB {
   /// and `data` is empty. Throws std::bad_alloc.
   void read(Reader& reader);
 
-  BitMapInfoHeader header;  // biBitCount tells `data`'s kind of pixels once there are any
+  std::uint32_t size = 0;          // bytes of `data`; until there are any, as the owner set it
+  std::uint32_t bitsPosition = 0;  // where the owner expects the pixels; never consulted
+  BitMapInfoHeader header;         // biBitCount tells `data`'s kind of pixels once there are any
   GDIPalette palette;
-  std::vector<unsigned char> data;  // DecodedPixels::bytes
+  std::vector<unsigned char> data;  // rows top first, each padded to a multiple of 4 bytes
 };
 
 }  // namespace kelvane

@@ -21,11 +21,11 @@ CFOwned<const CGImage> ImageOver(const DIB& dib) {
   constexpr CGBitmapInfo kNoAlpha = 0;
   constexpr bool kInterpolate = true;
   const CFOwned<const CGDataProvider> provider(
-      CGDataProviderCreateWithData(nullptr, dib.data.data(), dib.data.size(), nullptr));
+      CGDataProviderCreateWithData(nullptr, dib.data.data(), dib.size, nullptr));
   const auto width = static_cast<std::size_t>(dib.header.biWidth);
   const auto height = static_cast<std::size_t>(dib.header.biHeight);
   return CFOwned<const CGImage>(CGImageCreate(width, height, kBitsPerComponent,
-                                              dib.header.biBitCount, dib.data.size() / height,
+                                              dib.header.biBitCount, dib.size / height,
                                               ColorSpaceOf(dib).get(), kNoAlpha, provider.get(),
                                               nullptr, kInterpolate, kCGRenderingIntentDefault));
 }

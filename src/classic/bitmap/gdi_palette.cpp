@@ -4,12 +4,15 @@
 
 namespace kelvane {
 
-// Blue, green, red and a reserved byte read as one little-endian number are the colour, but for the
-// reserved byte.
 void GDIPalette::read(Reader& reader) {
-  reader.readList(colors, count);
-  for (std::uint32_t& color : colors)
-    color &= 0x00FFFFFF;
+  reader.readList(colors, count, [&reader](std::uint32_t& color) { color = ReadColor(reader); });
+}
+
+// As a little-endian number the four bytes are the colour, but for the last.
+std::uint32_t GDIPalette::ReadColor(Reader& reader) {
+  std::uint32_t color = 0;
+  reader.read(color);
+  return color & 0x00FFFFFF;
 }
 
 std::uint32_t GDIPalette::LookupColor(std::uint32_t index) const {

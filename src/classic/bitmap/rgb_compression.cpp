@@ -11,81 +11,41 @@
 namespace kelvane {
 namespace {
 
-/// The smallest group of pixels that is whole bytes on both sides.
-struct PixelGroup {
-  std::size_t pixels;
-  std::size_t stored;   // bytes in the file
-  std::size_t decoded;  // bytes in the buffer
-
-  [[nodiscard]] constexpr std::uint16_t BitsPerPixel() const {
-    return static_cast<std::uint16_t>(8 * decoded / pixels);
-  }
-};
-
-constexpr PixelGroup kTwo4To8 = {.pixels = 2, .stored = 1, .decoded = 2};
-constexpr PixelGroup k8To24 = {.pixels = 1, .stored = 1, .decoded = 3};
-constexpr PixelGroup k16To24 = {.pixels = 1, .stored = 2, .decoded = 3};
-constexpr PixelGroup k24To24 = {.pixels = 1, .stored = 3, .decoded = 3};
-constexpr PixelGroup k32To24 = {.pixels = 1, .stored = 4, .decoded = 3};
-
-/// Bytes of one row.
-struct RowSizes {
-  std::size_t groups;   // stored bytes of whole groups
-  std::size_t stored;   // with the padding in the file
-  std::size_t decoded;  // with the padding in the buffer
-};
-
-constexpr std::size_t Padded(std::size_t rowBytes) {
-  return (rowBytes + 3) / 4 * 4;
-}
-
-RowSizes SizesOfRow(const PixelGroup& group, std::size_t width) {
-  const std::size_t groups = width / group.pixels * group.stored;
-  return {groups, Padded(groups), Padded(width * group.decoded / group.pixels)};
-}
-
-// Decodes a row, or what there is of it. A group cut short counts with its missing bytes 0.
-template <PixelGroup kGroup, class Convert>
-void ConvertRow(std::span<const unsigned char> stored, unsigned char* decoded, Convert convert) {
-  const std::size_t whole = stored.size() / kGroup.stored;
-  const unsigned char* source = stored.data();
-  for (std::size_t i = 0; i < whole; ++i) {
-    convert(source, decoded);
-    source += kGroup.stored;
-    decoded += kGroup.decoded;
-  }
-  const auto rest = stored.subspan(whole * kGroup.stored);
-  if (rest.empty()) return;
-  std::array<unsigned char, kGroup.stored> last{};
-  std::copy(rest.begin(), rest.end(), last.begin());
-  convert(last.data(), decoded);
-}
-
-// Each row goes where it belongs at once, so that a bitmap stored bottom row first needs no turning
-// over. `convert` makes one group: (stored bytes, decoded bytes).
-template <PixelGroup kGroup, class Convert>
-std::optional<DecodedPixels> ConvertRows(const BitMapInfoHeader& header, Reader& reader,
-                                         Convert convert) {
-  if (header.biWidth < 0) return std::nullopt;
-  const std::size_t height = static_cast<std::uint32_t>(header.biHeight);
-  const RowSizes row = SizesOfRow(kGroup, static_cast<std::size_t>(header.biWidth));
-  const std::uint64_t size = std::uint64_t{row.decoded} * height;
-  if (size > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
-  if (!reader.ClaimDecodedBytes(size)) return std::nullopt;
-
-  DecodedPixels pixels = {std::vector<unsigned char>(size), kGroup.BitsPerPixel()};
-  const std::size_t rows = row.groups == 0 ? 0 : height;
-  for (std::size_t i = 0; i < rows && reader.Remaining() > 0; ++i) {
-    const auto stored = reader.TakeBytes(row.stored);
-    const std::size_t place = header.topDown ? i : height - 1 - i;
-    ConvertRow<kGroup>(stored.first(std::min(stored.size(), row.groups)),
-                       pixels.bytes.data() + place * row.decoded, convert);
-  }
-  return pixels;
-}
-
 constexpr unsigned char Low8(std::uint32_t value) {
   return static_cast<unsigned char>(value);
+}
+
+// Each of these makes decoded bytes of stored ones: of a pixel, or of two that share a byte.
+
+void Read4BitConvertTo8Bit(const std::array<std::uint32_t, 2>& colors, unsigned char* decoded) {
+  decoded[0] = Low8(colors[0]);
+  decoded[1] = Low8(colors[1]);
+}
+
+void Read8BitConvertTo24Bit(std::uint32_t color, unsigned char* decoded) {
+  decoded[0] = Low8(color >> 16);
+  decoded[1] = Low8(color >> 8);
+  decoded[2] = Low8(color);
+}
+
+void RGB555ToRGB(std::uint32_t value, unsigned char* rgb) {
+  rgb[0] = Low8((value >> 7) & 0xF8);
+  rgb[1] = Low8((value >> 2) & 0xF8);
+  rgb[2] = Low8((value << 3) & 0xF8);
+}
+
+void Read16BitConvertTo24Bit(const unsigned char* stored, unsigned char* decoded) {
+  RGB555ToRGB(stored[0] | static_cast<std::uint32_t>(stored[1]) << 8, decoded);
+}
+
+void Read24Bit(const unsigned char* stored, unsigned char* decoded) {
+  decoded[0] = stored[2];
+  decoded[1] = stored[1];
+  decoded[2] = stored[0];
+}
+
+void Read32BitConvertTo24Bit(const unsigned char* stored, unsigned char* decoded) {
+  Read24Bit(stored, decoded);
 }
 
 // The colours of every index a pixel can hold, so that pixels are decoded without looking at the
@@ -98,63 +58,93 @@ std::array<std::uint32_t, kIndexes> ColorsByIndex(const GDIPalette& palette) {
   return colors;
 }
 
-std::optional<DecodedPixels> Read4BitConvertTo8Bit(const BitMapInfoHeader& header, Reader& reader,
-                                                   const GDIPalette& palette) {
-  const auto colors = ColorsByIndex<16>(palette);
-  return ConvertRows<kTwo4To8>(header, reader,
-                               [&colors](const unsigned char* stored, unsigned char* decoded) {
-                                 decoded[0] = Low8(colors[*stored >> 4]);
-                                 decoded[1] = Low8(colors[*stored & 0xF]);
-                               });
+constexpr std::uint64_t Padded(std::uint64_t rowBytes) {
+  return (rowBytes + 3) / 4 * 4;
 }
 
-std::optional<DecodedPixels> Read8BitConvertTo24Bit(const BitMapInfoHeader& header, Reader& reader,
-                                                    const GDIPalette& palette) {
-  const auto colors = ColorsByIndex<256>(palette);
-  return ConvertRows<k8To24>(header, reader,
-                             [&colors](const unsigned char* stored, unsigned char* decoded) {
-                               const std::uint32_t color = colors[*stored];
-                               decoded[0] = Low8(color >> 16);
-                               decoded[1] = Low8(color >> 8);
-                               decoded[2] = Low8(color);
-                             });
-}
-
-void RGB555ToRGB(const unsigned char* stored, unsigned char* rgb) {
-  const std::uint32_t value = stored[0] | static_cast<std::uint32_t>(stored[1]) << 8;
-  rgb[0] = Low8((value >> 7) & 0xF8);
-  rgb[1] = Low8((value >> 2) & 0xF8);
-  rgb[2] = Low8((value << 3) & 0xF8);
-}
-
-void BGRToRGB(const unsigned char* stored, unsigned char* rgb) {
-  rgb[0] = stored[2];
-  rgb[1] = stored[1];
-  rgb[2] = stored[0];
+// Decodes a row, or what there is of it. A pixel cut short counts with its missing bytes 0.
+template <std::size_t kStored, std::size_t kDecoded, class ReadPixel>
+void ReadRow(std::span<const unsigned char> stored, unsigned char* decoded, ReadPixel readPixel) {
+  const std::size_t whole = stored.size() / kStored;
+  const unsigned char* source = stored.data();
+  for (std::size_t i = 0; i < whole; ++i) {
+    readPixel(source, decoded);
+    source += kStored;
+    decoded += kDecoded;
+  }
+  const auto rest = stored.subspan(whole * kStored);
+  if (rest.empty()) return;
+  std::array<unsigned char, kStored> last{};
+  std::copy(rest.begin(), rest.end(), last.begin());
+  readPixel(last.data(), decoded);
 }
 
 }  // namespace
 
-std::optional<DecodedPixels> RGBCompression::Decompress(const BitMapInfoHeader& header,
-                                                        Reader& reader,
-                                                        const GDIPalette& palette) const {
-  if (masks_ == Masks::kBeforePixels) {
+void RGBCompression::Decompress(std::vector<unsigned char>& data, Reader& reader,
+                                const GDIPalette& palette) {
+  if (compression == kBitfields) {
     std::array<std::uint32_t, 3> ignored;
-    reader.readAll(ignored[0], ignored[1], ignored[2]);
+    reader.read(ignored);
   }
-  switch (header.biBitCount) {
-    case 4:
-      return Read4BitConvertTo8Bit(header, reader, palette);
-    case 8:
-      return Read8BitConvertTo24Bit(header, reader, palette);
+  ReadBuffer(data, reader, palette);
+}
+
+void RGBCompression::ReadBuffer(std::vector<unsigned char>& data, Reader& reader,
+                                const GDIPalette& palette) {
+  using Bytes = const unsigned char*;
+  switch (bitCount) {
+    case 4: {
+      const auto colors = ColorsByIndex<16>(palette);
+      return ReadXBitConvertToYBit<4, 8>(
+          data, reader, [&colors](Bytes stored, unsigned char* decoded) {
+            Read4BitConvertTo8Bit(Expand4BitTuple(*stored, colors), decoded);
+          });
+    }
+    case 8: {
+      const auto colors = ColorsByIndex<256>(palette);
+      return ReadXBitConvertToYBit<8, 24>(data, reader,
+                                          [&colors](Bytes stored, unsigned char* decoded) {
+                                            Read8BitConvertTo24Bit(colors[*stored], decoded);
+                                          });
+    }
     case 16:
-      return ConvertRows<k16To24>(header, reader, RGB555ToRGB);
+      return ReadXBitConvertToYBit<16, 24>(data, reader, [](Bytes stored, unsigned char* decoded) {
+        Read16BitConvertTo24Bit(stored, decoded);
+      });
     case 24:
-      return ConvertRows<k24To24>(header, reader, BGRToRGB);
+      return ReadXBitConvertToYBit<24, 24>(
+          data, reader, [](Bytes stored, unsigned char* decoded) { Read24Bit(stored, decoded); });
     case 32:
-      return ConvertRows<k32To24>(header, reader, BGRToRGB);
+      return ReadXBitConvertToYBit<32, 24>(data, reader, [](Bytes stored, unsigned char* decoded) {
+        Read32BitConvertTo24Bit(stored, decoded);
+      });
     default:
-      return std::nullopt;
+      return;
+  }
+}
+
+template <std::uint32_t kInBits, std::uint32_t kOutBits, class ReadPixel>
+void RGBCompression::ReadXBitConvertToYBit(std::vector<unsigned char>& data, Reader& reader,
+                                           ReadPixel readPixel) {
+  constexpr std::uint32_t kPixels = kInBits < 8 ? 8 / kInBits : 1;  // at a time: whole bytes
+  constexpr std::size_t kStored = kInBits * kPixels / 8;
+  constexpr std::size_t kDecoded = kOutBits * kPixels / 8;
+  const bool isNegative = width > std::uint32_t{std::numeric_limits<std::int32_t>::max()};
+  const std::uint64_t outRow = Padded(std::uint64_t{width} * kOutBits / 8);
+  const std::uint64_t outSize = outRow * height;
+  if (isNegative || outSize > std::numeric_limits<std::uint32_t>::max()) return;
+  if (!reader.ClaimDecodedBytes(outSize)) return;
+
+  size = static_cast<std::uint32_t>(outSize);
+  bitCount = kOutBits;
+  data.assign(size, 0);
+  const std::size_t inRow = width / kPixels * kStored;
+  const std::size_t rows = inRow == 0 ? 0 : height;
+  for (std::size_t row = 0; row < rows && reader.Remaining() > 0; ++row) {
+    const auto stored = reader.TakeBytes(Padded(inRow));
+    ReadRow<kStored, kDecoded>(stored.first(std::min(stored.size(), inRow)),
+                               data.data() + FlipUpDown(row) * outRow, readPixel);
   }
 }
 

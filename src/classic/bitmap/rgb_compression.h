@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "classic/bitmap/bitmap_compression.h"
 
@@ -14,16 +16,25 @@ namespace kelvane {
 /// stored nor decoded.
 class RGBCompression final : public BitmapCompression {
  public:
-  enum class Masks : std::uint8_t { kNone, kBeforePixels };
+  static constexpr std::uint32_t kRgb = 0;        // BI_RGB
+  static constexpr std::uint32_t kBitfields = 3;  // BI_BITFIELDS: three masks before the pixels
 
-  explicit RGBCompression(Masks masks) : masks_(masks) {}
+  using BitmapCompression::BitmapCompression;
 
-  [[nodiscard]] std::optional<DecodedPixels> Decompress(const BitMapInfoHeader& header,
-                                                        Reader& reader,
-                                                        const GDIPalette& palette) const override;
+  void Decompress(std::vector<unsigned char>& data, Reader& reader,
+                  const GDIPalette& palette) override;
 
  private:
-  Masks masks_;
+  void ReadBuffer(std::vector<unsigned char>& data, Reader& reader, const GDIPalette& palette);
+
+  template <std::uint32_t kInBits, std::uint32_t kOutBits, class ReadPixel>
+  void ReadXBitConvertToYBit(std::vector<unsigned char>& data, Reader& reader, ReadPixel readPixel);
+
+  /// @return where a stored row belongs, so that a bitmap stored bottom row first is turned over
+  /// while it is decoded.
+  [[nodiscard]] std::size_t FlipUpDown(std::size_t row) const {
+    return topDown ? row : height - 1 - row;
+  }
 };
 
 }  // namespace kelvane

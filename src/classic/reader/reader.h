@@ -90,12 +90,18 @@ class Reader {
   /// what follows. Memory follows the data, whatever the count promises.
   template <class T>
   void readList(std::vector<T>& list, std::uint32_t count) {
+    readList(list, count, [this](T& element) { read(element); });
+  }
+
+  /// The same with elements that `readElement` reads, as many bytes each as a T has.
+  template <class T, class ReadElement>
+  void readList(std::vector<T>& list, std::uint32_t count, ReadElement readElement) {
     const std::size_t known = list.size();
     const std::size_t whole = std::min<std::size_t>(count, Remaining() / sizeof(T));
     list.resize(known + whole);
     for (auto element = list.begin() + static_cast<std::ptrdiff_t>(known); element != list.end();
          ++element) {
-      read(*element);
+      readElement(*element);
     }
     if (whole < count) (void)TakeBytes(Remaining());
   }

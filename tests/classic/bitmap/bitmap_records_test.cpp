@@ -150,6 +150,13 @@ TEST(StretchDibitsRecord, ReadsItsFieldsInFileOrder) {
   EXPECT_THAT(record->dib.data, ElementsAre(1, 2, 3, 0));
 }
 
+TEST(StretchDibitsRecord, TellsItsBitmapWhereAndHowLongItsPixelsAre) {
+  const auto record = ReadRecord<StretchDibitsRecord>(
+      Bytes().Zeros(16 + 8 * 4).U32(100).U32(14).Zeros(16).BitmapHeader({.bitCount = 1}).Zeros(8));
+  EXPECT_EQ(record->dib.bitsPosition, 100U + 8U);
+  EXPECT_EQ(record->dib.size, 14U) << "as nothing is decoded";
+}
+
 TEST(StretchDibitsRecord, TakesANegativeHeightForAFlippedOne) {
   const auto record = ReadRecord<StretchDibitsRecord>(Bytes().Zeros(68).I32(-18));
   EXPECT_EQ(record->cyDest, 18);

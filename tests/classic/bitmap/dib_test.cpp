@@ -35,6 +35,20 @@ INSTANTIATE_TEST_SUITE_P(All, DIBDepth,
                          testing::Values(DepthChange{4, 8}, DepthChange{8, 24}, DepthChange{16, 24},
                                          DepthChange{24, 24}, DepthChange{32, 24}));
 
+TEST(DIB, HasTheSizeOfItsDecodedPixels) {
+  const Bytes bytes = Bytes().BitmapHeader({.width = 3, .height = 2}).Zeros(24);
+  DIB dib;
+  dib.size = 7;
+  EXPECT_EQ(ReadStructure<DIB>(bytes, dib).size, 24U);
+}
+
+TEST(DIB, KeepsTheSizeThatItsOwnerSetWhenItIsNotDecoded) {
+  const Bytes bytes = Bytes().BitmapHeader({.bitCount = 1}).Zeros(64);
+  DIB dib;
+  dib.size = 7;
+  EXPECT_EQ(ReadStructure<DIB>(bytes, dib).size, 7U);
+}
+
 TEST(DIB, OfNoRowsHasTheDecodedDepthButNoPixels) {
   const DIB dib = ReadStructure<DIB>(Bytes().BitmapHeader({.height = 0, .bitCount = 32}).Zeros(8));
   EXPECT_THAT(dib.data, SizeIs(0));
