@@ -1,6 +1,7 @@
 #include "classic/document/emf_file.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "classic/context/coordinates.h"
 #include "classic/context/path_primitives.h"
@@ -53,20 +54,24 @@ OwnedRecord EMFFile::CreateRecordByType(unsigned long type) {
 }
 
 void EMFFile::DrawToPDF(CFMutableDataRef data) {
-  const CFOwned<CGContext> surface = CreatePDFContext(data);
+  CFOwned<CGContext> surface = CreatePDFContext(data);
   if (!surface) return;
-  DrawToPage(surface.get());
-  surface->Close();
+  DrawRecords(surface.get());
+  ReleasePDFContext(std::move(surface));
 }
 
 void EMFFile::DrawToPage(CGContextRef surface) {
   BeginPage(surface);
+  DrawRecords(surface);
+  CGContextEndPage(surface);
+}
+
+void EMFFile::DrawRecords(CGContextRef surface) {
   context.context = surface;
   for (const auto& record : records)
     record->drawToPDF(context);
   DrawPath(context, kCGPathStroke);  // what the records left pending
   context.context = nullptr;
-  CGContextEndPage(surface);
 }
 
 CFOwned<CGDataConsumer> EMFFile::CreateDataConsumer(CFMutableDataRef data) const {
@@ -80,7 +85,14 @@ CGRect EMFFile::PageBox() const {
 CFOwned<CGContext> EMFFile::CreatePDFContext(CFMutableDataRef data) const {
   const CGRect pageBox = PageBox();
   const CFOwned<CGDataConsumer> consumer = CreateDataConsumer(data);
-  return CFOwned<CGContext>(makePDFContext_(consumer.get(), &pageBox, nullptr));
+  CFOwned<CGContext> surface(makePDFContext_(consumer.get(), &pageBox, nullptr));
+  if (surface) BeginPage(surface.get());
+  return surface;
+}
+
+void EMFFile::ReleasePDFContext(CFOwned<CGContext> surface) const {
+  CGContextEndPage(surface.get());
+  surface->Close();
 }
 
 void EMFFile::BeginPage(CGContextRef surface) const {

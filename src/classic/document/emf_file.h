@@ -57,8 +57,15 @@ class EMFFile {
  private:
   [[nodiscard]] CGRect PageBox() const;
   [[nodiscard]] CFOwned<CGDataConsumer> CreateDataConsumer(CFMutableDataRef data) const;
+
+  /// @return a surface whose one page is begun; null when no document can be made.
   [[nodiscard]] CFOwned<CGContext> CreatePDFContext(CFMutableDataRef data) const;
+
+  /// Ends the page and with it the document.
+  void ReleasePDFContext(CFOwned<CGContext> surface) const;
+
   void BeginPage(CGContextRef surface) const;
+  void DrawRecords(CGContextRef surface);
   void CheckPosition() const;
 
   PDFContextMaker makePDFContext_;
