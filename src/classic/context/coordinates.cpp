@@ -9,10 +9,12 @@
 namespace kelvane {
 namespace {
 
-// One coordinate from window to viewport. The extents are divided first and the rest rounds once,
-// so that equal inputs give equal pages on every machine.
-std::int32_t Scale(std::int32_t coordinate, std::int32_t windowOrigin, std::int32_t windowExtent,
-                   std::int32_t viewportOrigin, std::int32_t viewportExtent) {
+// One coordinate of a path from window to viewport. Its distance from the origin wraps at 32 bits;
+// the extents are divided first and the rest rounds once, so that equal inputs give equal pages on
+// every machine. A text's reference point goes a way of its own.
+std::int32_t MapPathCoordinate(std::int32_t coordinate, std::int32_t windowOrigin,
+                               std::int32_t windowExtent, std::int32_t viewportOrigin,
+                               std::int32_t viewportExtent) {
   if (windowExtent == 0) return coordinate;
   const double ratio = static_cast<double>(viewportExtent) / static_cast<double>(windowExtent);
   const double distance = WrappingSubtract(coordinate, windowOrigin);
@@ -27,10 +29,10 @@ CGFloat Distance(std::int32_t from, std::int32_t to) {
 
 void ChangeXY(const AbstractContext& context, std::int32_t& x, std::int32_t& y) {
   if (context.mapMode == kMapModeAnisotropic) {
-    x = Scale(x, context.windowOrg.x, context.windowExt.cx, context.viewportOrg.x,
-              context.viewportExt.cx);
-    y = Scale(y, context.windowOrg.y, context.windowExt.cy, context.viewportOrg.y,
-              context.viewportExt.cy);
+    x = MapPathCoordinate(x, context.windowOrg.x, context.windowExt.cx, context.viewportOrg.x,
+                          context.viewportExt.cx);
+    y = MapPathCoordinate(y, context.windowOrg.y, context.windowExt.cy, context.viewportOrg.y,
+                          context.viewportExt.cy);
   }
   y = WrappingNegate(y);
 }

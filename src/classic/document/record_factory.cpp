@@ -16,23 +16,21 @@
 namespace kelvane {
 OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
   using enum RecordType;
-  using enum draw_modes::FigureMode;
-  using enum draw_modes::DrawFromPointMode;
   switch (static_cast<RecordType>(type)) {
     case EMR_POLYBEZIER:
-      return arena.Make<PolybezierRecord<PointL>>(kBezier, kMoveToFirst);
+      return arena.Make<PolybezierRecord<PointL>>();
     case EMR_POLYGON:
-      return arena.Make<PolygonRecord<PointL>>(kPolygon, kMoveToFirst);
+      return arena.Make<PolygonRecord<PointL>>();
     case EMR_POLYLINE:
-      return arena.Make<PolylineRecord<PointL>>(kPolyline, kMoveToFirst);
+      return arena.Make<PolylineRecord<PointL>>();
     case EMR_POLYBEZIERTO:
-      return arena.Make<PolybezierToRecord<PointL>>(kBezier, kContinue);
+      return arena.Make<PolybezierToRecord<PointL>>();
     case EMR_POLYLINETO:
-      return arena.Make<PolylineToRecord<PointL>>(kPolyline, kContinue);
+      return arena.Make<PolylineToRecord<PointL>>();
     case EMR_POLYPOLYLINE:
-      return arena.Make<PolyPolylineRecord<PointL>>(kPolyline);
+      return arena.Make<PolyPolylineRecord<PointL>>();
     case EMR_POLYPOLYGON:
-      return arena.Make<PolyPolygonRecord<PointL>>(kPolygon);
+      return arena.Make<PolyPolygonRecord<PointL>>();
     case EMR_SETWINDOWEXTEX:
       return arena.Make<SetWindowExtExRecord>();
     case EMR_SETWINDOWORGEX:
@@ -68,9 +66,9 @@ OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
     case EMR_INTERSECTCLIPRECT:
       return arena.Make<IntersectClipRectRecord>();
     case EMR_SCALEVIEWPORTEXTEX:
-      return arena.Make<ScaleExtExRecord>(false);
+      return arena.Make<ScaleExtExRecord>(ScaledExtent::kViewport);
     case EMR_SCALEWINDOWEXTEX:
-      return arena.Make<ScaleExtExRecord>(true);
+      return arena.Make<ScaleExtExRecord>(ScaledExtent::kWindow);
     case EMR_SAVEDC:
       return arena.Make<SaveDCRecord>();
     case EMR_RESTOREDC:
@@ -120,11 +118,11 @@ OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
     case EMR_CLOSEFIGURE:
       return arena.Make<CloseFigureRecord>();
     case EMR_FILLPATH:
-      return arena.Make<FillPathRecord>(false, true);
+      return arena.Make<FillPathRecord>(kCGPathFill);
     case EMR_STROKEANDFILLPATH:
-      return arena.Make<FillPathRecord>(true, true);
+      return arena.Make<FillPathRecord>(kCGPathFillStroke);
     case EMR_STROKEPATH:
-      return arena.Make<FillPathRecord>(true, false);
+      return arena.Make<FillPathRecord>(kCGPathStroke);
     case EMR_SELECTCLIPPATH:
       return arena.Make<SelectClipPathRecord>();
     case EMR_GDICOMMENT:
@@ -140,19 +138,19 @@ OwnedRecord MakeRecord(std::uint32_t type, RecordArena& arena) {
     case EMR_EXTTEXTOUTW:
       return arena.Make<ExtTextOutRecord<std::uint16_t>>();
     case EMR_POLYBEZIER16:
-      return arena.Make<PolybezierRecord<Point16>>(kBezier, kMoveToFirst);
+      return arena.Make<PolybezierRecord<Point16>>();
     case EMR_POLYGON16:
-      return arena.Make<PolygonRecord<Point16>>(kPolygon, kMoveToFirst);
+      return arena.Make<PolygonRecord<Point16>>();
     case EMR_POLYLINE16:
-      return arena.Make<PolylineRecord<Point16>>(kPolyline, kMoveToFirst);
+      return arena.Make<PolylineRecord<Point16>>();
     case EMR_POLYBEZIERTO16:
-      return arena.Make<PolybezierToRecord<Point16>>(kBezier, kContinue);
+      return arena.Make<PolybezierToRecord<Point16>>();
     case EMR_POLYLINETO16:
-      return arena.Make<PolylineToRecord<Point16>>(kPolyline, kContinue);
+      return arena.Make<PolylineToRecord<Point16>>();
     case EMR_POLYPOLYLINE16:
-      return arena.Make<PolyPolylineRecord<Point16>>(kPolyline);
+      return arena.Make<PolyPolylineRecord<Point16>>();
     case EMR_POLYPOLYGON16:
-      return arena.Make<PolyPolygonRecord<Point16>>(kPolygon);
+      return arena.Make<PolyPolygonRecord<Point16>>();
     case EMR_POLYDRAW16:
       return arena.Make<PolyDrawRecord<Point16>>();
     case EMR_CREATEMONOBRUSH:

@@ -23,7 +23,8 @@ class ExtPenObject final : public Object {
   const ExtLogPen pen;
 };
 
-/// BS_NULL, the brush style that does not fill ([MS-WMF] 2.1.1.4).
+/// Brush styles ([MS-WMF] 2.1.1.4) that playback tells apart: all others fill as a solid one does.
+inline constexpr std::uint32_t kSolidBrushStyle = 0;
 inline constexpr std::uint32_t kNullBrushStyle = 1;
 
 /// A solid, hatched or null brush; a hatch is filled solid.

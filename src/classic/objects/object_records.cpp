@@ -23,8 +23,8 @@ enum class StockObject : std::uint16_t {
 constexpr ContextColor kWhite = {1, 1, 1};
 constexpr ContextColor kBlack = {0, 0, 0};
 
-void SelectBrush(AbstractContext& context, const ContextColor& color, bool hollow) {
-  context.hollowBrush = hollow ? 1 : 0;
+void SelectBrush(AbstractContext& context, const ContextColor& color, std::uint32_t style) {
+  context.hollowBrush = style == kNullBrushStyle ? 1 : 0;
   context.fillColor = color;
   SetSurfaceFillColor(context, color);
 }
@@ -33,9 +33,9 @@ void SelectBrush(AbstractContext& context, const ContextColor& color, bool hollo
 void SelectStockObject(AbstractContext& context, StockObject object) {
   switch (object) {
     case StockObject::kWhiteBrush:
-      return SelectBrush(context, kWhite, false);
+      return SelectBrush(context, kWhite, kSolidBrushStyle);
     case StockObject::kBlackBrush:
-      return SelectBrush(context, kBlack, false);
+      return SelectBrush(context, kBlack, kSolidBrushStyle);
     case StockObject::kNullBrush:
       context.hollowBrush = 1;
       return;
@@ -70,8 +70,7 @@ void Select(AbstractContext& context, const Object& object) {
     case Object::ObjectType::kPen:
       return SelectPen(context, static_cast<const ExtPenObject&>(object));
     case Object::ObjectType::kBrush:
-      return SelectBrush(context, FromColorRef(object.getColor()),
-                         object.getBrushStyle() == kNullBrushStyle);
+      return SelectBrush(context, FromColorRef(object.getColor()), object.getBrushStyle());
     case Object::ObjectType::kFont:
       context.font = static_cast<const ExtFontObject&>(object).font.font;
       return;

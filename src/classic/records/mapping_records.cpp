@@ -8,8 +8,9 @@
 namespace kelvane {
 namespace {
 
-// In single precision throughout, as the rounding shows in the result.
-std::int32_t Scale(std::int32_t extent, std::int32_t numerator, std::int32_t denominator) {
+// In single precision throughout, as the rounding shows in the result. Coordinates, which are not
+// scaled here, are in double.
+std::int32_t ScaleExtent(std::int32_t extent, std::int32_t numerator, std::int32_t denominator) {
   if (denominator == 0) return extent;
   const float scale = static_cast<float>(numerator) / static_cast<float>(denominator);
   return Truncate(static_cast<double>(static_cast<float>(extent) * scale));
@@ -75,8 +76,8 @@ void SetViewPortOrgExRecord::read(Reader& reader) {
 }
 
 void ScaleExtExRecord::drawToPDF(AbstractContext& context) const {
-  SIZEL& extent = window ? context.windowExt : context.viewportExt;
-  extent = {Scale(extent.cx, xNum, xDenom), Scale(extent.cy, yNum, yDenom)};
+  SIZEL& extent = scaled == ScaledExtent::kWindow ? context.windowExt : context.viewportExt;
+  extent = {ScaleExtent(extent.cx, xNum, xDenom), ScaleExtent(extent.cy, yNum, yDenom)};
 }
 
 void ScaleExtExRecord::read(Reader& reader) {

@@ -28,7 +28,7 @@ class ModifyWorldTransformRecord final : public Record {
   std::int32_t iMode = 0;  // a TransformMode
 };
 
-/// EMR_SETMAPMODE ([MS-EMF] 2.3.11.16).
+/// EMR_SETMAPMODE ([MS-EMF] 2.3.11.19).
 class SetMapModeRecord final : public Record {
  public:
   void drawToPDF(AbstractContext& context) const override;
@@ -73,17 +73,20 @@ class SetViewPortOrgExRecord final : public Record {
   Point origin;  // page units
 };
 
-/// EMR_SCALEVIEWPORTEXTEX and EMR_SCALEWINDOWEXTEX ([MS-EMF] 2.3.11.9, 2.3.11.10). The window's
+/// Which extent a ScaleExtExRecord scales.
+enum class ScaledExtent : std::uint8_t { kViewport, kWindow };
+
+/// EMR_SCALEVIEWPORTEXTEX and EMR_SCALEWINDOWEXTEX ([MS-EMF] 2.3.11.7, 2.3.11.8). The window's
 /// direction, which SetWindowExtEx notes, stays even when scaling turns the extent around. A
 /// denominator of 0 leaves its extent.
 class ScaleExtExRecord final : public Record {
  public:
-  explicit ScaleExtExRecord(bool scalesWindow) : window(scalesWindow) {}
+  explicit ScaleExtExRecord(ScaledExtent scaledExtent) : scaled(scaledExtent) {}
 
   void drawToPDF(AbstractContext& context) const override;
   void read(Reader& reader) override;
 
-  const bool window;  // the window's extent, else the viewport's
+  const ScaledExtent scaled;
   std::int32_t xNum = 0;
   std::int32_t xDenom = 0;
   std::int32_t yNum = 0;

@@ -17,8 +17,7 @@ void EndPathRecord::drawToPDF(AbstractContext& context) const {
 }
 
 void FillPathRecord::drawToPDF(AbstractContext& context) const {
-  const CGPathDrawingMode strokeMode = fill ? kCGPathFillStroke : kCGPathStroke;
-  CGContextDrawPath(context.context, stroke ? strokeMode : kCGPathFill);
+  CGContextDrawPath(context.context, painting);
 }
 
 void FillPathRecord::read(Reader& reader) {

@@ -4,6 +4,7 @@
 
 #include "classic/playable/record.h"
 #include "classic/reader/geometry_types.h"
+#include "platform/quartz/cg_graphics_state.h"
 
 namespace kelvane {
 
@@ -35,14 +36,13 @@ class CloseFigureRecord final : public Record {
 /// Fills by the non-zero winding rule, under a hollow brush too.
 class FillPathRecord final : public Record {
  public:
-  FillPathRecord(bool strokes, bool fills) : stroke(strokes), fill(fills) {}
+  explicit FillPathRecord(CGPathDrawingMode mode) : painting(mode) {}
 
   void drawToPDF(AbstractContext& context) const override;
   void read(Reader& reader) override;
 
   RectangleL bounds;  // read, not used
-  const bool stroke;
-  const bool fill;
+  const CGPathDrawingMode painting;
 };
 
 /// EMR_SELECTCLIPPATH ([MS-EMF] 2.3.2.5). Clips to the path in mode RGN_AND only; in every other

@@ -59,7 +59,6 @@ void PolyRecord<T>::read(Reader& reader) {
 
 template <class T>
 void PolyPolyRecord<T>::drawToPDF(AbstractContext& context) const {
-  if (figureMode == draw_modes::FigureMode::kBezier) return;
   DrawFigure<T>(context, points, figureMode, draw_modes::DrawFromPointMode::kMoveToFirst);
 }
 

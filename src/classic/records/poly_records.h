@@ -9,7 +9,7 @@
 
 namespace kelvane {
 
-/// How the factory tells the poly records apart.
+/// What tells the poly records apart.
 namespace draw_modes {
 
 enum class FigureMode : std::uint32_t {
@@ -40,9 +40,6 @@ void DrawFigure(AbstractContext& context, std::span<const T> points,
 template <class T>
 class PolyRecord : public Record {
  public:
-  PolyRecord(draw_modes::FigureMode figure, draw_modes::DrawFromPointMode drawFrom)
-      : figureMode(figure), drawFromPoint(drawFrom) {}
-
   /// Adds the figure to the current path and, outside a path bracket, paints it at once.
   void drawToPDF(AbstractContext& context) const override;
 
@@ -54,36 +51,54 @@ class PolyRecord : public Record {
   std::vector<T> points;    // logical units, file order
   const draw_modes::FigureMode figureMode;
   const draw_modes::DrawFromPointMode drawFromPoint;
+
+ protected:
+  PolyRecord(draw_modes::FigureMode figure, draw_modes::DrawFromPointMode drawFrom)
+      : figureMode(figure), drawFromPoint(drawFrom) {}
 };
 
 /// EMR_POLYBEZIER, EMR_POLYBEZIER16 ([MS-EMF] 2.3.5.16, 2.3.5.17).
 template <class T>
 class PolybezierRecord final : public PolyRecord<T> {
-  using PolyRecord<T>::PolyRecord;
+ public:
+  PolybezierRecord()
+      : PolyRecord<T>(draw_modes::FigureMode::kBezier,
+                      draw_modes::DrawFromPointMode::kMoveToFirst) {}
 };
 
 /// EMR_POLYGON, EMR_POLYGON16 ([MS-EMF] 2.3.5.22, 2.3.5.23).
 template <class T>
 class PolygonRecord final : public PolyRecord<T> {
-  using PolyRecord<T>::PolyRecord;
+ public:
+  PolygonRecord()
+      : PolyRecord<T>(draw_modes::FigureMode::kPolygon,
+                      draw_modes::DrawFromPointMode::kMoveToFirst) {}
 };
 
 /// EMR_POLYLINE, EMR_POLYLINE16 ([MS-EMF] 2.3.5.24, 2.3.5.25).
 template <class T>
 class PolylineRecord final : public PolyRecord<T> {
-  using PolyRecord<T>::PolyRecord;
+ public:
+  PolylineRecord()
+      : PolyRecord<T>(draw_modes::FigureMode::kPolyline,
+                      draw_modes::DrawFromPointMode::kMoveToFirst) {}
 };
 
 /// EMR_POLYBEZIERTO, EMR_POLYBEZIERTO16 ([MS-EMF] 2.3.5.18, 2.3.5.19).
 template <class T>
 class PolybezierToRecord final : public PolyRecord<T> {
-  using PolyRecord<T>::PolyRecord;
+ public:
+  PolybezierToRecord()
+      : PolyRecord<T>(draw_modes::FigureMode::kBezier, draw_modes::DrawFromPointMode::kContinue) {}
 };
 
 /// EMR_POLYLINETO, EMR_POLYLINETO16 ([MS-EMF] 2.3.5.26, 2.3.5.27).
 template <class T>
 class PolylineToRecord final : public PolyRecord<T> {
-  using PolyRecord<T>::PolyRecord;
+ public:
+  PolylineToRecord()
+      : PolyRecord<T>(draw_modes::FigureMode::kPolyline, draw_modes::DrawFromPointMode::kContinue) {
+  }
 };
 
 /// Several polylines or polygons in one record, played as a single figure through all their points:
@@ -91,9 +106,7 @@ class PolylineToRecord final : public PolyRecord<T> {
 template <class T>
 class PolyPolyRecord : public Record {
  public:
-  explicit PolyPolyRecord(draw_modes::FigureMode figure) : figureMode(figure) {}
-
-  /// Draws all points as one polyline or one even-odd polygon; in any other figure mode nothing.
+  /// Draws all points as one polyline or one even-odd polygon.
   void drawToPDF(AbstractContext& context) const override;
 
   /// Reads bounds, both totals, the counts and the points; of each list, the whole elements that
@@ -106,18 +119,23 @@ class PolyPolyRecord : public Record {
   std::vector<std::uint32_t> counts;  // points of each figure; not used in drawing
   std::vector<T> points;              // logical units, all figures one after the other
   const draw_modes::FigureMode figureMode;
+
+ protected:
+  explicit PolyPolyRecord(draw_modes::FigureMode figure) : figureMode(figure) {}
 };
 
 /// EMR_POLYPOLYLINE, EMR_POLYPOLYLINE16 ([MS-EMF] 2.3.5.30, 2.3.5.31).
 template <class T>
 class PolyPolylineRecord final : public PolyPolyRecord<T> {
-  using PolyPolyRecord<T>::PolyPolyRecord;
+ public:
+  PolyPolylineRecord() : PolyPolyRecord<T>(draw_modes::FigureMode::kPolyline) {}
 };
 
 /// EMR_POLYPOLYGON, EMR_POLYPOLYGON16 ([MS-EMF] 2.3.5.28, 2.3.5.29).
 template <class T>
 class PolyPolygonRecord final : public PolyPolyRecord<T> {
-  using PolyPolyRecord<T>::PolyPolyRecord;
+ public:
+  PolyPolygonRecord() : PolyPolyRecord<T>(draw_modes::FigureMode::kPolygon) {}
 };
 
 /// EMR_POLYDRAW, EMR_POLYDRAW16 ([MS-EMF] 2.3.5.20, 2.3.5.21): left out of playback. The body is

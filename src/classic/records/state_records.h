@@ -6,7 +6,7 @@
 
 namespace kelvane {
 
-/// EMR_SAVEDC ([MS-EMF] 2.3.11.8): saves the world transform and the surface's state.
+/// EMR_SAVEDC ([MS-EMF] 2.3.11): saves the world transform and the surface's state.
 class SaveDCRecord final : public Record {
  public:
   void drawToPDF(AbstractContext& context) const override;

@@ -48,8 +48,12 @@ std::int64_t SignedFontHeight(const AbstractContext& context) {
   return context.windowExtYPositive != 0 ? FontHeight(context) : -FontHeight(context);
 }
 
-std::int32_t Scale(std::int32_t coordinate, std::int32_t windowOrigin, std::int32_t windowExtent,
-                   std::int32_t viewportOrigin, std::int32_t viewportExtent) {
+// One coordinate of a reference point from window to viewport. Unlike a path's it is a distance in
+// double precision, which does not wrap, and rounds after the product and after the sum: text may
+// stand a unit beside a line that goes to the same point, and far from it where the line's wraps.
+std::int32_t MapTextCoordinate(std::int32_t coordinate, std::int32_t windowOrigin,
+                               std::int32_t windowExtent, std::int32_t viewportOrigin,
+                               std::int32_t viewportExtent) {
   if (windowExtent == 0) return coordinate;
   const double ratio = static_cast<double>(viewportExtent) / static_cast<double>(windowExtent);
   const double distance = static_cast<double>(coordinate) - static_cast<double>(windowOrigin);
@@ -62,10 +66,10 @@ void PlaceAtReference(const AbstractContext& context, std::int32_t& x, std::int3
     y = WrappingAdd(y, static_cast<std::int32_t>(SignedFontHeight(context)));
   }
   if (context.mapMode == kMapModeAnisotropic) {
-    x = Scale(x, context.windowOrg.x, context.windowExt.cx, context.viewportOrg.x,
-              context.viewportExt.cx);
-    y = Scale(y, context.windowOrg.y, context.windowExt.cy, context.viewportOrg.y,
-              context.viewportExt.cy);
+    x = MapTextCoordinate(x, context.windowOrg.x, context.windowExt.cx, context.viewportOrg.x,
+                          context.viewportExt.cx);
+    y = MapTextCoordinate(y, context.windowOrg.y, context.windowExt.cy, context.viewportOrg.y,
+                          context.viewportExt.cy);
   }
   y = WrappingNegate(y);
 }

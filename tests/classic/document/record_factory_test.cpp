@@ -174,22 +174,20 @@ TEST_F(RecordFactory, TellsPolyPolyRecordsTheirFigureMode) {
 TEST_F(RecordFactory, TellsWhichExtentIsScaled) {
   auto viewport = Make(31);
   auto window = Make(32);
-  EXPECT_FALSE(MadeAs<ScaleExtExRecord>(viewport).window);
-  EXPECT_TRUE(MadeAs<ScaleExtExRecord>(window).window);
+  EXPECT_EQ(MadeAs<ScaleExtExRecord>(viewport).scaled, ScaledExtent::kViewport);
+  EXPECT_EQ(MadeAs<ScaleExtExRecord>(window).scaled, ScaledExtent::kWindow);
 }
 
 struct PathPainting {
   std::uint32_t type;
-  bool strokes;
-  bool fills;
+  CGPathDrawingMode painting;
 };
 
 TEST_F(RecordFactory, TellsPathRecordsWhatToPaint) {
-  for (const auto& [type, strokes, fills] :
-       {PathPainting{62, false, true}, {63, true, true}, {64, true, false}}) {
+  for (const auto& [type, painting] :
+       {PathPainting{62, kCGPathFill}, {63, kCGPathFillStroke}, {64, kCGPathStroke}}) {
     auto record = Make(type);
-    EXPECT_EQ(MadeAs<FillPathRecord>(record).stroke, strokes);
-    EXPECT_EQ(MadeAs<FillPathRecord>(record).fill, fills);
+    EXPECT_EQ(MadeAs<FillPathRecord>(record).painting, painting);
   }
 }
 

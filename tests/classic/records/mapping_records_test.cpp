@@ -64,7 +64,7 @@ Bytes Scale(std::int32_t xNum, std::int32_t xDenom, std::int32_t yNum, std::int3
 
 TEST_F(MappingRecords, ScalingTheWindowTruncates) {
   context_.windowExt = {100, -100};
-  Play<ScaleExtExRecord>(Scale(1, 3, 1, 3), true);
+  Play<ScaleExtExRecord>(Scale(1, 3, 1, 3), ScaledExtent::kWindow);
   EXPECT_EQ(context_.windowExt.cx, 33);
   EXPECT_EQ(context_.windowExt.cy, -33);
 }
@@ -72,7 +72,7 @@ TEST_F(MappingRecords, ScalingTheWindowTruncates) {
 TEST_F(MappingRecords, ScalingTheViewportLeavesTheWindowAlone) {
   context_.windowExt = {100, 100};
   context_.viewportExt = {10, 20};
-  Play<ScaleExtExRecord>(Scale(3, 1, 1, 2), false);
+  Play<ScaleExtExRecord>(Scale(3, 1, 1, 2), ScaledExtent::kViewport);
   EXPECT_EQ(context_.viewportExt.cx, 30);
   EXPECT_EQ(context_.viewportExt.cy, 10);
   EXPECT_EQ(context_.windowExt.cx, 100);
@@ -81,28 +81,28 @@ TEST_F(MappingRecords, ScalingTheViewportLeavesTheWindowAlone) {
 
 TEST_F(MappingRecords, ScalingTheWindowAroundKeepsItsDirection) {
   Play<SetWindowExtExRecord>(Bytes().I32(10).I32(10));
-  Play<ScaleExtExRecord>(Scale(1, 1, -1, 1), true);
+  Play<ScaleExtExRecord>(Scale(1, 1, -1, 1), ScaledExtent::kWindow);
   EXPECT_EQ(context_.windowExt.cy, -10);
   EXPECT_EQ(context_.windowExtYPositive, 1);
 }
 
 TEST_F(MappingRecords, ScalingByNothingLeavesTheExtent) {
   context_.windowExt = {100, 200};
-  Play<ScaleExtExRecord>(Scale(1, 0, 1, 2), true);
+  Play<ScaleExtExRecord>(Scale(1, 0, 1, 2), ScaledExtent::kWindow);
   EXPECT_EQ(context_.windowExt.cx, 100);
   EXPECT_EQ(context_.windowExt.cy, 100);
 }
 
 TEST_F(MappingRecords, ScalingSaturates) {
   context_.windowExt = {0x7FFFFFFF, -0x7FFFFFFF};
-  Play<ScaleExtExRecord>(Scale(1000, 1, 1000, 1), true);
+  Play<ScaleExtExRecord>(Scale(1000, 1, 1000, 1), ScaledExtent::kWindow);
   EXPECT_EQ(context_.windowExt.cx, std::numeric_limits<std::int32_t>::max());
   EXPECT_EQ(context_.windowExt.cy, std::numeric_limits<std::int32_t>::min());
 }
 
 TEST_F(MappingRecords, ScalesInSinglePrecision) {
   context_.windowExt = {16777217, 1};  // the nearest float is one less
-  Play<ScaleExtExRecord>(Scale(1, 1, 1, 1), true);
+  Play<ScaleExtExRecord>(Scale(1, 1, 1, 1), ScaledExtent::kWindow);
   EXPECT_EQ(context_.windowExt.cx, 16777216);
 }
 

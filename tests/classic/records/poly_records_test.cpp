@@ -9,8 +9,6 @@
 namespace kelvane {
 namespace {
 
-using draw_modes::DrawFromPointMode;
-using draw_modes::FigureMode;
 using test::Bytes;
 using test::Metafile;
 using test::Points;
@@ -115,8 +113,7 @@ TEST_P(PolyRecords, WithoutPointsOnlyStrokeWhatIsPending) {
 
 TEST(PolylineRecord, KeepsThePointsReadBeforeTheDataEnds) {
   const auto record = ReadRecord<PolylineRecord<Point16>>(
-      Bytes().Rectangle(0, 0, 9, 9).U32(3).Point(1, 2).Point(3, 4), FigureMode::kPolyline,
-      DrawFromPointMode::kMoveToFirst);
+      Bytes().Rectangle(0, 0, 9, 9).U32(3).Point(1, 2).Point(3, 4));
   ASSERT_EQ(record->points.size(), 2U);
   EXPECT_EQ(record->points[1].x, 3);
   EXPECT_EQ(record->count, 3U);
@@ -124,17 +121,15 @@ TEST(PolylineRecord, KeepsThePointsReadBeforeTheDataEnds) {
 }
 
 TEST(PolylineRecord, TakesItsMemoryFromTheDataNotFromTheCount) {
-  const auto record =
-      ReadRecord<PolylineRecord<PointL>>(Bytes().Rectangle(0, 0, 9, 9).U32(0x40000000).PointL(1, 2),
-                                         FigureMode::kPolyline, DrawFromPointMode::kMoveToFirst);
+  const auto record = ReadRecord<PolylineRecord<PointL>>(
+      Bytes().Rectangle(0, 0, 9, 9).U32(0x40000000).PointL(1, 2));
   EXPECT_EQ(record->points.size(), 1U);
   EXPECT_LE(record->points.capacity(), 2U);
 }
 
 TEST(PolyPolyRecord, KeepsCountsAndPointsReadBeforeTheDataEnds) {
   const auto record = ReadRecord<PolyPolygonRecord<Point16>>(
-      Bytes().Rectangle(0, 0, 9, 9).U32(2).U32(6).U32(3).U32(3).Point(1, 2).Point(3, 4),
-      FigureMode::kPolygon);
+      Bytes().Rectangle(0, 0, 9, 9).U32(2).U32(6).U32(3).U32(3).Point(1, 2).Point(3, 4));
   EXPECT_EQ(record->counts, (std::vector<std::uint32_t>{3, 3}));
   EXPECT_EQ(record->points.size(), 2U);
   EXPECT_EQ(record->totalPoints, 6U);
