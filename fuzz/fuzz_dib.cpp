@@ -6,6 +6,7 @@
 
 #include "classic/bitmap/draw_image.h"
 #include "classic/reader/reader.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

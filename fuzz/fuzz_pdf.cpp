@@ -4,6 +4,7 @@
 
 #include "platform/pdf/cg_pdf_context.h"
 #include "platform/pdf/cg_pdf_document.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_provider.h"
 
 namespace kelvane {

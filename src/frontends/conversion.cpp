@@ -15,6 +15,7 @@
 #include "platform/corefoundation/cf_url.h"
 #include "platform/pdf/cg_pdf_context.h"
 #include "platform/pdf/cg_pdf_document.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_consumer.h"
 #include "platform/quartz/cg_data_provider.h"
 

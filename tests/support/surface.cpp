@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/pdf/cg_pdf_context.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
 #include "support/pdf.h"
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/quartz/cg_context_calls.h"
+
 namespace kelvane::test {
 
 SurfaceFixture::SurfaceFixture() {

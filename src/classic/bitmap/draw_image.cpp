@@ -4,6 +4,7 @@
 
 #include "classic/context/coordinates.h"
 #include "platform/quartz/cg_color_space.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_provider.h"
 #include "platform/quartz/cg_image.h"
 

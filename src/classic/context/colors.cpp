@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "platform/quartz/cg_context_calls.h"
+
 namespace kelvane {
 namespace {
 

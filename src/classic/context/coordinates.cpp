@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "classic/reader/integer_arithmetic.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

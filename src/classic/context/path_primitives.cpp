@@ -1,6 +1,7 @@
 #include "classic/context/path_primitives.h"
 
 #include "classic/context/coordinates.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

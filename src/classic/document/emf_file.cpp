@@ -7,6 +7,7 @@
 #include "classic/context/path_primitives.h"
 #include "classic/document/record_factory.h"
 #include "classic/document/record_type.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

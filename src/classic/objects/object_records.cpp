@@ -6,6 +6,7 @@
 #include "classic/objects/graphics_objects.h"
 #include "classic/reader/integer_arithmetic.h"
 #include "classic/reader/reader.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

@@ -3,6 +3,7 @@
 #include "classic/context/abstract_context.h"
 #include "classic/context/path_primitives.h"
 #include "classic/reader/reader.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

@@ -10,6 +10,7 @@
 #include "classic/reader/geometry_types.h"
 #include "classic/reader/integer_arithmetic.h"
 #include "classic/text/font_selection.h"
+#include "platform/quartz/cg_context_calls.h"
 
 namespace kelvane {
 namespace {

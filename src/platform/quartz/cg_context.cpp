@@ -49,6 +49,20 @@ void CGContext::ConcatCTM(const CGAffineTransform& transform) {
   state_.ctm = CGAffineTransformConcat(transform, state_.ctm);
 }
 
+void CGContext::SetFillColorSpace(const CGColorSpace& space) {
+  state_.fillComponents = static_cast<std::uint8_t>(space.components);
+  state_.fillColor = {};
+}
+
+void CGContext::SetStrokeColorSpace(const CGColorSpace& space) {
+  state_.strokeComponents = static_cast<std::uint8_t>(space.components);
+  state_.strokeColor = {};
+}
+
+void CGContext::SetMiterLimit(CGFloat limit) {
+  if (!std::isnan(limit)) state_.miterLimit = limit;
+}
+
 void CGContext::AddRect(const CGRect& rect) {
   path_.AddMappedRectangle(rect, state_.ctm);
 }
@@ -108,38 +122,6 @@ CGPoint CGContext::ToUserSpace(CGPoint pagePoint) const {
 
 CGRect CGContext::ToUserSpace(const CGRect& pageRect) const {
   return CGRectApplyAffineTransform(pageRect, CGAffineTransformInvert(state_.ctm));
-}
-
-void CGContextClipToRect(CGContextRef c, const CGRect& rect) {
-  c->BeginPath();
-  c->AddRect(rect);
-  c->Clip();
-}
-
-void CGContextSetFillColorSpace(CGContextRef c, CGColorSpaceRef space) {
-  c->State().fillComponents = static_cast<std::uint8_t>(space->components);
-  c->State().fillColor = {};
-}
-
-void CGContextSetStrokeColorSpace(CGContextRef c, CGColorSpaceRef space) {
-  c->State().strokeComponents = static_cast<std::uint8_t>(space->components);
-  c->State().strokeColor = {};
-}
-
-void CGContextSetFillColor(CGContextRef c, const CGFloat* components) {
-  c->State().fillColor = MakeColor(components, c->State().fillComponents);
-}
-
-void CGContextSetStrokeColor(CGContextRef c, const CGFloat* components) {
-  c->State().strokeColor = MakeColor(components, c->State().strokeComponents);
-}
-
-void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
-  c->State().lineWidth = width < 0 ? 0 : width;
-}
-
-void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
-  if (!std::isnan(limit)) c->State().miterLimit = limit;
 }
 
 }  // namespace kelvane

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "support/bytes.h"
 #include "support/metafile.h"
 #include "support/pdf.h"

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
 
 namespace kelvane {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "classic/records/mapping_records.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "support/context_fields.h"
 #include "support/playback.h"
 #include "support/surface_fixture.h"

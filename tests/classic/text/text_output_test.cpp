@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "classic/context/coordinates.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "support/metafile.h"
 #include "support/surface_fixture.h"
 

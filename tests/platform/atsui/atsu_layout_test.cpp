@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/fonts/fontconfig_catalog.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "support/fonts.h"
 #include "support/pdf.h"
 #include "support/surface.h"

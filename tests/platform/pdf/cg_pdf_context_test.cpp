@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "support/files.h"
 #include "support/pdf.h"
 #include "support/process.h"

@@ -7,6 +7,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "support/surface.h"
 
 namespace kelvane {

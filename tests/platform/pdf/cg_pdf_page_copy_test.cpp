@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/pdf/cg_pdf_context.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "support/files.h"
 #include "support/pdf.h"
 #include "support/process.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "support/files.h"
 #include "support/pdf.h"
 #include "support/surface.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/quartz/cg_context.h"
+#include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
 #include "support/surface.h"
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_context_calls.h"
 #include "support/surface.h"
 #include "support/text.h"
 
