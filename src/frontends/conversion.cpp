@@ -10,6 +10,7 @@
 
 #include "classic/document/emf_file.h"
 #include "classic/reader/file_reader.h"
+#include "frontends/file_consumer.h"
 #include "frontends/file_size_signal.h"
 #include "platform/corefoundation/cf_string.h"
 #include "platform/corefoundation/cf_url.h"

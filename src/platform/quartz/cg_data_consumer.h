@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <span>
 
+#include "platform/corefoundation/cf_base.h"
 #include "platform/corefoundation/cf_data.h"
-#include "platform/corefoundation/cf_url.h"
 
 namespace kelvane {
 
@@ -30,10 +30,5 @@ using CGDataConsumerRef = CGDataConsumer*;
 /// @return a consumer that appends to `data`, owned by the caller; null for null. Throws
 /// std::bad_alloc.
 CGDataConsumerRef CGDataConsumerCreateWithCFData(CFMutableDataRef data);
-
-/// @return a consumer that writes a new file beside `url` and renames it over `url` when committed,
-/// owned by the
-///         caller; null when `url` is null or no file can be created there. Throws std::bad_alloc.
-CGDataConsumerRef CGDataConsumerCreateWithURL(CFURLRef url);
 
 }  // namespace kelvane

@@ -91,18 +91,13 @@ TEST(CGPDFContext, AppendsItsDocumentWhenClosed) {
 }
 
 TEST(CGPDFContext, WritesItsDocumentOnceHoweverOftenItIsClosed) {
-  const test::TemporaryFolder folder;
-  const CFOwned<const CFString> path(CFStringCreateWithCString(
-      kCFAllocatorDefault, (folder / "a.pdf").c_str(), kCFStringEncodingMacRoman));
-  const CFOwned<const CFURL> url(
-      CFURLCreateWithFileSystemPath(kCFAllocatorDefault, path.get(), kCFURLPOSIXPathStyle, false));
-  const CFOwned<CGDataConsumer> consumer(CGDataConsumerCreateWithURL(url.get()));
-  const CFOwned<CGContext> context(CGPDFContextCreate(consumer.get(), &test::kPageBox, nullptr));
+  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
+  const auto context = ContextOver(data.get(), &test::kPageBox);
   CGContextBeginPage(context.get(), &test::kPageBox);
   CGPDFContextClose(context.get());
-  const std::string once = test::ReadFile(folder / "a.pdf");
+  const std::vector<unsigned char> once = data->bytes;
   CGPDFContextClose(context.get());
-  EXPECT_EQ(test::ReadFile(folder / "a.pdf"), once);
+  EXPECT_EQ(data->bytes, once);
 }
 
 TEST(CGPDFContext, EndsAnOpenPageWhenClosed) {
