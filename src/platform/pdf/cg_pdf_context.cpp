@@ -9,7 +9,8 @@
 #include "platform/pdf/pdf_content.h"
 #include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_writer.h"
-#include "platform/quartz/cg_state_writer.h"
+#include "platform/quartz/cg_clip_writer.h"
+#include "platform/quartz/cg_value_writer.h"
 
 namespace kelvane {
 namespace {
@@ -32,7 +33,7 @@ CGAffineTransform Fitting(const CGRect& from, const CGRect& to) {
 
 /// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an
 /// uneven transform is wrapped in that transform.
-class CGPDFContext final : public CGContext, private CGStateWriter {
+class CGPDFContext final : public CGContext, private CGClipOperators {
  public:
   CGPDFContext(CGDataConsumerRef consumer, const CGRect& documentBox)
       : consumer_(CFShare(consumer)),
@@ -56,7 +57,6 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
       pending_ = PendingPage{CFShare(page.document), &page};
       return;
     }
-    DrawPending();
     DrawForm(page, matrix);
   }
 
@@ -75,7 +75,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     xobjects_ = {};
     fonts_ = {};
     font_ = {};
-    StartPage();
+    clips_ = {};
+    values_ = {};
   }
 
   void PageEnds() override {
@@ -84,7 +85,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
       pending_.reset();
       return;
     }
-    FinishPage();
+    clips_.End(*this);
     content_.Finish();
     if (contents_.empty()) return;
     page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
@@ -146,7 +147,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
 
   void BeginMark(CGStateNeeds needs, const CGGraphicsState& state) {
     DrawPending();
-    Prepare(state, Clips(), needs);
+    clips_.Bring(Clips(), *this);
+    values_.Bring(state, needs, content_);
   }
 
   // A page that does not stay alone becomes a form, drawn before what follows. No clip was in
@@ -160,7 +162,7 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   // A form starts with the state that it is drawn in, and a page counts on starting with a fresh
   // one.
   void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
-    Prepare(CGGraphicsState{}, Clips(), {.fill = true, .stroke = true, .text = true});
+    BeginMark({.fill = true, .stroke = true, .text = true}, CGGraphicsState{});
     DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
   }
 
@@ -188,17 +190,18 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
     return entry->second;
   }
 
-  void WriteSave() override { content_.Save(); }
-  void WriteRestore() override { content_.Restore(); }
-  void WriteClip(const CGPath& area) override {
-    content_.Path(area);
+  void WriteSave() override {
+    content_.Save();
+    values_.Save();
+  }
+  void WriteRestore() override {
+    content_.Restore();
+    values_.Restore();
+  }
+  void WriteClip(const CGClip& clip) override {
+    content_.Path(clip.area);
     content_.Clip();
   }
-  void WriteFillColor(const CGColor& color) override { content_.FillColor(color); }
-  void WriteStrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
-  void WriteLineWidth(CGFloat width) override { content_.LineWidth(width); }
-  void WriteMiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
-  void WriteTextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
 
   CFOwned<CGDataConsumer> consumer_;  // null once the document is written
   CGRect documentBox_;
@@ -207,6 +210,8 @@ class CGPDFContext final : public CGContext, private CGStateWriter {
   QPDFObjectHandle page_;
   std::vector<QPDFObjectHandle> contents_;  // the pieces of the page's content, in order
   PdfContent content_;
+  CGClipWriter clips_;    // of the content
+  CGValueWriter values_;  // of the content
   Names xobjects_;
   Names fonts_;
   PageFont font_;  // of the last glyphs

@@ -14,12 +14,13 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_path.h"
+#include "platform/quartz/cg_value_writer.h"
 
 namespace kelvane {
 
 /// The content of a page, operator by operator (ISO 32000-1, annex A). It is handed on in pieces,
 /// cut between operators, so that a page of any length needs little memory.
-class PdfContent {
+class PdfContent final : public CGValueOperators {
  public:
   using Sink = std::function<void(std::string_view)>;
 
@@ -29,11 +30,11 @@ class PdfContent {
   void Save();                                      // q
   void Restore();                                   // Q
   void Concat(const CGAffineTransform& transform);  // cm
-  void FillColor(const CGColor& color);             // rg
-  void StrokeColor(const CGColor& color);           // RG
-  void LineWidth(CGFloat width);                    // w
-  void MiterLimit(CGFloat limit);                   // M, which is at least 1
-  void TextMode(CGTextDrawingMode mode);            // Tr
+  void FillColor(const CGColor& color) override;    // rg
+  void StrokeColor(const CGColor& color) override;  // RG
+  void LineWidth(CGFloat width) override;           // w
+  void MiterLimit(CGFloat limit) override;          // M, which is at least 1
+  void TextMode(CGTextDrawingMode mode) override;   // Tr
   void Path(const CGPath& path);                    // m l c h re
   void Paint(CGPathDrawingMode mode);               // f f* S B B*
   void Clip();                                      // W n

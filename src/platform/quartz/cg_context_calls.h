@@ -54,8 +54,8 @@ inline void CGContextAddCurveToPoint(CGContextRef c, CGFloat x1, CGFloat y1, CGF
   c->AddCurveToPoint({x1, y1}, {x2, y2}, {x3, y3});
 }
 /// @param clockwise  0 runs by increasing angle, anything else by decreasing angle; a difference of
-///                   a full turn or more is one full circle. A line joins the current point, if any,
-///                   to the arc's start.
+///                   a full turn or more is one full circle. A line joins the current point, if
+///                   any, to the arc's start.
 inline void CGContextAddArc(CGContextRef c, CGFloat x, CGFloat y, CGFloat radius,
                             CGFloat startAngle, CGFloat endAngle, int clockwise) {
   c->AddArc({x, y}, radius, startAngle, endAngle, clockwise != 0);

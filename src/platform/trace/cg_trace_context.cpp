@@ -7,7 +7,8 @@
 
 #include "base/number.h"
 #include "base/unicode.h"
-#include "platform/quartz/cg_state_writer.h"
+#include "platform/quartz/cg_clip_writer.h"
+#include "platform/quartz/cg_value_writer.h"
 
 namespace kelvane {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke", "fill-stroke",
                                                          "eo-fill-stroke"};
 
-class CGTraceContext final : public CGContext, private CGStateWriter {
+class CGTraceContext final : public CGContext, private CGClipOperators, private CGValueOperators {
  public:
   explicit CGTraceContext(std::string& output) : output_(output) {}
 
@@ -27,17 +28,18 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
   ~CGTraceContext() override = default;
 
   void PageBegins(const CGRect& box) override {
-    StartPage();
+    clips_ = {};
+    values_ = {};
     Line("page", {box.origin.x, box.origin.y, box.size.width, box.size.height});
   }
 
   void PageEnds() override {
-    FinishPage();
+    clips_.End(*this);
     Line("end-page", {});
   }
 
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
-    Prepare(State(), Clips(), {.fill = Fills(mode), .stroke = Strokes(mode)});
+    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
     WritePath(path);
     const CGStrokeGeometry stroke = StrokeGeometry(State());
     if (Strokes(mode) && stroke.throughTransform) {
@@ -48,14 +50,14 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
   }
 
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
-    Prepare(State(), Clips(), {});
+    BeginMark({}, State());
     LineUnder("image " + std::to_string(image.width) + ' ' + std::to_string(image.height) +
                   (image.components == 1 ? " gray" : " rgb"),
               matrix);
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
-    Prepare(run.isEmboldened ? Emboldened(State(), run.size) : State(), Clips(), {.text = true});
+    BeginMark({.text = true}, run.isEmboldened ? Emboldened(State(), run.size) : State());
     std::u16string text;
     for (const CGPositionedGlyph& glyph : run.glyphs)
       text += glyph.text;
@@ -67,21 +69,29 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
       Line("  at", {glyph.origin.x, glyph.origin.y});
   }
 
-  void WriteSave() override { Line("save", {}); }
-  void WriteRestore() override { Line("restore", {}); }
-  void WriteClip(const CGPath& area) override {
-    WritePath(area);
+  void BeginMark(CGStateNeeds needs, const CGGraphicsState& state) {
+    clips_.Bring(Clips(), *this);
+    values_.Bring(state, needs, *this);
+  }
+
+  void WriteSave() override {
+    Line("save", {});
+    values_.Save();
+  }
+  void WriteRestore() override {
+    Line("restore", {});
+    values_.Restore();
+  }
+  void WriteClip(const CGClip& clip) override {
+    WritePath(clip.area);
     Line("clip", {});
   }
-  void WriteFillColor(const CGColor& color) override {
-    Line("fill-color", {color.red, color.green, color.blue});
-  }
-  void WriteStrokeColor(const CGColor& color) override {
-    Line("stroke-color", {color.red, color.green, color.blue});
-  }
-  void WriteLineWidth(CGFloat width) override { Line("line-width", {width}); }
-  void WriteMiterLimit(CGFloat limit) override { Line("miter-limit", {limit}); }
-  void WriteTextMode(CGTextDrawingMode mode) override {
+
+  void FillColor(const CGColor& color) override { ColorLine("fill-color", color); }
+  void StrokeColor(const CGColor& color) override { ColorLine("stroke-color", color); }
+  void LineWidth(CGFloat width) override { Line("line-width", {width}); }
+  void MiterLimit(CGFloat limit) override { Line("miter-limit", {limit}); }
+  void TextMode(CGTextDrawingMode mode) override {
     Line("text-mode", {static_cast<CGFloat>(mode)});
   }
 
@@ -106,6 +116,10 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
     Line(words += " under", {t.a, t.b, t.c, t.d, t.tx, t.ty});
   }
 
+  void ColorLine(std::string_view words, const CGColor& color) {
+    Line(words, {color.red, color.green, color.blue});
+  }
+
   void Line(std::string_view words, std::initializer_list<CGFloat> numbers) {
     output_ += words;
     for (const CGFloat number : numbers)
@@ -120,6 +134,8 @@ class CGTraceContext final : public CGContext, private CGStateWriter {
   }
 
   std::string& output_;
+  CGClipWriter clips_;
+  CGValueWriter values_;
 };
 
 }  // namespace

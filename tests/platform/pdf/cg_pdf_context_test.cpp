@@ -238,6 +238,18 @@ TEST(CGPDFContext, WritesAClipBetweenSaveAndRestore) {
             "q\n0 0 50 50 re\nW n\n1 2 3 4 re\nf\nQ\n");
 }
 
+TEST(CGPDFContext, KnowsWhichValuesARestoreBringsBack) {
+  EXPECT_EQ(PdfContentOf([](CGContextRef c) {
+              CGContextSaveGState(c);
+              CGContextClipToRect(c, CGRectMake(0, 0, 50, 50));
+              test::SetFill(c, 1, 0, 0);
+              FillRect(c, CGRectMake(1, 2, 3, 4));
+              CGContextRestoreGState(c);
+              FillRect(c, CGRectMake(5, 6, 7, 8));
+            }),
+            "q\n0 0 50 50 re\nW n\n1 0 0 rg\n1 2 3 4 re\nf\nQ\n5 6 7 8 re\nf\n");
+}
+
 TEST(CGPDFContext, StaysFreeOfComplaintsWithCoordinatesBeyond64Bits) {
   const test::TemporaryFolder folder;
   test::WriteFile(folder / "a.pdf", PdfBytesOf([](CGContextRef c) {
