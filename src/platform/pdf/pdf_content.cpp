@@ -100,7 +100,7 @@ void PdfContent::DrawXObject(std::string_view name) {
 }
 
 void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code,
-                           CGFloat width) {
+                           int width) {
   const auto gap = line_.Gap(style, origin);
   if (!gap) {
     EndLine();

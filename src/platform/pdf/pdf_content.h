@@ -41,8 +41,9 @@ class PdfContent final : public CGValueOperators {
   void DrawXObject(std::string_view name);          // Do
 
   /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
-  /// shared with the glyphs before and after it. @param width  thousandths of an em.
-  void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, CGFloat width);
+  /// shared with the glyphs before and after it. @param width  thousandths of an em, as the
+  /// document has it.
+  void ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code, int width);
 
   /// True while nothing waits to be handed on.
   [[nodiscard]] bool IsEmpty() const { return text_.IsEmpty(); }

@@ -1,7 +1,6 @@
 #include "platform/pdf/pdf_font.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <set>
 
@@ -28,11 +27,6 @@ QPDFObjectHandle Name(const std::string& name) {
 
 QPDFObjectHandle Integer(long long value) {
   return QPDFObjectHandle::newInteger(value);
-}
-
-QPDFObjectHandle Number(CGFloat value) {
-  std::array<char, kNumberRoom> text;
-  return QPDFObjectHandle::newReal(std::string(text.data(), WriteNumber(text.data(), value)));
 }
 
 /// Codes that mean nothing but glyphs of this face.
@@ -93,7 +87,7 @@ PdfFont::Code PdfFont::CodeFor(CGGlyph glyph, std::u16string_view text) {
   const auto known = codes_.find(key);
   if (known != codes_.end()) return known->second;
 
-  const CGFloat width = std::round(font_->Advance(glyph) * 1e6F) / 1000;
+  const int width = static_cast<int>(std::lround(font_->Advance(glyph) * 1000));
   const Code code = {NewCode(glyph), width};
   shown_.try_emplace(code.value, Shown{glyph, width, std::u16string(text)});
   if (codes_.size() < kMostCodes) codes_.emplace(std::move(key), code);
@@ -160,7 +154,7 @@ QPDFObjectHandle PdfFont::Widths() const {
       widths.appendItem(Integer(code));
       widths.appendItem(list);
     }
-    list.appendItem(Number(shown.width));
+    list.appendItem(Integer(shown.width));
     next = code + 1;
   }
   return widths;

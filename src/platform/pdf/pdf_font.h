@@ -24,7 +24,7 @@ class PdfFont {
   /// A glyph as the page's content names it.
   struct Code {
     std::uint16_t value;
-    CGFloat width;  // thousandths of an em, as the document has it
+    int width;  // thousandths of an em: there are readers that take no fractions
   };
 
   /// @param font        retained. @param dictionary  an empty one of the document, filled by
@@ -53,7 +53,7 @@ class PdfFont {
 
   struct Shown {
     CGGlyph glyph;
-    CGFloat width;
+    int width;
     std::u16string text;
   };
 

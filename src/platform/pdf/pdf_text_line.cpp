@@ -1,23 +1,37 @@
 #include "platform/pdf/pdf_text_line.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kelvane {
 namespace {
 
-// Readers of documents limit the length of an array; a wide gap is better a new position than a
-// number.
-constexpr int kMostGlyphs = 1000;
+// There are readers that add up widths in single precision, which shows after some hundred glyphs.
+// A wide gap is better a new position than a number.
+constexpr int kMostGlyphs = 100;
 constexpr double kWidestGap = 30000;  // thousandths of an em
 
-constexpr double kBaselineTolerance = 0.0005;  // ems
+// Of the tolerance along the line, what is tolerated across it. Both together are hardly more than
+// the former alone.
+constexpr double kShareAcross = 0.4;
 
-/// @param em  page units.
-double Quantum(double em) {
-  if (em <= 20) return 1;
-  if (em <= 200) return 0.1;
-  if (em <= 2000) return 0.01;
-  return 0.001;
+/// How far from its place a glyph may stand on the baseline. @param em  page units.
+/// @return thousandths of an em.
+double Tolerance(double em) {
+  constexpr double kThousandths = 0.5;  // what whole numbers are enough for
+  constexpr double kPageUnits = 0.01;
+  return std::min(kThousandths, kPageUnits / em * 1000);
+}
+
+/// @return the number of the fewest decimals that is near enough to `exact`: whole where that will
+/// do, and most often 0.
+double Rounded(double exact, double tolerance) {
+  constexpr int kFinest = 1000;
+  double rounded = std::round(exact);
+  for (int parts = 10; parts <= kFinest && std::abs(rounded - exact) > tolerance; parts *= 10) {
+    rounded = std::round(exact * parts) / parts;
+  }
+  return rounded;
 }
 
 struct Offset {
@@ -48,7 +62,7 @@ void PdfTextLine::Start(const PdfTextStyle& style, CGPoint origin) {
   matrix_.tx = onPage.x;
   matrix_.ty = onPage.y;
   scale_ = std::sqrt(std::abs(Determinant(matrix_)));
-  quantum_ = Quantum(size_ * scale_);
+  tolerance_ = Tolerance(size_ * scale_);
   pen_ = 0;
   count_ = 0;
 }
@@ -62,14 +76,13 @@ std::optional<CGFloat> PdfTextLine::Gap(const PdfTextStyle& style, CGPoint origi
   const Offset offset =
       OffsetBetween(matrix_, double{m.a} * origin.x + double{m.c} * origin.y + m.tx,
                     double{m.b} * origin.x + double{m.d} * origin.y + m.ty);
-  const double gap = std::round((offset.along - pen_) / size_ * 1000 / quantum_) * quantum_;
-  if (!(std::abs(offset.across) <= kBaselineTolerance * size_) || !(std::abs(gap) <= kWidestGap)) {
-    return std::nullopt;
-  }
+  const double gap = Rounded((offset.along - pen_) / size_ * 1000, tolerance_);
+  const double across = std::abs(offset.across) / size_ * 1000;
+  if (!(across <= kShareAcross * tolerance_) || !(std::abs(gap) <= kWidestGap)) return std::nullopt;
   return static_cast<CGFloat>(gap);
 }
 
-void PdfTextLine::Add(CGFloat gap, CGFloat width) {
+void PdfTextLine::Add(CGFloat gap, int width) {
   pen_ += (static_cast<double>(gap) + width) * size_ / 1000;
   ++count_;
 }

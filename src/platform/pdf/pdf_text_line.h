@@ -18,8 +18,9 @@ struct PdfTextStyle {
 };
 
 /// Glyphs on one baseline, gathered while each stands where one string with adjustments between its
-/// glyphs can put it (ISO 32000-1, 9.4.3). Positions are kept to a hundredth of a point up to 20
-/// points an em, and relatively finer above, whatever came before on the line.
+/// glyphs can put it (ISO 32000-1, 9.4.3). Each stands within half a thousandth of an em and a
+/// hundredth of a point of its place, whatever came before on the line: the pen moves as that of a
+/// reader does, and is moved on where it would be further off.
 class PdfTextLine {
  public:
   /// Starts over, its first glyph to come at `origin` of the style's text space.
@@ -31,8 +32,8 @@ class PdfTextLine {
   [[nodiscard]] std::optional<CGFloat> Gap(const PdfTextStyle& style, CGPoint origin) const;
 
   /// Moves the pen over a gap and a glyph. @param gap  what Gap gave, or 0 for the first.
-  /// @param width  thousandths of an em.
-  void Add(CGFloat gap, CGFloat width);
+  /// @param width  thousandths of an em, as the document has it.
+  void Add(CGFloat gap, int width);
 
   /// True for a line without glyphs.
   [[nodiscard]] bool IsEmpty() const { return count_ == 0; }
@@ -45,9 +46,9 @@ class PdfTextLine {
   std::string font_;
   CGFloat size_ = 0;
   CGAffineTransform matrix_;
-  double scale_ = 1;    // page units a text space unit
-  double quantum_ = 1;  // of adjustments, thousandths of an em
-  double pen_ = 0;      // behind the last glyph, text space units from the first
+  double scale_ = 1;      // page units a text space unit
+  double tolerance_ = 0;  // along the line, thousandths of an em
+  double pen_ = 0;        // behind the last glyph, text space units from the first
   int count_ = 0;
 };
 

@@ -89,10 +89,10 @@ TEST(PdfFont, IsStoredOnceForAllItsText) {
   EXPECT_EQ(fonts.find("LiberationSans"), fonts.rfind("LiberationSans"));
 }
 
-TEST(PdfFont, WritesTheWidthsOfItsGlyphs) {
+TEST(PdfFont, WritesTheWidthsOfItsGlyphsAsWholeNumbers) {
   const test::Pdf pdf(PdfWith(u"Hi"));
   EXPECT_EQ(FontIn(pdf).getKey("/DescendantFonts").getArrayItem(0).getKey("/W").unparse(),
-            "[ 1 [ 722.168 222.168 ] ]");
+            "[ 1 [ 722 222 ] ]");
 }
 
 TEST(PdfFont, GivesAGlyphACodeForEachTextItStandsFor) {
