@@ -5,9 +5,9 @@
 #include <set>
 
 #include "base/number.h"
+#include "platform/pdf/pdf_cmap.h"
 #include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_font_program.h"
-#include "platform/pdf/pdf_to_unicode.h"
 #include "platform/pdf/pdf_writer.h"
 
 namespace kelvane {
@@ -83,7 +83,7 @@ PdfFont::Code PdfFont::Encode(CGGlyph glyph, std::u16string_view text) {
 
 PdfFont::Code PdfFont::CodeFor(CGGlyph glyph, std::u16string_view text) {
   std::u16string key(1, static_cast<char16_t>(glyph));
-  if (IsTrueType()) key += text;
+  if (!IsStandard()) key += text;
   const auto known = codes_.find(key);
   if (known != codes_.end()) return known->second;
 
@@ -94,14 +94,28 @@ PdfFont::Code PdfFont::CodeFor(CGGlyph glyph, std::u16string_view text) {
   return code;
 }
 
-// TrueType codes are given out one after the other, a map leading from them to the glyphs. A CFF
-// program leaves no room for such a map: its codes are its characters' identifiers, or its glyphs
-// where it has none.
-std::uint16_t PdfFont::NewCode(CGGlyph glyph) const {
+// TrueType codes are given out one after the other: a map leads from them to the glyphs. A CFF
+// program has no such map but identifiers of its own, which are the best of codes as they need no
+// encoding. Only a glyph that stands for something else, too, takes another code, from the top.
+std::uint16_t PdfFont::NewCode(CGGlyph glyph) {
+  if (IsStandard()) return glyph;
   if (IsTrueType()) {
     return shown_.size() < kMostCodes ? static_cast<std::uint16_t>(shown_.size() + 1) : 0;
   }
+  const std::uint16_t identifier = CompactIdentifier(glyph);
+  if (!shown_.contains(identifier)) return identifier;
+  while (spareCode_ > 0 && shown_.contains(spareCode_))
+    --spareCode_;
+  return spareCode_;
+}
+
+std::uint16_t PdfFont::CompactIdentifier(CGGlyph glyph) const {
   return glyph < cids_.size() ? cids_[glyph] : glyph;
+}
+
+/// @return what a code is turned into before the glyph is looked up.
+std::uint16_t PdfFont::Identifier(std::uint16_t code, CGGlyph glyph) const {
+  return IsTrueType() ? code : CompactIdentifier(glyph);
 }
 
 void PdfFont::Finish(PdfWriter& writer) {
@@ -124,11 +138,31 @@ void PdfFont::Finish(PdfWriter& writer) {
   AddProgram(writer, cidFont, descriptor);
 
   dictionary_.replaceKey("/Subtype", Name("Type0"));
-  dictionary_.replaceKey("/BaseFont", Name(IsTrueType() ? name : name + "-Identity-H"));
-  dictionary_.replaceKey("/Encoding", Name("Identity-H"));
   dictionary_.replaceKey("/DescendantFonts",
                          QPDFObjectHandle::newArray({writer.AddObject(cidFont)}));
+  AddEncoding(writer, name);
   AddToUnicode(writer);
+}
+
+// The codes are the identifiers as long as no glyph stands for several texts.
+void PdfFont::AddEncoding(PdfWriter& writer, const std::string& name) {
+  const bool isIdentity = std::ranges::all_of(shown_, [this](const auto& entry) {
+    return Identifier(entry.first, entry.second.glyph) == entry.first;
+  });
+  const std::string mapName = isIdentity ? "Identity-H" : EncodingMap::kName;
+  dictionary_.replaceKey("/BaseFont", Name(IsTrueType() ? name : name + "-" + mapName));
+  dictionary_.replaceKey("/Encoding", isIdentity ? Name(mapName) : OwnEncoding(writer));
+}
+
+QPDFObjectHandle PdfFont::OwnEncoding(PdfWriter& writer) const {
+  EncodingMap map;
+  for (const auto& [code, shown] : shown_)
+    map.Add(code, Identifier(code, shown.glyph));
+  auto stream = writer.AddStream(map.Text());
+  stream.getDict().replaceKey("/Type", Name("CMap"));
+  stream.getDict().replaceKey("/CMapName", Name(EncodingMap::kName));
+  stream.getDict().replaceKey("/CIDSystemInfo", SystemInfo());
+  return stream;
 }
 
 std::string PdfFont::SubsetName() const {
@@ -143,19 +177,22 @@ std::string PdfFont::SubsetName() const {
   return tag.Letters() + "+" + Face().postScriptName;
 }
 
-// Codes that follow each other share one list.
+// Identifiers that follow each other share one list.
 QPDFObjectHandle PdfFont::Widths() const {
+  std::map<std::uint16_t, int> widthsByIdentifier;
+  for (const auto& [code, shown] : shown_)
+    widthsByIdentifier.emplace(Identifier(code, shown.glyph), shown.width);
   auto widths = QPDFObjectHandle::newArray();
   auto list = QPDFObjectHandle::newNull();
   int next = -1;
-  for (const auto& [code, shown] : shown_) {
-    if (code != next) {
+  for (const auto& [identifier, width] : widthsByIdentifier) {
+    if (identifier != next) {
       list = QPDFObjectHandle::newArray();
-      widths.appendItem(Integer(code));
+      widths.appendItem(Integer(identifier));
       widths.appendItem(list);
     }
-    list.appendItem(Integer(shown.width));
-    next = code + 1;
+    list.appendItem(Integer(width));
+    next = identifier + 1;
   }
   return widths;
 }

@@ -31,9 +31,8 @@ class PdfFont {
   /// Finish.
   PdfFont(CGFontRef font, const QPDFObjectHandle& dictionary);
 
-  /// @param text  what the glyph stands for. A TrueType glyph gets a code for every text it stands
-  /// for; a CFF
-  ///              glyph has a single code, which keeps the first text.
+  /// @param text  what the glyph stands for. It has a code for each text that it stands for, but a
+  /// standard face its code alone.
   Code Encode(CGGlyph glyph, std::u16string_view text);
 
   /// @return how many bytes a code takes: 1 or 2.
@@ -62,16 +61,21 @@ class PdfFont {
   [[nodiscard]] bool IsTrueType() const { return Face().outlines == CGFontOutlines::kTrueType; }
 
   Code CodeFor(CGGlyph glyph, std::u16string_view text);
-  [[nodiscard]] std::uint16_t NewCode(CGGlyph glyph) const;
+  [[nodiscard]] std::uint16_t NewCode(CGGlyph glyph);
+  [[nodiscard]] std::uint16_t CompactIdentifier(CGGlyph glyph) const;
+  [[nodiscard]] std::uint16_t Identifier(std::uint16_t code, CGGlyph glyph) const;
   [[nodiscard]] std::string SubsetName() const;
   [[nodiscard]] QPDFObjectHandle Widths() const;
   [[nodiscard]] QPDFObjectHandle Descriptor(const std::string& name) const;
   void AddProgram(PdfWriter& writer, QPDFObjectHandle cidFont, QPDFObjectHandle descriptor) const;
+  void AddEncoding(PdfWriter& writer, const std::string& name);
+  [[nodiscard]] QPDFObjectHandle OwnEncoding(PdfWriter& writer) const;
   void AddToUnicode(PdfWriter& writer);
 
   CFOwned<const CGFont> font_;
   QPDFObjectHandle dictionary_;
   std::vector<std::uint16_t> cids_;                 // of a CFF face that has them, by glyph
+  std::uint16_t spareCode_ = 0xFFFF;                // those above it are in use
   std::vector<CodeOfUnit> units_;                   // by glyph
   std::unordered_map<std::u16string, Code> codes_;  // by the glyph, as one unit, and the text
   std::map<std::uint16_t, Shown> shown_;            // by code

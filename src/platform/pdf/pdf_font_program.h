@@ -19,8 +19,8 @@ struct PdfFontProgram {
 };
 
 /// Cuts the face's program down. TrueType glyphs are numbered anew, without gaps; those of CFF keep
-/// their numbers, which are their codes. Hints go: they make up most of a small subset, and readers
-/// of documents draw outlines without them.
+/// their numbers, by which a document may know them. Hints go: they make up most of a small subset,
+/// and readers of documents draw outlines without them.
 /// @param font  not a standard face. @param glyphs  numbers in the face.
 /// @return nothing when the program is too broken to be cut down.
 std::optional<PdfFontProgram> SubsetProgram(const CGFont& font, const std::set<CGGlyph>& glyphs);

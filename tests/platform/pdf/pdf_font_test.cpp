@@ -6,6 +6,7 @@
 #include "support/fonts.h"
 #include "support/pdf.h"
 #include "support/process.h"
+#include "support/raster.h"
 #include "support/surface.h"
 #include "support/text.h"
 
@@ -101,6 +102,58 @@ TEST(PdfFont, GivesAGlyphACodeForEachTextItStandsFor) {
 
 TEST(PdfFont, ShowsTheBoxForAMissingCharacterWithItsText) {
   EXPECT_EQ(TextIn(PdfWith(u"a\u2E80b")), "a\u2E80b");
+}
+
+/// A font whose outlines are of either kind.
+class PdfFontOfAKind : public testing::TestWithParam<const char*> {
+ protected:
+  static std::string PdfAlone(std::u16string_view text) {
+    return PdfBytesOf([&](CGContextRef surface) {
+      DrawText(surface, text, {.font = GetParam(), .x = 10, .y = 50, .usesStandIns = false});
+    });
+  }
+};
+
+TEST_P(PdfFontOfAKind, KeepsTheTextOfEachMissingCharacter) {
+  EXPECT_EQ(TextIn(PdfAlone(u"a\u0E01b\u0E02\u0E03c\u0E01")), "a\u0E01b\u0E02\u0E03c\u0E01");
+}
+
+TEST_P(PdfFontOfAKind, KeepsTheTextOfEachWayToWriteALetter) {
+  EXPECT_EQ(TextIn(PdfAlone(u"1\u00E92e\u03013")), "1\u00E92e\u03013");
+}
+
+TEST_P(PdfFontOfAKind, DrawsTheSameForEachTextOfAGlyph) {
+  const test::Raster one(PdfAlone(u"a\u0E01b\u0E02\u00E9"));
+  const test::Raster other(PdfAlone(u"a\u0E01b\u0E01e\u0301"));
+  EXPECT_EQ(test::DifferingPixels(one, other, 0), 0);
+  EXPECT_NE(test::DifferingPixels(one, test::Raster(PdfAlone(u"a\u0E01b\u00E9")), 0), 0);
+}
+
+TEST_P(PdfFontOfAKind, MakesDocumentsWithoutFaults) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "text.pdf", PdfAlone(u"a\u0E01\u0E02\u00E9e\u0301"));
+  EXPECT_EQ(test::ComplaintsAbout(folder / "text.pdf"), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, PdfFontOfAKind, testing::Values("Liberation Sans", "Junction"), [](const auto& font) {
+      return std::string(font.param).substr(0, std::string(font.param).find(' '));
+    });
+
+TEST(PdfFont, HasAnEncodingOfItsOwnOnlyForCompactGlyphsOfSeveralTexts) {
+  const auto encodingOf = [](std::u16string_view text, const char* font) {
+    return FontIn(test::Pdf(PdfWith(text, font))).getKey("/Encoding").isName();
+  };
+  EXPECT_TRUE(encodingOf(u"1\u00E92", "Junction"));
+  EXPECT_FALSE(encodingOf(u"1\u00E92e\u0301", "Junction"));
+  EXPECT_TRUE(encodingOf(u"1\u00E92e\u0301", "Liberation Sans"));
+}
+
+TEST(PdfFont, WritesTheWidthOfACompactGlyphOnceForAllItsTexts) {
+  const test::Pdf pdf(PdfWith(u"\u00E9e\u0301", "Junction"));
+  auto widths = FontIn(pdf).getKey("/DescendantFonts").getArrayItem(0).getKey("/W");
+  ASSERT_EQ(widths.getArrayNItems(), 2);
+  EXPECT_EQ(widths.getArrayItem(1).getArrayNItems(), 1);
 }
 
 TEST(PdfFont, TakesTheMemberOfACollection) {

@@ -1,4 +1,4 @@
-#include "platform/pdf/pdf_to_unicode.h"
+#include "platform/pdf/pdf_cmap.h"
 
 #include <gmock/gmock.h>
 
@@ -37,6 +37,17 @@ TEST(ToUnicodeMap, CutsTextThatNoReaderTakes) {
   ToUnicodeMap map;
   map.Add(1, std::u16string(300, u'A'));
   EXPECT_LT(map.Text().size(), 256U * 4 + 400);
+}
+
+TEST(EncodingMap, LeadsFromCodesToIdentifiers) {
+  EncodingMap map;
+  map.Add(3, 3);
+  map.Add(0xFFFF, 3);
+  EXPECT_THAT(map.Text(), HasSubstr("2 begincidchar\n<0003> 3\n<FFFF> 3\nendcidchar\n"));
+}
+
+TEST(EncodingMap, SaysItsName) {
+  EXPECT_THAT(EncodingMap().Text(), HasSubstr(std::string("/CMapName /") + EncodingMap::kName));
 }
 
 }  // namespace

@@ -20,4 +20,19 @@ class ToUnicodeMap {
   std::vector<std::string> lines_;  // "<0001> <0041>"
 };
 
+/// The map that leads from the two-byte codes of a font to the identifiers of its characters (ISO
+/// 32000-1, 9.7.5), for a font that shows some character by several codes.
+class EncodingMap {
+ public:
+  static constexpr const char* kName = "Glyphs-H";
+
+  void Add(std::uint16_t code, std::uint16_t identifier);
+
+  /// @return the map as the stream to be stored, whose dictionary repeats kName.
+  [[nodiscard]] std::string Text() const;
+
+ private:
+  std::vector<std::string> lines_;  // "<0001> 34"
+};
+
 }  // namespace kelvane
