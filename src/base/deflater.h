@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdlib>
 #include <memory>
 #include <span>
 
@@ -9,12 +10,18 @@ struct libdeflate_compressor;
 
 namespace kelvane {
 
-/// What deflating left of some bytes.
+/// What deflating left of some bytes, in memory of just that size.
 struct DeflatedBytes {
-  std::unique_ptr<unsigned char[]> room;  // longer than what counts
+  struct Free {
+    void operator()(unsigned char* memory) const { std::free(memory); }
+  };
+
+  using Memory = std::unique_ptr<unsigned char[], Free>;
+
+  Memory bytes;
   std::size_t size = 0;
 
-  [[nodiscard]] std::span<const unsigned char> View() const { return {room.get(), size}; }
+  [[nodiscard]] std::span<const unsigned char> View() const { return {bytes.get(), size}; }
 };
 
 /// Deflates streams for /FlateDecode (ISO 32000-1, 7.4.4) as hard as it pays. Points on a map are
@@ -41,7 +48,12 @@ class Deflater {
     void operator()(libdeflate_compressor* compressor) const;
   };
 
-  [[nodiscard]] DeflatedBytes DeflateAt(int level, std::span<const unsigned char> data);
+  [[nodiscard]] libdeflate_compressor* CompressorAt(int level);
+  [[nodiscard]] std::size_t RoomAt(int level, std::size_t size);
+
+  /// @param room  bytes the result may have. @return nothing when these do not suffice.
+  [[nodiscard]] DeflatedBytes DeflateAt(int level, std::span<const unsigned char> data,
+                                        std::size_t room);
 
   // By level, each null until it is needed: their tables take more memory than most documents.
   std::array<std::unique_ptr<libdeflate_compressor, CompressorDeleter>, kThorough + 1> compressors_;

@@ -20,7 +20,7 @@ std::string Inflated(const DeflatedBytes& deflated, std::size_t size) {
   std::string text(size, '\0');
   const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor*)> decompressor(
       libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
-  EXPECT_EQ(libdeflate_zlib_decompress(decompressor.get(), deflated.room.get(), deflated.size,
+  EXPECT_EQ(libdeflate_zlib_decompress(decompressor.get(), deflated.bytes.get(), deflated.size,
                                        text.data(), text.size(), nullptr),
             LIBDEFLATE_SUCCESS);
   return text;

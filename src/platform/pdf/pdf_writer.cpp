@@ -1,11 +1,11 @@
 #include "platform/pdf/pdf_writer.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/Pipeline.hh>
@@ -31,6 +31,15 @@ class ConsumerPipeline final : public Pipeline {
 
  private:
   CGDataConsumer& consumer_;
+};
+
+/// A stream's bytes, which the library sees but does not own.
+struct DeflatedStream {
+  explicit DeflatedStream(DeflatedBytes deflated)
+      : bytes(std::move(deflated)), buffer(bytes.bytes.get(), bytes.size) {}
+
+  DeflatedBytes bytes;
+  Buffer buffer;
 };
 
 /// The far corner of a box may need more digits than its origin and size, hence the double; so long
@@ -70,11 +79,9 @@ PdfWriter::PdfWriter() {
 PdfWriter::~PdfWriter() = default;
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
-  const DeflatedBytes deflated = deflater_.Deflate(data);
-  deflatedBytes_ += deflated.size;
-  auto stream = std::make_shared<Buffer>(deflated.size);
-  std::ranges::copy(deflated.View(), stream->getBuffer());
-  return stream;
+  const auto stream = std::make_shared<DeflatedStream>(deflater_.Deflate(data));
+  deflatedBytes_ += stream->bytes.size;
+  return {stream, &stream->buffer};
 }
 
 QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
@@ -85,9 +92,19 @@ QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
   return stream;
 }
 
+// Rows without padding are deflated from where they are.
+std::shared_ptr<Buffer> PdfWriter::DeflatePixels(const CGImage& image) {
+  const auto bytes = image.provider->Bytes();
+  const std::size_t rowSize = image.width * image.components;
+  if (image.bytesPerRow == rowSize && bytes.size() / rowSize >= image.height) {
+    return Deflate(bytes.first(rowSize * image.height));
+  }
+  const auto packed = PackRows(bytes, rowSize, image.height, image.bytesPerRow);
+  return packed ? Deflate(*packed) : nullptr;
+}
+
 QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
-  const auto pixels = PackRows(image.provider->Bytes(), image.width * image.components,
-                               image.height, image.bytesPerRow);
+  const std::shared_ptr<Buffer> pixels = DeflatePixels(image);
   if (!pixels) return QPDFObjectHandle::newNull();
 
   auto dictionary = QPDFObjectHandle::newDictionary();
@@ -101,7 +118,7 @@ QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
                                            image.components == 1 ? "/DeviceGray" : "/DeviceRGB"));
   dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
   if (image.interpolate) dictionary.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
-  return SharedImage(dictionary, Deflate(*pixels));
+  return SharedImage(dictionary, pixels);
 }
 
 // Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is

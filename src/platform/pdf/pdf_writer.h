@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -67,6 +68,7 @@ class PdfWriter {
   };
 
   [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
+  [[nodiscard]] std::shared_ptr<Buffer> DeflatePixels(const CGImage& image);
   QPDFObjectHandle SharedImage(QPDFObjectHandle dictionary,
                                const std::shared_ptr<Buffer>& deflated);
 
