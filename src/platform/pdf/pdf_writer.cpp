@@ -151,6 +151,12 @@ PdfFont& PdfWriter::FontFor(CGFontRef font) {
 }
 
 QPDFObjectHandle PdfWriter::AddForm(const CGPDFPage& page) {
+  const DocumentPage key(page.document->pdf->getUniqueId(), page.index);
+  const auto known = forms_.find(key);
+  return known != forms_.end() ? known->second : forms_.emplace(key, CopyOf(page)).first->second;
+}
+
+QPDFObjectHandle PdfWriter::CopyOf(const CGPDFPage& page) {
   const QPDFObjectHandle source = page.document->pdf->getAllPages()[page.index];
   constexpr bool kApplyRotation = false;
   auto form =

@@ -48,7 +48,8 @@ class PdfWriter {
   /// the writer.
   PdfFont& FontFor(CGFontRef font);
 
-  /// @return the page of another document as a form XObject in that page's own space.
+  /// @return the page of another document as a form XObject in that page's own space, the same one
+  /// for the same page.
   QPDFObjectHandle AddForm(const CGPDFPage& page);
 
   /// Gives `page` the other document's page's own content and resources.
@@ -67,8 +68,11 @@ class PdfWriter {
     QPDFObjectHandle stream;
   };
 
+  using DocumentPage = std::pair<unsigned long long, std::size_t>;  // the document's number, index
+
   [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
   [[nodiscard]] std::shared_ptr<Buffer> DeflatePixels(const CGImage& image);
+  [[nodiscard]] QPDFObjectHandle CopyOf(const CGPDFPage& page);
   QPDFObjectHandle SharedImage(QPDFObjectHandle dictionary,
                                const std::shared_ptr<Buffer>& deflated);
 
@@ -76,6 +80,7 @@ class PdfWriter {
   Deflater deflater_;
   std::size_t deflatedBytes_ = 0;                             // of all streams
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
+  std::map<DocumentPage, QPDFObjectHandle> forms_;
   std::map<CGFontRef, std::size_t> fontIndexes_;
   std::deque<PdfFont> fonts_;  // in the order of their first use
 };

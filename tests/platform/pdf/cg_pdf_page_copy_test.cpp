@@ -1,3 +1,4 @@
+#include <set>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -100,6 +101,37 @@ TEST(PageCopy, IntoAnotherRectangleIsAFormFittedIntoIt) {
   const auto document = DocumentWithARectangle();
   EXPECT_EQ(PdfContentOf([&](CGContextRef c) { Copy(c, document, CGRectMake(10, 20, 50, 25)); }),
             "q\n0.5 0 0 0.25 10 20 cm\n/Fm1 Do\nQ\n");
+}
+
+TEST(PageCopy, IsOneFormWhereverItIsDrawn) {
+  const auto document = DocumentWithARectangle();
+  const Pdf copy(test::DocumentBytesOf([&](CGContextRef c) {
+    for (int page = 0; page < 2; ++page) {
+      CGContextBeginPage(c, &kBox);
+      Copy(c, document, CGRectMake(0, 0, 50, 50));
+      Copy(c, document, CGRectMake(50, 50, 50, 50));
+    }
+  }));
+  const auto formsOf = [&](std::size_t page) {
+    return copy.Page(page).getKey("/Resources").getKey("/XObject");
+  };
+  EXPECT_EQ(formsOf(0).getKeys(), std::set<std::string>{"/Fm1"});
+  EXPECT_EQ(formsOf(0).getKey("/Fm1").getObjGen(), formsOf(1).getKey("/Fm1").getObjGen());
+}
+
+TEST(PageCopy, IsAFormOfItsOwnForEachPageOfADocument) {
+  const auto document = test::OpenPdf(test::DocumentBytesOf([](CGContextRef c) {
+    for (const CGFloat size : {10.0F, 20.0F}) {
+      CGContextBeginPage(c, &kBox);
+      FillRect(c, CGRectMake(0, 0, size, size));
+    }
+  }));
+  const Pdf copy(PdfBytesOf([&](CGContextRef c) {
+    CGContextDrawPDFDocument(c, kMark, document.get(), 1);
+    CGContextDrawPDFDocument(c, kMark, document.get(), 2);
+  }));
+  EXPECT_EQ(copy.Page().getKey("/Resources").getKey("/XObject").getKeys(),
+            (std::set<std::string>{"/Fm1", "/Fm2"}));
 }
 
 TEST(PageCopy, UnderATransformIsAForm) {
