@@ -6,7 +6,6 @@ namespace kelvane::fuzz {
 namespace {
 
 constexpr std::uint32_t kEndOfFile = 14;  // the type of the last record
-constexpr std::size_t kTypeAndSize = 8;
 
 void Append(ByteVector& bytes, const ByteVector& more) {
   bytes.insert(bytes.end(), more.begin(), more.end());

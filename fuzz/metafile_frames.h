@@ -9,6 +9,9 @@ namespace kelvane::fuzz {
 
 using ByteVector = std::vector<unsigned char>;
 
+/// What every record begins with, in bytes.
+inline constexpr std::size_t kTypeAndSize = 8;
+
 /// A metafile taken apart where its records meet, so that one can be changed and the others still
 /// be found.
 struct Frames {

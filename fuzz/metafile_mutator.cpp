@@ -8,7 +8,6 @@
 namespace kelvane::fuzz {
 namespace {
 
-constexpr std::size_t kTypeAndSize = 8;
 constexpr std::size_t kSmallestField = kTypeAndSize + 4;
 
 // Where counts, sizes, coordinates and offsets begin to misbehave.

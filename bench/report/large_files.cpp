@@ -20,7 +20,7 @@
 namespace kelvane::bench {
 namespace {
 
-constexpr int kRuns = 7;
+constexpr int kLargeFileRuns = 7;
 constexpr std::size_t kMegabyte = 1'000'000;
 
 /// The streams of the page's content, inflated.
@@ -49,10 +49,10 @@ Finding AgainstDeflate() {
     for (const std::string& piece : content)
       libdeflate_zlib_compress(compressor, piece.data(), piece.size(), room.data(), room.size());
   };
-  const Series ratio = SideBySide([&] { Convert(metafile); }, deflate, kRuns);
+  const Series ratio = SideBySide([&] { Convert(metafile); }, deflate, kLargeFileRuns);
   libdeflate_free_compressor(compressor);
   return {"whole conversion of 50 MB of lines and curves : deflating its content alone", ratio,
-          kRuns, 2};
+          kLargeFileRuns, 2};
 }
 
 /// Keeps a result from being optimised away.
@@ -78,7 +78,7 @@ Finding AgainstMemory() {
     Keep(sum);
   };
   return {"parsing 50 MB of point lists : copying and summing the same bytes",
-          SideBySide(parse, move, kRuns), kRuns, 6};
+          SideBySide(parse, move, kLargeFileRuns), kLargeFileRuns, 6};
 }
 
 Finding Growth() {
@@ -87,7 +87,7 @@ Finding Growth() {
   for (const std::size_t megabytes : kSizes)
     metafiles.push_back(Drawing(megabytes * kMegabyte));
   std::vector<double> spreads;
-  for (int run = 0; run < kRuns; ++run) {
+  for (int run = 0; run < kLargeFileRuns; ++run) {
     std::vector<double> seconds;
     for (const auto& metafile : metafiles) {
       const auto convert = [&] { Convert(metafile); };
@@ -98,7 +98,7 @@ Finding Growth() {
     spreads.push_back(most / least);
   }
   return {"time a megabyte at 1, 10 and 100 MB, the slowest : the fastest", Summarize(spreads),
-          kRuns, 1.15};
+          kLargeFileRuns, 1.15};
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace kelvane::bench {
 namespace {
 
-constexpr int kRuns = 101;
+constexpr int kProcessRuns = 101;
 
 void Start(const std::vector<std::string>& command) {
   if (test::Run(command).status != 0) throw std::runtime_error("running " + command[0]);
@@ -23,7 +23,7 @@ class OnCopies {
  public:
   OnCopies(std::string converter, const std::vector<unsigned char>& metafile)
       : converter_(std::move(converter)) {
-    for (int i = 0; i < kRuns + 1; ++i)
+    for (int i = 0; i < kProcessRuns + 1; ++i)
       test::WriteFile(Copy(i), metafile);
   }
 
@@ -41,7 +41,8 @@ class OnCopies {
 
 Finding AgainstProgram(const std::string& what, OnCopies ours,
                        const std::vector<std::string>& theirs, double limit) {
-  return {what, SideBySide([&] { ours.Start(); }, [&] { Start(theirs); }, kRuns), kRuns, limit};
+  return {what, SideBySide([&] { ours.Start(); }, [&] { Start(theirs); }, kProcessRuns),
+          kProcessRuns, limit};
 }
 
 }  // namespace

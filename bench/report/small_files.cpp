@@ -9,7 +9,7 @@
 namespace kelvane::bench {
 namespace {
 
-constexpr int kRuns = 31;
+constexpr int kSmallFileRuns = 31;
 constexpr int kRepeats = 100;
 
 Action Conversion(const std::vector<unsigned char>& metafile) {
@@ -20,7 +20,8 @@ Finding AgainstEmptyPage(const std::string& what, const std::vector<unsigned cha
                          double limit) {
   const std::vector<unsigned char> empty = EmptyPage().bytes;
   return {what + " : an empty page",
-          SideBySide(Conversion(metafile), Conversion(empty), kRuns, kRepeats), kRuns, limit};
+          SideBySide(Conversion(metafile), Conversion(empty), kSmallFileRuns, kRepeats),
+          kSmallFileRuns, limit};
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace kelvane::bench {
 namespace {
 
-constexpr int kRuns = 15;
+constexpr int kThreadRuns = 15;
 constexpr int kFiles = 1000;
 
 void ConvertMany(const std::vector<unsigned char>& metafile, int count) {
@@ -25,8 +25,8 @@ std::vector<Finding> Threads() {
     std::jthread other([&] { ConvertMany(metafile, kFiles / 2); });
     ConvertMany(metafile, kFiles / 2);
   };
-  return {{"1,000 small files: one thread : two threads", SideBySide(alone, together, kRuns), kRuns,
-           1.8, true}};
+  return {{"1,000 small files: one thread : two threads", SideBySide(alone, together, kThreadRuns),
+           kThreadRuns, 1.8, true}};
 }
 
 }  // namespace kelvane::bench

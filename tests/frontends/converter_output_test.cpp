@@ -15,13 +15,13 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::vector<unsigned char> Lines() {
+std::vector<unsigned char> ALine() {
   return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
 }
 
 class ConverterOutput : public testing::Test {
  protected:
-  void SetUp() override { WriteFile(folder_ / "a.emf", Lines()); }
+  void SetUp() override { WriteFile(folder_ / "a.emf", ALine()); }
 
   TemporaryFolder folder_;
 };
@@ -81,7 +81,7 @@ class ConverterUmask : public testing::TestWithParam<Mask> {};
 
 TEST_P(ConverterUmask, SetsThePermissionsOfTheDocument) {
   const TemporaryFolder folder;
-  WriteFile(folder / "a.emf", Lines());
+  WriteFile(folder / "a.emf", ALine());
   RunConverterAfter(std::string("umask ") + GetParam().umask, folder / "a.emf");
   struct stat status {};
   ASSERT_EQ(stat((folder / "a.pdf").c_str(), &status), 0);

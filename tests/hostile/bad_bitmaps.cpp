@@ -3,8 +3,6 @@
 namespace kelvane::test {
 namespace {
 
-constexpr std::int32_t kMost = 0x7FFFFFFF;
-constexpr std::int32_t kLeast = -kMost - 1;
 constexpr const char* kDrawn = "rgb under 10 0 0 10 0 -10\n";
 
 /// The bitmap and a line.

@@ -5,8 +5,6 @@
 namespace kelvane::test {
 namespace {
 
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 

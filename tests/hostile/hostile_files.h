@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,9 @@ std::vector<HostileFile> FilesThatLeadAstray();      // records that overlap, en
 std::vector<HostileFile> FilesCutInsideAList();      // the data ends inside an element
 std::vector<HostileFile> FilesOfBadBitmaps();
 std::vector<HostileFile> FilesOfBadValues();  // numbers, handles, states
+
+inline constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+inline constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 
 /// A line to see whether what follows is still read, and what is drawn of it.
 inline constexpr const char* kLineTrace = "move 1 -2\nline 3 -4\nstroke\n";

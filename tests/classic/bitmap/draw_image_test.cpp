@@ -25,7 +25,7 @@ using testing::SizeIs;
 
 const Bytes kRgb = Bytes().BitmapHeader({.width = 2, .height = 2}).Zeros(16);
 const Bytes kGray = Bytes().BitmapHeader({.width = 2, .height = 2, .bitCount = 4}).Zeros(64 + 8);
-constexpr RectangleL kBox = {10, 20, 30, 60};
+constexpr RectangleL kTarget = {10, 20, 30, 60};
 
 std::string TraceOf(const Bytes& bitmap, const RectangleL& box) {
   TracedPage page;
@@ -34,40 +34,40 @@ std::string TraceOf(const Bytes& bitmap, const RectangleL& box) {
 }
 
 TEST(DrawImageInRect, FillsTheMappedRectangle) {
-  EXPECT_EQ(TraceOf(kRgb, kBox), "image 2 2 rgb under 20 0 0 40 10 -60\n");
+  EXPECT_EQ(TraceOf(kRgb, kTarget), "image 2 2 rgb under 20 0 0 40 10 -60\n");
 }
 
 TEST(DrawImageInRect, ScalesTheRectangleUnderTheAnisotropicMappingMode) {
   TracedPage page;
   page.Context().mapMode = kMapModeAnisotropic;
   page.Context().viewportExt = {2, 3};
-  DrawImageInRect(page.Context(), ReadStructure<DIB>(kRgb), kBox);
+  DrawImageInRect(page.Context(), ReadStructure<DIB>(kRgb), kTarget);
   EXPECT_EQ(page.Trace(), "image 2 2 rgb under 40 0 0 120 20 -180\n");
 }
 
 TEST(DrawImageInRect, StaysUprightInASwappedRectangle) {
-  EXPECT_EQ(TraceOf(kRgb, {30, 60, 10, 20}), TraceOf(kRgb, kBox));
+  EXPECT_EQ(TraceOf(kRgb, {30, 60, 10, 20}), TraceOf(kRgb, kTarget));
 }
 
 TEST(DrawImageInRect, StaysInItsPlaceOnThePageUnderATransform) {
   TracedPage page;
   CGContextConcatCTM(page.Context().context, {2, 0, 0, 4, 8, 16});
-  DrawImageInRect(page.Context(), ReadStructure<DIB>(kRgb), kBox);
-  EXPECT_EQ(page.Trace(), TraceOf(kRgb, kBox));
+  DrawImageInRect(page.Context(), ReadStructure<DIB>(kRgb), kTarget);
+  EXPECT_EQ(page.Trace(), TraceOf(kRgb, kTarget));
 }
 
 TEST(DrawImageInRect, DrawsEightBitPixelsInGray) {
-  EXPECT_EQ(TraceOf(kGray, kBox), "image 2 2 gray under 20 0 0 40 10 -60\n");
+  EXPECT_EQ(TraceOf(kGray, kTarget), "image 2 2 gray under 20 0 0 40 10 -60\n");
 }
 
 TEST(DrawImageInRect, MarksNothingWithoutPixels) {
-  EXPECT_EQ(TraceOf(Bytes().BitmapHeader({.bitCount = 1}).Zeros(12), kBox), "");
-  EXPECT_EQ(TraceOf(Bytes().BitmapHeader({.height = 0}), kBox), "");
+  EXPECT_EQ(TraceOf(Bytes().BitmapHeader({.bitCount = 1}).Zeros(12), kTarget), "");
+  EXPECT_EQ(TraceOf(Bytes().BitmapHeader({.height = 0}), kTarget), "");
 }
 
 TEST(ImageOnThePage, IsStoredOnceHoweverOftenItIsDrawn) {
-  const Pdf pdf(
-      ConvertToPdf(Metafile().StretchDibits(kBox, kRgb).StretchDibits({0, 0, 5, 5}, kRgb).Build()));
+  const Pdf pdf(ConvertToPdf(
+      Metafile().StretchDibits(kTarget, kRgb).StretchDibits({0, 0, 5, 5}, kRgb).Build()));
   EXPECT_THAT(pdf.Images(), SizeIs(1));
   EXPECT_NE(pdf.Content().find("20 0 0 40 10 -60 cm"), std::string::npos);
   EXPECT_NE(pdf.Content().find("5 0 0 5 0 -5 cm"), std::string::npos);
@@ -123,7 +123,7 @@ class ImageOnThePageOf : public testing::TestWithParam<Format> {};
 
 TEST_P(ImageOnThePageOf, HoldsTheDecodedPixelsByteForByte) {
   const Bytes bitmap = BitmapOf(GetParam());
-  const Pdf pdf(ConvertToPdf(Metafile().StretchDibits(kBox, bitmap).Build()));
+  const Pdf pdf(ConvertToPdf(Metafile().StretchDibits(kTarget, bitmap).Build()));
   ASSERT_THAT(pdf.Images(), SizeIs(1));
   EXPECT_THAT(pdf.Images().front(), ElementsAreArray(PixelsOf(ReadStructure<DIB>(bitmap))));
 }

@@ -2,18 +2,20 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 #include <ostream>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/surface_values.h"
+
 namespace kelvane {
 namespace {
 
-constexpr CGFloat kInfinity = std::numeric_limits<CGFloat>::infinity();
-constexpr CGFloat kNaN = std::numeric_limits<CGFloat>::quiet_NaN();
+using test::kInfinity;
+using test::kNaN;
+
 constexpr double kRadius = 100;
 constexpr CGPoint kCenter = {10, 20};
 

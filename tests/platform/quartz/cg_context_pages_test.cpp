@@ -5,13 +5,13 @@
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
 #include "support/surface.h"
+#include "support/surface_values.h"
 
 namespace kelvane {
 namespace {
 
+using test::kDouble;
 using test::StrokeLine;
-
-constexpr CGAffineTransform kDouble = {2, 0, 0, 2, 0, 0};
 
 /// What `draw` writes on a trace surface that it opens pages on itself.
 std::string TraceOfPages(const test::Drawing& draw) {

@@ -1,6 +1,5 @@
 #include "platform/quartz/cg_context.h"
 
-#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -8,18 +7,19 @@
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_standard_font.h"
 #include "support/surface.h"
+#include "support/surface_values.h"
 #include "support/text.h"
 
 namespace kelvane {
 namespace {
 
 using test::FillRect;
+using test::kDouble;
+using test::kInfinity;
+using test::kNaN;
 using test::StrokeLine;
 using test::TraceOf;
 
-constexpr CGFloat kInfinity = std::numeric_limits<CGFloat>::infinity();
-constexpr CGFloat kNaN = std::numeric_limits<CGFloat>::quiet_NaN();
-constexpr CGAffineTransform kDouble = {2, 0, 0, 2, 0, 0};
 constexpr CGAffineTransform kQuarterTurn = {0, 1, -1, 0, 0, 0};
 
 // The path.

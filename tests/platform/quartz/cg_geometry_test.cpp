@@ -1,18 +1,20 @@
 #include "platform/quartz/cg_geometry.h"
 
-#include <limits>
 #include <numbers>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "support/surface_values.h"
+
 namespace kelvane {
 namespace {
 
-constexpr CGFloat kInfinity = std::numeric_limits<CGFloat>::infinity();
-constexpr CGFloat kNaN = std::numeric_limits<CGFloat>::quiet_NaN();
+using test::kDouble;
+using test::kInfinity;
+using test::kNaN;
+
 constexpr CGAffineTransform kMoveBy10 = {1, 0, 0, 1, 10, 0};
-constexpr CGAffineTransform kDouble = {2, 0, 0, 2, 0, 0};
 
 void ExpectNear(const CGAffineTransform& actual, const CGAffineTransform& expected) {
   constexpr double kTolerance = 1e-6;

@@ -1,16 +1,17 @@
 #include "platform/quartz/cg_path.h"
 
-#include <limits>
 #include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "support/surface_values.h"
+
 namespace kelvane {
 namespace {
 
-constexpr CGFloat kInfinity = std::numeric_limits<CGFloat>::infinity();
-constexpr CGFloat kNaN = std::numeric_limits<CGFloat>::quiet_NaN();
+using test::kInfinity;
+using test::kNaN;
 
 /// The elements as a line of PDF operators: "1 2 m 3 4 l h".
 std::string Written(const CGPath& path) {
