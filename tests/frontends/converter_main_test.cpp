@@ -15,13 +15,9 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::vector<unsigned char> Lines() {
-  return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
-}
-
 class ConverterTest : public testing::Test {
  protected:
-  void SetUp() override { WriteFile(folder_ / "a.emf", Lines()); }
+  void SetUp() override { WriteFile(folder_ / "a.emf", FileOfALine()); }
 
   TemporaryFolder folder_;
 };
@@ -56,7 +52,7 @@ TEST_F(ConverterTest, LeavesTheMetafileAlone) {
 }
 
 TEST_F(ConverterTest, IgnoresFurtherArguments) {
-  WriteFile(folder_ / "b.emf", Lines());
+  WriteFile(folder_ / "b.emf", FileOfALine());
   const ProcessResult result = RunConverter({folder_ / "a.emf", folder_ / "b.emf", "--help"});
   EXPECT_EQ(result.output, kSuccess);
   EXPECT_EQ(NamesIn(folder_), (Names{"a.emf", "a.pdf", "b.emf"}));
@@ -81,7 +77,7 @@ class ConverterNames : public testing::TestWithParam<NamePair> {};
 
 TEST_P(ConverterNames, ReplacesTheLastThreeCharacters) {
   const TemporaryFolder folder;
-  WriteFile(folder / GetParam().metafile, Lines());
+  WriteFile(folder / GetParam().metafile, FileOfALine());
   EXPECT_EQ(RunConverter({folder / GetParam().metafile}).output, kSuccess);
   Names expected = {GetParam().metafile, GetParam().document};
   std::sort(expected.begin(), expected.end());
@@ -109,20 +105,20 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ConverterTest, TakesALongRelativePathFromTheFolderItRunsIn) {
   std::filesystem::create_directory(folder_.Path() / "in ner");
-  WriteFile(folder_ / "in ner/b.emf", Lines());
+  WriteFile(folder_ / "in ner/b.emf", FileOfALine());
   const auto result = RunConverterIn(folder_, "./in ner/../in ner/b.emf");
   EXPECT_EQ(result.output, kSuccess);
   EXPECT_TRUE(std::filesystem::exists(folder_ / "in ner/b.pdf"));
 }
 
 TEST_F(ConverterTest, TakesAPathOfThreeCharacters) {
-  WriteFile(folder_ / "abc", Lines());
+  WriteFile(folder_ / "abc", FileOfALine());
   EXPECT_EQ(RunConverterIn(folder_, "abc").status, 0);
   EXPECT_EQ(NamesIn(folder_), (Names{"a.emf", "abc", "pdf"}));
 }
 
 TEST_F(ConverterTest, FailsAndWritesNothingForAPathOfTwoCharacters) {
-  WriteFile(folder_ / "ab", Lines());
+  WriteFile(folder_ / "ab", FileOfALine());
   const auto result = RunConverterIn(folder_, "ab");
   EXPECT_EQ(result.output, kFailure);
   EXPECT_EQ(result.status, kFailed);

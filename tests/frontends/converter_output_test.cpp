@@ -15,13 +15,9 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::vector<unsigned char> ALine() {
-  return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
-}
-
 class ConverterOutput : public testing::Test {
  protected:
-  void SetUp() override { WriteFile(folder_ / "a.emf", ALine()); }
+  void SetUp() override { WriteFile(folder_ / "a.emf", FileOfALine()); }
 
   TemporaryFolder folder_;
 };
@@ -81,7 +77,7 @@ class ConverterUmask : public testing::TestWithParam<Mask> {};
 
 TEST_P(ConverterUmask, SetsThePermissionsOfTheDocument) {
   const TemporaryFolder folder;
-  WriteFile(folder / "a.emf", ALine());
+  WriteFile(folder / "a.emf", FileOfALine());
   RunConverterAfter(std::string("umask ") + GetParam().umask, folder / "a.emf");
   struct stat status {};
   ASSERT_EQ(stat((folder / "a.pdf").c_str(), &status), 0);

@@ -21,10 +21,6 @@ namespace {
 
 using Block = std::vector<unsigned char>;
 
-Block Lines() {
-  return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
-}
-
 Block WithoutArea() {
   return Metafile().Bounds(5, 5, 5, 90).Polyline({{1, 2}, {3, 4}}).Build();
 }
@@ -35,22 +31,22 @@ Block EndingInAPoint() {
 }
 
 TEST(KELVANE, AppendsOneDocumentOfOnePage) {
-  const Conversion conversion = ConvertInMemory(Lines());
+  const Conversion conversion = ConvertInMemory(FileOfALine());
   EXPECT_EQ(conversion.status, 0);
   EXPECT_EQ(Pdf(conversion.output).PageCount(), 1U);
 }
 
 TEST(KELVANE, MakesADocumentWithoutFault) {
   const TemporaryFolder folder;
-  WriteFile(folder / "made.pdf", ConvertInMemory(Lines()).output);
+  WriteFile(folder / "made.pdf", ConvertInMemory(FileOfALine()).output);
   EXPECT_EQ(ComplaintsAbout(folder / "made.pdf"), "");
 }
 
 TEST(KELVANE, AppendsBehindWhatIsThere) {
-  const std::string alone = ConvertInMemory(Lines()).output;
+  const std::string alone = ConvertInMemory(FileOfALine()).output;
   const std::string other = ConvertInMemory(Metafile().Build()).output;
   const DataObject data;
-  KELVANE(Lines().data(), Lines().size(), data.Get());
+  KELVANE(FileOfALine().data(), FileOfALine().size(), data.Get());
   KELVANE(Metafile().Build().data(), Metafile().Build().size(), data.Get());
   EXPECT_EQ(data.Text(), alone + other);
 }
@@ -79,12 +75,12 @@ class BlockAtTheEndOfMemory {
 };
 
 TEST(KELVANE, NeverTouchesTheLastByte) {
-  Block allButTheLast = Lines();
+  Block allButTheLast = FileOfALine();
   allButTheLast.pop_back();
   const BlockAtTheEndOfMemory block(allButTheLast);
   const DataObject data;
-  EXPECT_EQ(KELVANE(block.Start(), Lines().size(), data.Get()), 0);
-  EXPECT_EQ(data.Text(), ConvertInMemory(Lines()).output);
+  EXPECT_EQ(KELVANE(block.Start(), FileOfALine().size(), data.Get()), 0);
+  EXPECT_EQ(data.Text(), ConvertInMemory(FileOfALine()).output);
 }
 
 TEST(KELVANE, DropsThePointThatNeedsTheLastByte) {
@@ -107,9 +103,9 @@ class KelvaneGarbage : public testing::TestWithParam<Garbage> {};
 
 TEST_P(KelvaneGarbage, FailsAndLeavesTheOutputAsItWas) {
   const DataObject data;
-  KELVANE(Lines().data(), Lines().size(), data.Get());
+  KELVANE(FileOfALine().data(), FileOfALine().size(), data.Get());
   EXPECT_EQ(KELVANE(GetParam().bytes.data(), GetParam().bytes.size(), data.Get()), -1);
-  EXPECT_EQ(data.Text(), ConvertInMemory(Lines()).output);
+  EXPECT_EQ(data.Text(), ConvertInMemory(FileOfALine()).output);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -120,12 +116,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Garbage{"HeaderLongerThanTheData",
                             Bytes().U32(EMR_HEADER).U32(5000).Zeros(200).Data()},
                     Garbage{"DescriptionBehindItsHeader",
-                            WithField(Lines(), kDescriptionOffsetAt, kHeaderSize + 1)},
+                            WithField(FileOfALine(), kDescriptionOffsetAt, kHeaderSize + 1)},
                     Garbage{"TwoHundredBytesOfOnes", Block(200, 0xFF)}),
     [](const auto& row) { return row.param.name; });
 
 TEST(KELVANE, MakesNothingWithoutAnOutput) {
-  EXPECT_EQ(KELVANE(Lines().data(), Lines().size(), nullptr), 0);
+  EXPECT_EQ(KELVANE(FileOfALine().data(), FileOfALine().size(), nullptr), 0);
 }
 
 TEST(KELVANE, TakesNoBufferForNoBytes) {
@@ -163,10 +159,10 @@ TEST(ReadFromFile, ReadsTheLastByteOfTheFile) {
 
 TEST(ReadFromFile, WritesThePageThatIsMadeInMemory) {
   const TemporaryFolder folder;
-  WriteFile(folder / "a.emf", Lines());
+  WriteFile(folder / "a.emf", FileOfALine());
   ASSERT_EQ(ReadFromFile((folder / "a.emf").c_str()), 0);
   const Pdf written(ReadFile(folder / "a.pdf"));
-  const Pdf made(ConvertInMemory(Lines()).output);
+  const Pdf made(ConvertInMemory(FileOfALine()).output);
   EXPECT_EQ(written.Content(), made.Content());
   EXPECT_EQ(written.MediaBox(), made.MediaBox());
 }
@@ -192,7 +188,7 @@ TEST(CFDataCreateMutable, ReturnsNullWhenThereIsNoSuchMemory) {
 
 TEST(CFDataCreateMutable, TakesItsCapacityForNoLimit) {
   CFMutableDataRef data = CFDataCreateMutable(nullptr, 1);
-  EXPECT_EQ(KELVANE(Lines().data(), Lines().size(), data), 0);
+  EXPECT_EQ(KELVANE(FileOfALine().data(), FileOfALine().size(), data), 0);
   EXPECT_GT(CFDataGetLength(data), 1);
   CFRelease(data);
 }
@@ -200,7 +196,7 @@ TEST(CFDataCreateMutable, TakesItsCapacityForNoLimit) {
 TEST(CFRetain, KeepsTheObjectUntilItsLastReferenceGoes) {
   CFMutableDataRef data = CFDataCreateMutable(nullptr, 0);
   EXPECT_EQ(CFRetain(data), data);
-  KELVANE(Lines().data(), Lines().size(), data);
+  KELVANE(FileOfALine().data(), FileOfALine().size(), data);
   CFRelease(data);
   EXPECT_EQ(CFDataGetBytePtr(data)[0], '%');
   CFRelease(data);

@@ -21,7 +21,7 @@ struct List {
   std::vector<unsigned char> pixels = {};
 };
 
-Metafile Ending(std::uint32_t type, const Bytes& body) {
+Metafile EndingIn(std::uint32_t type, const Bytes& body) {
   return Metafile().Record(type, body);
 }
 
@@ -42,7 +42,7 @@ Bytes WidePoints(At last) {
   return Bytes().PointL(1, 2).PointL(3, 4).PointL(last.x, last.y);
 }
 
-Bytes Poly(std::uint32_t count, const Bytes& points) {
+Bytes PolyOf(std::uint32_t count, const Bytes& points) {
   return Bytes().Rectangle(0, 0, -1, -1).U32(count).Append(points.Data());
 }
 
@@ -55,14 +55,15 @@ std::vector<List> ListsOfPoints() {
   const std::vector<std::string> wide = {kLineTrace};
   const Bytes counts = Bytes().Rectangle(0, 0, -1, -1).U32(3).U32(2).U32(2).U32(77).U32(20);
   return {
-      {"points16", Ending(EMR_POLYLINE16, Poly(4, NarrowPoints())), 4, narrow},
-      {"points32", Ending(EMR_POLYLINE, Poly(3, WidePoints(kLikeASkippedRecord))), 8, wide},
-      {"points32_like_a_rectangle", Ending(EMR_POLYLINE, Poly(3, WidePoints(kLikeARectangle))), 8,
-       wide},
-      {"counts_of_figures", Ending(EMR_POLYPOLYLINE, counts), 4, {""}},
-      {"points16_of_figures", Ending(EMR_POLYPOLYLINE16, OneFigure(4, NarrowPoints())), 4, narrow},
+      {"points16", EndingIn(EMR_POLYLINE16, PolyOf(4, NarrowPoints())), 4, narrow},
+      {"points32", EndingIn(EMR_POLYLINE, PolyOf(3, WidePoints(kLikeASkippedRecord))), 8, wide},
+      {"points32_like_a_rectangle", EndingIn(EMR_POLYLINE, PolyOf(3, WidePoints(kLikeARectangle))),
+       8, wide},
+      {"counts_of_figures", EndingIn(EMR_POLYPOLYLINE, counts), 4, {""}},
+      {"points16_of_figures", EndingIn(EMR_POLYPOLYLINE16, OneFigure(4, NarrowPoints())), 4,
+       narrow},
       {"points32_of_figures",
-       Ending(EMR_POLYPOLYLINE, OneFigure(3, WidePoints(kLikeASkippedRecord))), 8, wide},
+       EndingIn(EMR_POLYPOLYLINE, OneFigure(3, WidePoints(kLikeASkippedRecord))), 8, wide},
   };
 }
 
@@ -102,7 +103,7 @@ std::vector<List> ListsOfBytes() {
   const Bytes bits = Bytes().Rectangle(0, 0, 1, 1).Zeros(72).U32(12).Zeros(12);
   return {
       {"palette",
-       Ending(EMR_STRETCHDIBITS, colors),
+       EndingIn(EMR_STRETCHDIBITS, colors),
        4,
        {"image 1 1 rgb under 10 0 0 10 0 -10\n"},
        {0, 0, 0}},

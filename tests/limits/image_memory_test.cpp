@@ -17,7 +17,7 @@ using ByteList = std::vector<unsigned char>;
 
 constexpr std::size_t kSide = 2000;  // pixels of three bytes
 constexpr std::size_t kPixels = kSide * kSide * 3;
-constexpr std::size_t kMebibyte = 1 << 20;  // for objects, and for what deflating keeps
+constexpr std::size_t kAllowance = 1 << 20;  // for objects, and for what deflating keeps
 
 /// Bytes that do not deflate.
 ByteList Noise(std::size_t size) {
@@ -51,19 +51,19 @@ Usage DrawingImage(const ByteList& bytes, std::size_t bytesPerRow) {
 TEST(DrawingAnImage, TakesNoMoreThanItsPixelsDeflated) {
   const Usage usage = DrawingImage(Noise(kPixels), kSide * 3);
   EXPECT_GT(usage.afterwards, kPixels);  // as they cannot be
-  EXPECT_LT(usage.whileDrawn, kPixels + kMebibyte);
+  EXPECT_LT(usage.whileDrawn, kPixels + kAllowance);
 }
 
 TEST(DrawingAnImage, KeepsOfAFlatOneNextToNothing) {
   const Usage usage = DrawingImage(ByteList(kPixels, 0x80), kSide * 3);
-  EXPECT_LT(usage.afterwards, kMebibyte);
-  EXPECT_LT(usage.whileDrawn, kPixels + kMebibyte);  // the room for the worst that could be
+  EXPECT_LT(usage.afterwards, kAllowance);
+  EXPECT_LT(usage.whileDrawn, kPixels + kAllowance);  // the room for the worst that could be
 }
 
 TEST(DrawingAnImage, TakesOneMoreCopyOfRowsWithPadding) {
   const Usage usage = DrawingImage(Noise(kSide * (kSide * 3 + 4)), kSide * 3 + 4);
-  EXPECT_LT(usage.whileDrawn, 2 * kPixels + kMebibyte);
-  EXPECT_LT(usage.afterwards, kPixels + kMebibyte);
+  EXPECT_LT(usage.whileDrawn, 2 * kPixels + kAllowance);
+  EXPECT_LT(usage.afterwards, kPixels + kAllowance);
 }
 
 }  // namespace

@@ -199,6 +199,10 @@ Metafile& Metafile::ArcLike(std::uint32_t type, const RectangleL& box, At start,
   return Record(type, Box(box).PointL(start.x, start.y).PointL(end.x, end.y));
 }
 
+std::vector<unsigned char> FileOfALine() {
+  return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
+}
+
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
                                      std::uint32_t value) {
   std::ranges::copy(Bytes().U32(value).Data(), file.begin() + static_cast<std::ptrdiff_t>(offset));

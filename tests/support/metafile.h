@@ -179,6 +179,9 @@ class Metafile {
   std::uint32_t handleCount_ = 1;  // object table entries, the reserved one included
 };
 
+/// @return a file that draws a line from (10, 20) to (30, 40).
+std::vector<unsigned char> FileOfALine();
+
 /// @return the file with a field of four bytes replaced.
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
                                      std::uint32_t value);

@@ -126,12 +126,13 @@ void PrintTo(const Line& line, std::ostream* out) {
 class OriginsOnALine : public testing::TestWithParam<Line> {};
 
 TEST_P(OriginsOnALine, AreFoundByAReaderWhereTheyBelong) {
-  const auto& [font, size, rotation] = GetParam();
+  const Line& line = GetParam();
   std::u16string text;
   for (int i = 0; i < 5; ++i)
     text += u"The quick brown fox jumps over the lazy dog. ";
   const Drawing draw = [&](CGContextRef surface) {
-    DrawText(surface, text, {.font = font, .size = size, .rotation = rotation, .x = 30, .y = 50});
+    DrawText(surface, text,
+             {.font = line.font, .size = line.size, .rotation = line.rotation, .x = 30, .y = 50});
   };
   const std::string trace = TraceOf(draw);
   ASSERT_EQ(GlyphsOfTheTrace(trace).size(), text.size());

@@ -4,15 +4,16 @@
 
 #include "platform/quartz/cg_context_calls.h"
 #include "support/surface.h"
+#include "support/surface_values.h"
 
 namespace kelvane {
 namespace {
 
 using test::FillRect;
+using test::kClipA;
+using test::kMark;
 using test::TraceOf;
 
-constexpr CGRect kMark = {{10, 10}, {5, 5}};
-constexpr CGRect kClipA = {{0, 0}, {50, 50}};
 constexpr CGRect kClipB = {{5, 5}, {40, 40}};
 
 TEST(CGClipWriter, WritesAClipOnceForAllMarksUnderIt) {

@@ -4,16 +4,16 @@
 
 #include "platform/quartz/cg_context_calls.h"
 #include "support/surface.h"
+#include "support/surface_values.h"
 #include "support/text.h"
 
 namespace kelvane {
 namespace {
 
 using test::FillRect;
+using test::kClipA;
+using test::kMark;
 using test::TraceOf;
-
-constexpr CGRect kMark = {{10, 10}, {5, 5}};
-constexpr CGRect kClipA = {{0, 0}, {50, 50}};
 
 TEST(CGContextClip, EmptiesThePath) {
   EXPECT_EQ(TraceOf([](CGContextRef c) {

@@ -7,18 +7,19 @@
 
 #include "platform/quartz/cg_context_calls.h"
 #include "support/surface.h"
+#include "support/surface_values.h"
 #include "support/text.h"
 
 namespace kelvane {
 namespace {
 
 using test::FillRect;
+using test::kMark;
 using test::SetFill;
 using test::SetStroke;
 using test::StrokeLine;
 using test::TraceOf;
 
-constexpr CGRect kMark = {{10, 10}, {5, 5}};
 constexpr CGRect kClip = {{0, 0}, {50, 50}};
 
 TEST(CGValueWriter, WritesNoStateThatNoMarkNeeds) {
