@@ -30,6 +30,8 @@ using Arrows = std::map<std::string, std::set<std::string>>;
 const Arrows& Floors() {
   static const Arrows kFloors = {
       {"base", {}},
+      {"metafile", {"base"}},
+      {"metafile/emf", {"metafile"}},
       {"platform/corefoundation", {"base"}},
       {"platform/quartz", {"platform/corefoundation"}},
       {"platform/fonts", {"platform/quartz"}},

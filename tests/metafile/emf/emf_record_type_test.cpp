@@ -1,0 +1,174 @@
+#include "metafile/emf/emf_record_type.h"
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "support/emf_decoders.h"
+
+namespace kelvane {
+namespace {
+
+struct Row {
+  std::string_view name;
+  std::uint32_t ours;
+  std::uint32_t type;  // the format's
+};
+#define ROW(number, name) \
+  Row {                   \
+#name, name, number   \
+  }
+
+constexpr Row kRows[] = {
+    ROW(1, EMR_HEADER),
+    ROW(2, EMR_POLYBEZIER),
+    ROW(3, EMR_POLYGON),
+    ROW(4, EMR_POLYLINE),
+    ROW(5, EMR_POLYBEZIERTO),
+    ROW(6, EMR_POLYLINETO),
+    ROW(7, EMR_POLYPOLYLINE),
+    ROW(8, EMR_POLYPOLYGON),
+    ROW(9, EMR_SETWINDOWEXTEX),
+    ROW(10, EMR_SETWINDOWORGEX),
+    ROW(11, EMR_SETVIEWPORTEXTEX),
+    ROW(12, EMR_SETVIEWPORTORGEX),
+    ROW(13, EMR_SETBRUSHORGEX),
+    ROW(14, EMR_EOF),
+    ROW(15, EMR_SETPIXELV),
+    ROW(16, EMR_SETMAPPERFLAGS),
+    ROW(17, EMR_SETMAPMODE),
+    ROW(18, EMR_SETBKMODE),
+    ROW(19, EMR_SETPOLYFILLMODE),
+    ROW(20, EMR_SETROP2),
+    ROW(21, EMR_SETSTRETCHBLTMODE),
+    ROW(22, EMR_SETTEXTALIGN),
+    ROW(23, EMR_SETCOLORADJUSTMENT),
+    ROW(24, EMR_SETTEXTCOLOR),
+    ROW(25, EMR_SETBKCOLOR),
+    ROW(26, EMR_OFFSETCLIPRGN),
+    ROW(27, EMR_MOVETOEX),
+    ROW(28, EMR_SETMETARGN),
+    ROW(29, EMR_EXCLUDECLIPRECT),
+    ROW(30, EMR_INTERSECTCLIPRECT),
+    ROW(31, EMR_SCALEVIEWPORTEXTEX),
+    ROW(32, EMR_SCALEWINDOWEXTEX),
+    ROW(33, EMR_SAVEDC),
+    ROW(34, EMR_RESTOREDC),
+    ROW(35, EMR_SETWORLDTRANSFORM),
+    ROW(36, EMR_MODIFYWORLDTRANSFORM),
+    ROW(37, EMR_SELECTOBJECT),
+    ROW(38, EMR_CREATEPEN),
+    ROW(39, EMR_CREATEBRUSHINDIRECT),
+    ROW(40, EMR_DELETEOBJECT),
+    ROW(41, EMR_ANGLEARC),
+    ROW(42, EMR_ELLIPSE),
+    ROW(43, EMR_RECTANGLE),
+    ROW(44, EMR_ROUNDRECT),
+    ROW(45, EMR_ARC),
+    ROW(46, EMR_CHORD),
+    ROW(47, EMR_PIE),
+    ROW(48, EMR_SELECTPALETTE),
+    ROW(49, EMR_CREATEPALETTE),
+    ROW(50, EMR_SETPALETTEENTRIES),
+    ROW(51, EMR_RESIZEPALETTE),
+    ROW(52, EMR_REALIZEPALETTE),
+    ROW(53, EMR_EXTFLOODFILL),
+    ROW(54, EMR_LINETO),
+    ROW(55, EMR_ARCTO),
+    ROW(56, EMR_POLYDRAW),
+    ROW(57, EMR_SETARCDIRECTION),
+    ROW(58, EMR_SETMITERLIMIT),
+    ROW(59, EMR_BEGINPATH),
+    ROW(60, EMR_ENDPATH),
+    ROW(61, EMR_CLOSEFIGURE),
+    ROW(62, EMR_FILLPATH),
+    ROW(63, EMR_STROKEANDFILLPATH),
+    ROW(64, EMR_STROKEPATH),
+    ROW(65, EMR_FLATTENPATH),
+    ROW(66, EMR_WIDENPATH),
+    ROW(67, EMR_SELECTCLIPPATH),
+    ROW(68, EMR_ABORTPATH),
+    ROW(70, EMR_COMMENT),
+    ROW(71, EMR_FILLRGN),
+    ROW(72, EMR_FRAMERGN),
+    ROW(73, EMR_INVERTRGN),
+    ROW(74, EMR_PAINTRGN),
+    ROW(75, EMR_EXTSELECTCLIPRGN),
+    ROW(76, EMR_BITBLT),
+    ROW(77, EMR_STRETCHBLT),
+    ROW(78, EMR_MASKBLT),
+    ROW(79, EMR_PLGBLT),
+    ROW(80, EMR_SETDIBITSTODEVICE),
+    ROW(81, EMR_STRETCHDIBITS),
+    ROW(82, EMR_EXTCREATEFONTINDIRECTW),
+    ROW(83, EMR_EXTTEXTOUTA),
+    ROW(84, EMR_EXTTEXTOUTW),
+    ROW(85, EMR_POLYBEZIER16),
+    ROW(86, EMR_POLYGON16),
+    ROW(87, EMR_POLYLINE16),
+    ROW(88, EMR_POLYBEZIERTO16),
+    ROW(89, EMR_POLYLINETO16),
+    ROW(90, EMR_POLYPOLYLINE16),
+    ROW(91, EMR_POLYPOLYGON16),
+    ROW(92, EMR_POLYDRAW16),
+    ROW(93, EMR_CREATEMONOBRUSH),
+    ROW(94, EMR_CREATEDIBPATTERNBRUSHPT),
+    ROW(95, EMR_EXTCREATEPEN),
+    ROW(96, EMR_POLYTEXTOUTA),
+    ROW(97, EMR_POLYTEXTOUTW),
+    ROW(98, EMR_SETICMMODE),
+    ROW(99, EMR_CREATECOLORSPACE),
+    ROW(100, EMR_SETCOLORSPACE),
+    ROW(101, EMR_DELETECOLORSPACE),
+    ROW(102, EMR_GLSRECORD),
+    ROW(103, EMR_GLSBOUNDEDRECORD),
+    ROW(104, EMR_PIXELFORMAT),
+    ROW(105, EMR_DRAWESCAPE),
+    ROW(106, EMR_EXTESCAPE),
+    ROW(108, EMR_SMALLTEXTOUT),
+    ROW(109, EMR_FORCEUFIMAPPING),
+    ROW(110, EMR_NAMEDESCAPE),
+    ROW(111, EMR_COLORCORRECTPALETTE),
+    ROW(112, EMR_SETICMPROFILEA),
+    ROW(113, EMR_SETICMPROFILEW),
+    ROW(114, EMR_ALPHABLEND),
+    ROW(115, EMR_SETLAYOUT),
+    ROW(116, EMR_TRANSPARENTBLT),
+    ROW(118, EMR_GRADIENTFILL),
+    ROW(119, EMR_SETLINKEDUFIS),
+    ROW(120, EMR_SETTEXTJUSTIFICATION),
+    ROW(121, EMR_COLORMATCHTOTARGETW),
+    ROW(122, EMR_CREATECOLORSPACEW),
+};
+
+TEST(EmfRecordType, HasTheNumbersOfTheFormat) {
+  for (const Row& row : kRows)
+    EXPECT_EQ(row.ours, row.type) << row.name;
+}
+
+TEST(RecordName, NamesEveryRecord) {
+  for (const Row& row : kRows)
+    EXPECT_EQ(RecordName(row.type), row.name);
+}
+
+TEST(RecordName, HasNoNameForWhatIsNoRecord) {
+  std::set<std::uint32_t> types;
+  for (const Row& row : kRows)
+    types.insert(row.type);
+  EXPECT_EQ(types.size(), 119U);
+  for (std::uint32_t type = 0; type < 300; ++type)
+    EXPECT_EQ(RecordName(type).empty(), !types.contains(type)) << type;
+  EXPECT_EQ(RecordName(0xFFFFFFFF), "");
+}
+
+TEST(EmfDecoders, AreThereForEveryRecordWithFields) {
+  const std::set<std::uint32_t> withoutFields = {EMR_SETMETARGN,  EMR_SAVEDC,    EMR_REALIZEPALETTE,
+                                                 EMR_BEGINPATH,   EMR_ENDPATH,   EMR_CLOSEFIGURE,
+                                                 EMR_FLATTENPATH, EMR_WIDENPATH, EMR_ABORTPATH};
+  for (const Row& row : kRows)
+    EXPECT_EQ(test::HasEmfDecoder(row.type), !withoutFields.contains(row.type)) << row.name;
+}
+
+}  // namespace
+}  // namespace kelvane

@@ -1,0 +1,337 @@
+// The constants and sizes of the format, as tables to be compared with its description.
+
+#include <cstdint>
+
+#include <gtest/gtest.h>
+
+#include "metafile/emf/emf_comment_records.h"
+#include "metafile/emf/emf_stored_dib.h"
+#include "metafile/emf/emf_text_records.h"
+#include "metafile/gdi_enumerations.h"
+#include "metafile/gdi_objects.h"
+#include "metafile/gdi_types.h"
+
+namespace kelvane {
+namespace {
+
+struct Constant {
+  const char* name;
+  std::uint32_t value;     // ours
+  std::uint32_t expected;  // the format's
+};
+#define CONSTANT(name, expected) \
+  Constant {                     \
+#name, name, expected        \
+  }
+
+constexpr Constant kModes[] = {
+    CONSTANT(MM_TEXT, 1),
+    CONSTANT(MM_LOMETRIC, 2),
+    CONSTANT(MM_HIMETRIC, 3),
+    CONSTANT(MM_LOENGLISH, 4),
+    CONSTANT(MM_HIENGLISH, 5),
+    CONSTANT(MM_TWIPS, 6),
+    CONSTANT(MM_ISOTROPIC, 7),
+    CONSTANT(MM_ANISOTROPIC, 8),
+    CONSTANT(GM_COMPATIBLE, 1),
+    CONSTANT(GM_ADVANCED, 2),
+    CONSTANT(MWT_IDENTITY, 1),
+    CONSTANT(MWT_LEFTMULTIPLY, 2),
+    CONSTANT(MWT_RIGHTMULTIPLY, 3),
+    CONSTANT(MWT_SET, 4),
+    CONSTANT(LAYOUT_RTL, 1),
+    CONSTANT(LAYOUT_BTT, 2),
+    CONSTANT(LAYOUT_VBH, 4),
+    CONSTANT(LAYOUT_BITMAPORIENTATIONPRESERVED, 8),
+    CONSTANT(TRANSPARENT, 1),
+    CONSTANT(OPAQUE, 2),
+    CONSTANT(ALTERNATE, 1),
+    CONSTANT(WINDING, 2),
+    CONSTANT(STRETCH_ANDSCANS, 1),
+    CONSTANT(STRETCH_ORSCANS, 2),
+    CONSTANT(STRETCH_DELETESCANS, 3),
+    CONSTANT(STRETCH_HALFTONE, 4),
+    CONSTANT(AD_COUNTERCLOCKWISE, 1),
+    CONSTANT(AD_CLOCKWISE, 2),
+    CONSTANT(ICM_OFF, 1),
+    CONSTANT(ICM_ON, 2),
+    CONSTANT(ICM_QUERY, 3),
+    CONSTANT(ICM_DONE_OUTSIDEDC, 4),
+    CONSTANT(CS_ENABLE, 1),
+    CONSTANT(CS_DISABLE, 2),
+    CONSTANT(CS_DELETE_TRANSFORM, 3),
+    CONSTANT(RGN_AND, 1),
+    CONSTANT(RGN_OR, 2),
+    CONSTANT(RGN_XOR, 3),
+    CONSTANT(RGN_DIFF, 4),
+    CONSTANT(RGN_COPY, 5),
+    CONSTANT(PT_CLOSEFIGURE, 1),
+    CONSTANT(PT_LINETO, 2),
+    CONSTANT(PT_BEZIERTO, 4),
+    CONSTANT(PT_MOVETO, 6),
+    CONSTANT(GRADIENT_FILL_RECT_H, 0),
+    CONSTANT(GRADIENT_FILL_RECT_V, 1),
+    CONSTANT(GRADIENT_FILL_TRIANGLE, 2),
+    CONSTANT(FLOODFILLBORDER, 0),
+    CONSTANT(FLOODFILLSURFACE, 1),
+    CONSTANT(DIB_RGB_COLORS, 0),
+    CONSTANT(DIB_PAL_COLORS, 1),
+    CONSTANT(DIB_PAL_INDICES, 2),
+    CONSTANT(BI_RGB, 0),
+    CONSTANT(BI_RLE8, 1),
+    CONSTANT(BI_RLE4, 2),
+    CONSTANT(BI_BITFIELDS, 3),
+    CONSTANT(BI_JPEG, 4),
+    CONSTANT(BI_PNG, 5),
+    CONSTANT(BI_CMYK, 0xB),
+    CONSTANT(BI_CMYKRLE8, 0xC),
+    CONSTANT(BI_CMYKRLE4, 0xD),
+};
+
+constexpr Constant kRasterOperations[] = {
+    CONSTANT(R2_BLACK, 1),
+    CONSTANT(R2_NOTMERGEPEN, 2),
+    CONSTANT(R2_MASKNOTPEN, 3),
+    CONSTANT(R2_NOTCOPYPEN, 4),
+    CONSTANT(R2_MASKPENNOT, 5),
+    CONSTANT(R2_NOT, 6),
+    CONSTANT(R2_XORPEN, 7),
+    CONSTANT(R2_NOTMASKPEN, 8),
+    CONSTANT(R2_MASKPEN, 9),
+    CONSTANT(R2_NOTXORPEN, 10),
+    CONSTANT(R2_NOP, 11),
+    CONSTANT(R2_MERGENOTPEN, 12),
+    CONSTANT(R2_COPYPEN, 13),
+    CONSTANT(R2_MERGEPENNOT, 14),
+    CONSTANT(R2_MERGEPEN, 15),
+    CONSTANT(R2_WHITE, 16),
+    CONSTANT(BLACKNESS, 0x00000042),
+    CONSTANT(NOTSRCERASE, 0x001100A6),
+    CONSTANT(NOTSRCCOPY, 0x330008),
+    CONSTANT(SRCERASE, 0x00440328),
+    CONSTANT(DSTINVERT, 0x00550009),
+    CONSTANT(PATINVERT, 0x005A0049),
+    CONSTANT(SRCINVERT, 0x00660046),
+    CONSTANT(SRCAND, 0x008800C6),
+    CONSTANT(MERGEPAINT, 0xBB0226),
+    CONSTANT(MERGECOPY, 0x00C000CA),
+    CONSTANT(SRCCOPY, 0x00CC0020),
+    CONSTANT(SRCPAINT, 0x00EE0086),
+    CONSTANT(PATCOPY, 0x00F00021),
+    CONSTANT(PATPAINT, 0x00FB0A09),
+    CONSTANT(WHITENESS, 0x00FF0062),
+};
+
+constexpr Constant kTextFlags[] = {
+    CONSTANT(TA_UPDATECP, 1),
+    CONSTANT(TA_LEFT, 0),
+    CONSTANT(TA_RIGHT, 2),
+    CONSTANT(TA_CENTER, 6),
+    CONSTANT(TA_HORIZONTALMASK, 6),
+    CONSTANT(TA_TOP, 0),
+    CONSTANT(TA_BOTTOM, 8),
+    CONSTANT(TA_BASELINE, 24),
+    CONSTANT(TA_VERTICALMASK, 0x18),
+    CONSTANT(TA_RTLREADING, 0x100),
+    CONSTANT(VTA_BASELINE, 24),
+    CONSTANT(VTA_CENTER, 6),
+    CONSTANT(VTA_LEFT, 8),
+    CONSTANT(VTA_RIGHT, 0),
+    CONSTANT(VTA_TOP, 0),
+    CONSTANT(VTA_BOTTOM, 2),
+    CONSTANT(ETO_OPAQUE, 0x2),
+    CONSTANT(ETO_CLIPPED, 0x4),
+    CONSTANT(ETO_GLYPH_INDEX, 0x10),
+    CONSTANT(ETO_RTLREADING, 0x80),
+    CONSTANT(ETO_NO_RECT, 0x100),
+    CONSTANT(ETO_SMALL_CHARS, 0x200),
+    CONSTANT(ETO_NUMERICSLOCAL, 0x400),
+    CONSTANT(ETO_NUMERICSLATIN, 0x800),
+    CONSTANT(ETO_IGNORELANGUAGE, 0x1000),
+    CONSTANT(ETO_PDY, 0x2000),
+    CONSTANT(ETO_REVERSE_INDEX_MAP, 0x10000),
+};
+
+constexpr Constant kPensAndBrushes[] = {
+    CONSTANT(PS_SOLID, 0),
+    CONSTANT(PS_DASH, 1),
+    CONSTANT(PS_DOT, 2),
+    CONSTANT(PS_DASHDOT, 3),
+    CONSTANT(PS_DASHDOTDOT, 4),
+    CONSTANT(PS_NULL, 5),
+    CONSTANT(PS_INSIDEFRAME, 6),
+    CONSTANT(PS_USERSTYLE, 7),
+    CONSTANT(PS_ALTERNATE, 8),
+    CONSTANT(PS_STYLE_MASK, 0xF),
+    CONSTANT(PS_ENDCAP_ROUND, 0x000),
+    CONSTANT(PS_ENDCAP_SQUARE, 0x100),
+    CONSTANT(PS_ENDCAP_FLAT, 0x200),
+    CONSTANT(PS_ENDCAP_MASK, 0x0F00),
+    CONSTANT(PS_JOIN_ROUND, 0x0000),
+    CONSTANT(PS_JOIN_BEVEL, 0x1000),
+    CONSTANT(PS_JOIN_MITER, 0x2000),
+    CONSTANT(PS_JOIN_MASK, 0xF000),
+    CONSTANT(PS_COSMETIC, 0),
+    CONSTANT(PS_GEOMETRIC, 0x10000),
+    CONSTANT(PS_TYPE_MASK, 0xF0000),
+    CONSTANT(BS_SOLID, 0),
+    CONSTANT(BS_NULL, 1),
+    CONSTANT(BS_HATCHED, 2),
+    CONSTANT(BS_PATTERN, 3),
+    CONSTANT(BS_INDEXED, 4),
+    CONSTANT(BS_DIBPATTERN, 5),
+    CONSTANT(BS_DIBPATTERNPT, 6),
+    CONSTANT(BS_PATTERN8X8, 7),
+    CONSTANT(BS_DIBPATTERN8X8, 8),
+    CONSTANT(BS_MONOPATTERN, 9),
+    CONSTANT(HS_HORIZONTAL, 0),
+    CONSTANT(HS_VERTICAL, 1),
+    CONSTANT(HS_FDIAGONAL, 2),
+    CONSTANT(HS_BDIAGONAL, 3),
+    CONSTANT(HS_CROSS, 4),
+    CONSTANT(HS_DIAGCROSS, 5),
+    CONSTANT(HS_SOLIDCLR, 6),
+    CONSTANT(HS_DITHEREDCLR, 7),
+    CONSTANT(HS_SOLIDTEXTCLR, 8),
+    CONSTANT(HS_DITHEREDTEXTCLR, 9),
+    CONSTANT(HS_SOLIDBKCLR, 10),
+    CONSTANT(HS_DITHEREDBKCLR, 11),
+};
+
+constexpr Constant kStockObjects[] = {
+    CONSTANT(WHITE_BRUSH, 0x80000000),      CONSTANT(LTGRAY_BRUSH, 0x80000001),
+    CONSTANT(GRAY_BRUSH, 0x80000002),       CONSTANT(DKGRAY_BRUSH, 0x80000003),
+    CONSTANT(BLACK_BRUSH, 0x80000004),      CONSTANT(NULL_BRUSH, 0x80000005),
+    CONSTANT(WHITE_PEN, 0x80000006),        CONSTANT(BLACK_PEN, 0x80000007),
+    CONSTANT(NULL_PEN, 0x80000008),         CONSTANT(OEM_FIXED_FONT, 0x8000000A),
+    CONSTANT(ANSI_FIXED_FONT, 0x8000000B),  CONSTANT(ANSI_VAR_FONT, 0x8000000C),
+    CONSTANT(SYSTEM_FONT, 0x8000000D),      CONSTANT(DEVICE_DEFAULT_FONT, 0x8000000E),
+    CONSTANT(DEFAULT_PALETTE, 0x8000000F),  CONSTANT(SYSTEM_FIXED_FONT, 0x80000010),
+    CONSTANT(DEFAULT_GUI_FONT, 0x80000011), CONSTANT(DC_BRUSH, 0x80000012),
+    CONSTANT(DC_PEN, 0x80000013),
+};
+
+constexpr Constant kFonts[] = {
+    CONSTANT(ANSI_CHARSET, 0),
+    CONSTANT(DEFAULT_CHARSET, 1),
+    CONSTANT(SYMBOL_CHARSET, 2),
+    CONSTANT(MAC_CHARSET, 77),
+    CONSTANT(SHIFTJIS_CHARSET, 128),
+    CONSTANT(HANGUL_CHARSET, 129),
+    CONSTANT(JOHAB_CHARSET, 130),
+    CONSTANT(GB2312_CHARSET, 134),
+    CONSTANT(CHINESEBIG5_CHARSET, 136),
+    CONSTANT(GREEK_CHARSET, 161),
+    CONSTANT(TURKISH_CHARSET, 162),
+    CONSTANT(VIETNAMESE_CHARSET, 163),
+    CONSTANT(HEBREW_CHARSET, 177),
+    CONSTANT(ARABIC_CHARSET, 178),
+    CONSTANT(BALTIC_CHARSET, 186),
+    CONSTANT(RUSSIAN_CHARSET, 204),
+    CONSTANT(THAI_CHARSET, 222),
+    CONSTANT(EASTEUROPE_CHARSET, 238),
+    CONSTANT(OEM_CHARSET, 255),
+    CONSTANT(DEFAULT_PITCH, 0),
+    CONSTANT(FIXED_PITCH, 1),
+    CONSTANT(VARIABLE_PITCH, 2),
+    CONSTANT(PITCH_MASK, 3),
+    CONSTANT(FF_DONTCARE, 0x00),
+    CONSTANT(FF_ROMAN, 0x10),
+    CONSTANT(FF_SWISS, 0x20),
+    CONSTANT(FF_MODERN, 0x30),
+    CONSTANT(FF_SCRIPT, 0x40),
+    CONSTANT(FF_DECORATIVE, 0x50),
+    CONSTANT(FF_MASK, 0xF0),
+    CONSTANT(OUT_DEFAULT_PRECIS, 0),
+    CONSTANT(OUT_STRING_PRECIS, 1),
+    CONSTANT(OUT_STROKE_PRECIS, 3),
+    CONSTANT(OUT_TT_PRECIS, 4),
+    CONSTANT(OUT_DEVICE_PRECIS, 5),
+    CONSTANT(OUT_RASTER_PRECIS, 6),
+    CONSTANT(OUT_TT_ONLY_PRECIS, 7),
+    CONSTANT(OUT_OUTLINE_PRECIS, 8),
+    CONSTANT(OUT_PS_ONLY_PRECIS, 10),
+    CONSTANT(CLIP_LH_ANGLES, 0x10),
+    CONSTANT(CLIP_TT_ALWAYS, 0x20),
+    CONSTANT(CLIP_DFA_DISABLE, 0x40),
+    CONSTANT(CLIP_EMBEDDED, 0x80),
+    CONSTANT(DEFAULT_QUALITY, 0),
+    CONSTANT(DRAFT_QUALITY, 1),
+    CONSTANT(PROOF_QUALITY, 2),
+    CONSTANT(NONANTIALIASED_QUALITY, 3),
+    CONSTANT(ANTIALIASED_QUALITY, 4),
+    CONSTANT(CLEARTYPE_QUALITY, 5),
+};
+
+constexpr Constant kComments[] = {
+    CONSTANT(EMR_COMMENT_BEGINGROUP, 0x2),
+    CONSTANT(EMR_COMMENT_ENDGROUP, 0x3),
+    CONSTANT(EMR_COMMENT_UNICODE_STRING, 0x40),
+    CONSTANT(EMR_COMMENT_UNICODE_END, 0x80),
+    CONSTANT(EMR_COMMENT_MULTIFORMATS, 0x40000004),
+    CONSTANT(EMR_COMMENT_WINDOWS_METAFILE, 0x80000001),
+};
+
+template <std::size_t count>
+void ExpectEach(const Constant (&constants)[count]) {
+  for (const Constant& constant : constants)
+    EXPECT_EQ(constant.value, constant.expected) << constant.name;
+}
+
+TEST(GdiEnumerations, HaveTheValuesOfTheFormat) {
+  ExpectEach(kModes);
+  ExpectEach(kRasterOperations);
+  ExpectEach(kTextFlags);
+  ExpectEach(kPensAndBrushes);
+  ExpectEach(kStockObjects);
+  ExpectEach(kFonts);
+  ExpectEach(kComments);
+}
+
+constexpr Constant kSizes[] = {
+    {"PointL", kStoredSize<PointL>, 8},
+    {"Point16", kStoredSize<Point16>, 4},
+    {"SizeL", kStoredSize<SizeL>, 8},
+    {"RectangleL", kStoredSize<RectangleL>, 16},
+    {"XForm", kStoredSize<XForm>, 24},
+    {"ColorRef", kStoredSize<ColorRef>, 4},
+    {"PaletteEntry", kStoredSize<PaletteEntry>, 4},
+    {"BlendFunction", kStoredSize<BlendFunction>, 4},
+    {"TriVertex", kStoredSize<TriVertex>, 16},
+    {"GradientTriangle", kStoredSize<GradientTriangle>, 12},
+    {"GradientRectangle", kStoredSize<GradientRectangle>, 8},
+    {"ColorAdjustment", kStoredSize<ColorAdjustment>, 24},
+    {"LogPen", kStoredSize<LogPen>, 16},
+    {"LogPenEx", kStoredSize<LogPenEx>, 24},
+    {"LogBrush", kStoredSize<LogBrush>, 12},
+    {"LogFont", kStoredSize<LogFont>, 92},
+    {"Panose", kStoredSize<Panose>, 10},
+    {"LogColorSpace", kStoredSize<LogColorSpace>, 68},
+    {"PixelFormatDescriptor", kStoredSize<PixelFormatDescriptor>, 40},
+    {"UniversalFontId", kStoredSize<UniversalFontId>, 8},
+    {"DibPlace", kStoredSize<DibPlace>, 16},
+    {"StoredText", kStoredSize<StoredText>, 40},
+    {"TextScale", kStoredSize<TextScale>, 12},
+    {"EmrFormat", kStoredSize<EmrFormat>, 16},
+};
+
+TEST(GdiStructures, TakeAsManyBytesAsInTheFormat) {
+  ExpectEach(kSizes);
+}
+
+TEST(ColorRef, HasRedInItsLowestByte) {
+  constexpr ColorRef kColor = {0x00332211};
+  EXPECT_EQ(kColor.Red(), 0x11);
+  EXPECT_EQ(kColor.Green(), 0x22);
+  EXPECT_EQ(kColor.Blue(), 0x33);
+  EXPECT_FALSE(kColor.IsPaletteIndex());
+}
+
+TEST(ColorRef, IsAnIndexIntoThePaletteWhenTheTopByteIsOne) {
+  EXPECT_TRUE(ColorRef{0x01000203}.IsPaletteIndex());
+  EXPECT_EQ(ColorRef{0x01000203}.PaletteIndex(), 0x203);
+  EXPECT_FALSE(ColorRef{0x02000203}.IsPaletteIndex());
+}
+
+}  // namespace
+}  // namespace kelvane
