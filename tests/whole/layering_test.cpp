@@ -2,6 +2,7 @@
 //
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
+//     gdi > metafile, quartz
 //
 // and within the classic conversion
 //
@@ -39,6 +40,7 @@ const Arrows& Floors() {
       {"platform/pdf", {"platform/quartz"}},
       {"platform/trace", {"platform/quartz"}},
       {"platform/appkit", {"platform/corefoundation"}},
+      {"gdi", {"metafile", "platform/quartz"}},
       {"players", {"platform/quartz"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},
