@@ -1,0 +1,88 @@
+#include "gdi/brush.h"
+
+namespace kelvane {
+namespace {
+
+/// The rows of the six hatches that are lines: set bits are lines, the top bit is left.
+constexpr std::uint64_t kHatchRows[] = {
+    0x000000FF00000000,  // HS_HORIZONTAL
+    0x0808080808080808,  // HS_VERTICAL
+    0x8040201008040201,  // HS_FDIAGONAL
+    0x0102040810204080,  // HS_BDIAGONAL
+    0x080808FF08080808,  // HS_CROSS
+    0x8142241818244281,  // HS_DIAGCROSS
+};
+
+BrushPaint Solid(ColorRef color, const Palette& palette) {
+  return {.kind = Brush::Kind::kSolid, .color = ResolveColor(color, palette)};
+}
+
+BrushPaint ResolveHatch(const Brush& brush, const BrushColors& colors) {
+  switch (brush.hatch) {
+    case HS_SOLIDCLR:
+    case HS_DITHEREDCLR:
+      return Solid(brush.color, colors.palette);
+    case HS_SOLIDTEXTCLR:
+    case HS_DITHEREDTEXTCLR:
+      return Solid(colors.text, colors.palette);
+    case HS_SOLIDBKCLR:
+    case HS_DITHEREDBKCLR:
+      return Solid(colors.background, colors.palette);
+    default:
+      break;
+  }
+  BrushPaint paint = {.kind = Brush::Kind::kHatched,
+                      .color = ResolveColor(brush.color, colors.palette),
+                      .hatchRows = kHatchRows[brush.hatch]};
+  if (colors.mode == OPAQUE) paint.background = ResolveColor(colors.background, colors.palette);
+  return paint;
+}
+
+}  // namespace
+
+Brush CreateSolidBrush(ColorRef color) {
+  return {.kind = Brush::Kind::kSolid, .color = color};
+}
+
+std::optional<Brush> CreateBrushIndirect(const LogBrush& brush) {
+  switch (brush.style) {
+    case BS_SOLID:
+      return CreateSolidBrush(brush.color);
+    case BS_NULL:
+      return Brush();
+    case BS_HATCHED:
+      if (brush.hatch > HS_DITHEREDBKCLR) return std::nullopt;
+      return Brush{.kind = Brush::Kind::kHatched, .color = brush.color, .hatch = brush.hatch};
+    default:
+      return std::nullopt;
+  }
+}
+
+Brush CreatePatternBrush(const PatternDib& pattern) {
+  return {.kind = Brush::Kind::kMonoPattern, .pattern = pattern};
+}
+
+Brush CreateDIBPatternBrushPt(const PatternDib& pattern) {
+  return {.kind = Brush::Kind::kPattern, .pattern = pattern};
+}
+
+BrushPaint ResolveBrush(const Brush& brush, const BrushColors& colors) {
+  switch (brush.kind) {
+    case Brush::Kind::kNull:
+      break;
+    case Brush::Kind::kSolid:
+      return Solid(brush.color, colors.palette);
+    case Brush::Kind::kHatched:
+      return ResolveHatch(brush, colors);
+    case Brush::Kind::kMonoPattern:  // in both background modes
+      return {.kind = brush.kind,
+              .color = ResolveColor(colors.text, colors.palette),
+              .background = ResolveColor(colors.background, colors.palette),
+              .pattern = brush.pattern};
+    case Brush::Kind::kPattern:
+      return {.kind = brush.kind, .pattern = brush.pattern};
+  }
+  return {};
+}
+
+}  // namespace kelvane
