@@ -1,0 +1,27 @@
+#include "gdi/device_context.h"
+
+#include <cstdint>
+
+namespace kelvane {
+
+DeviceContext::DeviceContext(const ReferenceDevice& device) : state(device) {
+  state.pen = objects.Find<const Pen>(BLACK_PEN);
+  state.brush = objects.Find<const Brush>(WHITE_BRUSH);
+  state.font = objects.Find<const LogFont>(SYSTEM_FONT);
+  state.palette = objects.Find<Palette>(DEFAULT_PALETTE);
+}
+
+int SaveDC(DeviceContext& device) {
+  device.saved.Push(device.state);
+  return static_cast<int>(device.saved.Depth());
+}
+
+bool RestoreDC(DeviceContext& device, int level) {
+  const auto depth = static_cast<std::int64_t>(device.saved.Depth());
+  const std::int64_t wanted = level < 0 ? depth + level : std::int64_t{level} - 1;
+  if (wanted < 0 || wanted >= depth) return false;
+  device.state = device.saved.PopTo(static_cast<std::size_t>(wanted));
+  return true;
+}
+
+}  // namespace kelvane
