@@ -15,6 +15,8 @@ template <class... Visitors>
 struct Overloaded : Visitors... {
   using Visitors::operator()...;
 };
+template <class... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 CGPoint Rounded(PointD point) {
   return {static_cast<CGFloat>(point.x), static_cast<CGFloat>(point.y)};

@@ -1,5 +1,6 @@
 #include "gdi/clip_state.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -58,8 +59,9 @@ bool ClipState::Offset(double x, double y, Steps& steps) {
     cuts.push_back(cut);
   }
   const std::shared_ptr<const ClipCut> before = std::exchange(clip_, meta_);  // keeps the cuts
-  for (auto cut = cuts.rbegin(); cut != cuts.rend(); ++cut) {
-    clip_ = Cut(clip_, Translated((*cut)->CutTo(), x, y));
+  std::ranges::reverse(cuts);
+  for (const ClipCut* cut : cuts) {
+    clip_ = Cut(clip_, Translated(cut->CutTo(), x, y));
   }
   return true;
 }

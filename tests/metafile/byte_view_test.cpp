@@ -149,12 +149,6 @@ TEST(ByteView, AsksNothingOfThePlaceOfNothing) {
   EXPECT_FALSE(view.IsShort());
 }
 
-TEST(ByteView, CanBeReadWhenCompiled) {
-  static constexpr unsigned char kBytes[] = {1, 0, 2, 0};
-  constexpr auto kPoint = [] { return ByteView(kBytes).Read<Point16>(); }();
-  static_assert(kPoint.x == 1 && kPoint.y == 2);
-}
-
 TEST(ArrayView, GivesTheSameByIndexAndInOrder) {
   const Bytes bytes = Bytes().Utf16(u"abc");
   const ArrayView<char16_t> units(bytes.Data().data(), 3);
