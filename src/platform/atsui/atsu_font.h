@@ -14,9 +14,10 @@ inline constexpr std::uint32_t kFontNoPlatformCode = 0xFFFFFFFF;
 inline constexpr std::uint32_t kFontNoScriptCode = 0xFFFFFFFF;
 inline constexpr std::uint32_t kFontNoLanguageCode = 0xFFFFFFFF;
 
-/// Looks a font up. A name that is not installed leads to the font that the machine's
-/// configuration puts in its place as one of the same metrics.
-/// @param name    UTF-8, or Latin-1 where it is not that; borrowed. @param length  bytes.
+/// Looks a font up. A name that is not installed leads to the font that the machine's configuration
+/// puts in its place as one of the same metrics.
+/// @param name    UTF-8, or Latin-1 where it is not that; borrowed.
+/// @param length  bytes.
 /// @param fontID  becomes the font, or 0 when the name leads to none.
 /// @return noErr, or kATSUInvalidFontErr when there is none. Throws std::bad_alloc.
 OSStatus ATSUFindFontFromName(const void* name, ByteCount length, FontNameCode nameCode,

@@ -45,7 +45,8 @@ OSStatus ATSUSetTextPointerLocation(ATSUTextLayout layout, const UniChar* text,
 OSStatus ATSUSetTransientFontMatching(ATSUTextLayout layout, bool isOn);
 
 /// Sets attributes, as far as they are known and of the right size.
-/// @param tags  kATSULineRotationTag, kATSUCGContextTag. @param sizes  of the values, in bytes.
+/// @param tags   kATSULineRotationTag, kATSUCGContextTag.
+/// @param sizes  of the values, in bytes.
 /// @return noErr, or what was wrong with the first attribute that was left out.
 OSStatus ATSUSetLayoutControls(ATSUTextLayout layout, ItemCount count, const ATSUAttributeTag* tags,
                                const ByteCount* sizes, const void* const* values);

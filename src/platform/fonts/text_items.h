@@ -35,7 +35,8 @@ StyledFace FaceFor(char32_t character, const FontStyle& style, bool usesStandIns
 std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
                                   bool usesStandIns);
 
-/// Sets the items' levels. @param items  not empty.
+/// Sets the items' levels.
+/// @param items  not empty.
 /// @return for each place on the line, from left to right, the index of the item that stands there.
 std::vector<int> OrderLine(std::vector<TextItem>& items);
 

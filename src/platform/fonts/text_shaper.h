@@ -18,8 +18,8 @@ struct ShapedRun {
 /// `style` or, with `usesStandIns`, from a face that has it, and shapes it. A character that no
 /// face has becomes the box for missing ones. Control characters, unpaired surrogates and
 /// characters that only steer the setting make no glyphs.
-/// @param text  borrowed; must outlive the runs. @param pen  where the line starts, in ems; becomes
-///              where it ends.
+/// @param text  borrowed; must outlive the runs.
+/// @param pen   where the line starts, in ems; becomes where it ends.
 std::vector<ShapedRun> ShapeLine(std::u16string_view text, const FontStyle& style,
                                  bool usesStandIns, double& pen);
 

@@ -36,7 +36,8 @@ struct Extent {
   std::size_t end = 0;
 };
 
-/// Moves past an INDEX. @return where its first element lies.
+/// Moves past an INDEX.
+/// @return where its first element lies.
 Extent ReadIndex(Cursor& cursor) {
   const std::uint32_t count = cursor.Read(2);
   if (count == 0) return {};

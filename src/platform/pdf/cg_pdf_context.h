@@ -7,13 +7,12 @@
 namespace kelvane {
 
 /// Makes a surface that records into a PDF document.
-/// @param consumer  where the document goes when it is closed; retained.
-/// @param mediaBox  the page box of the document, in points; for pages whose own box is refused,
-/// too.
+/// @param consumer       where the document goes when it is closed; retained.
+/// @param mediaBox       the page box of the document, in points; for pages whose own box is
+///                       refused, too.
 /// @param auxiliaryInfo  null.
 /// @return a surface owned by the caller; null for a null consumer or box and for a box whose width
-/// or height is
-///         zero or that is not finite. Throws std::bad_alloc.
+///         or height is zero or that is not finite. Throws std::bad_alloc.
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
                                 CFDictionaryRef auxiliaryInfo);
 

@@ -49,12 +49,12 @@ CGPDFDocumentRef CGPDFDocumentCreateWithProvider(CGDataProviderRef provider);
 
 std::size_t CGPDFDocumentGetNumberOfPages(CGPDFDocumentRef document) noexcept;
 
-/// @param number  from 1. @return the page, owned by the document; null when there is none of that
-/// number.
+/// @param number  from 1.
+/// @return the page, owned by the document; null when there is none of that number.
 CGPDFPageRef CGPDFDocumentGetPage(CGPDFDocumentRef document, std::size_t number) noexcept;
 
 /// @return the page's box in default user space, corners put in order; empty when it has none that
-/// is usable.
+///         is usable.
 CGRect CGPDFPageGetBoxRect(CGPDFPageRef page, CGPDFBox box);
 
 }  // namespace kelvane

@@ -75,8 +75,8 @@ void AddArc(CGPath& path, const CGAffineTransform& transform, CGPoint center, CG
   const Circle circle(transform, center, radius);
   const double sweep = Sweep(startAngle, endAngle, clockwise);
   if (std::isnan(sweep)) return path.LineTo(circle.PointAt(sweep));  // the path is never painted
-  const double start =
-      std::remainder(startAngle, kFullTurn);  // beside a huge angle a turn is nothing
+  // Beside a huge angle a turn is nothing.
+  const double start = std::remainder(startAngle, kFullTurn);
   path.LineTo(circle.PointAt(start));
   const int curves = CurvesFor(sweep);
   for (int i = 0; i < curves; ++i) {

@@ -11,10 +11,9 @@ namespace kelvane {
 /// @param radius      in the arc's space; 0 gives a point.
 /// @param startAngle  radians, as is `endAngle`.
 /// @param clockwise   false: by increasing angle, a full turn being added to the end until it is
-/// not below the
-///                    start; true: by decreasing angle. A difference of a full turn or more, either
-///                    way, is one full circle. Under an angle that is not finite the path is not
-///                    finite, so it is never painted.
+///                    not below the start; true: by decreasing angle. A difference of a full turn
+///                    or more, either way, is one full circle. Under an angle that is not finite
+///                    the path is not finite, so it is never painted.
 void AddArc(CGPath& path, const CGAffineTransform& transform, CGPoint center, CGFloat radius,
             CGFloat startAngle, CGFloat endAngle, bool clockwise);
 

@@ -34,7 +34,7 @@ struct CGColor {
 };
 
 /// @param components  1 (grey) or 3 (RGB) values, then alpha; brought into 0 to 1, not-a-number
-/// becoming 0.
+///                    becoming 0.
 CGColor MakeColor(const CGFloat* components, std::size_t componentCount);
 
 }  // namespace kelvane

@@ -36,7 +36,7 @@ class CGDataProvider final : public CFObject {
 using CGDataProviderRef = const CGDataProvider*;
 
 /// @return a provider that shares `data`, owned by the caller; null for null. Throws
-/// std::bad_alloc.
+///         std::bad_alloc.
 CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data);
 
 /// @param data     lent until the provider goes; then `release`, unless null, is told.

@@ -76,7 +76,7 @@ CGAffineTransform CGAffineTransformConcat(const CGAffineTransform& first,
                                           const CGAffineTransform& second);
 
 /// @return the inverse, each element rounded once to single precision; a singular transform comes
-/// back unchanged.
+///         back unchanged.
 CGAffineTransform CGAffineTransformInvert(const CGAffineTransform& transform);
 
 inline bool IsFinite(const CGAffineTransform& t) {

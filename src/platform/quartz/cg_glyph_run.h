@@ -19,8 +19,8 @@ struct CGPositionedGlyph {
 struct CGGlyphRun {
   CGFontRef font;
   CGFloat size;  // text space units an em, above 0
-  CGAffineTransform
-      matrix;  // text space to user space, or to page space once it reached a back end
+  /// Text space to user space, or to page space once it reached a back end.
+  CGAffineTransform matrix;
   std::span<const CGPositionedGlyph> glyphs;
 
   // What is made up for a face that is missing.

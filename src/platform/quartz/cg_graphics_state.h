@@ -62,16 +62,16 @@ struct CGStrokeGeometry {
 };
 
 /// @return the geometry of a stroke in `state`. Under a singular transform the stroke is of width
-/// 0.
+///         0.
 CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state);
 
 /// @return the width of strokes along the outlines of glyphs, which are drawn in page space
-/// whatever
-///         the CTM: scaled as areas are.
+///         whatever the CTM: scaled as areas are.
 CGFloat TextStrokeWidth(const CGGraphicsState& state);
 
 /// @return `state` as text that is made bold is drawn under: a stroke in the fill colour goes along
-///         the outlines. Only filled text is thickened. @param size  of the text, user space.
+///         the outlines. Only filled text is thickened.
+/// @param size  of the text, user space.
 CGGraphicsState Emboldened(const CGGraphicsState& state, CGFloat size);
 
 constexpr bool Fills(CGPathDrawingMode mode) {

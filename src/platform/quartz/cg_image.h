@@ -38,12 +38,11 @@ class CGImage final : public CFObject {
 using CGImageRef = const CGImage*;
 
 /// @param bitsPerComponent  8; `bitsPerPixel` 8 times the space's components.
-/// @param provider  rows top first, `bytesPerRow` apart; the last row may end after its pixels.
-/// Retained.
-/// @param decode    null: components are taken as they stand.
+/// @param provider          rows top first, `bytesPerRow` apart; the last row may end after its
+///                          pixels. Retained.
+/// @param decode            null: components are taken as they stand.
 /// @return an image owned by the caller; null when the sizes, the layout and the provider's bytes
-/// do not agree.
-///         Throws std::bad_alloc.
+///         do not agree. Throws std::bad_alloc.
 CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bitsPerComponent,
                          std::size_t bitsPerPixel, std::size_t bytesPerRow, CGColorSpaceRef space,
                          CGBitmapInfo bitmapInfo, CGDataProviderRef provider, const CGFloat* decode,
@@ -54,8 +53,8 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
 /// @param width        bytes used in each row (pixels times components), at least 1.
 /// @param height       rows, at least 1.
 /// @param bytesPerRow  at least `width`; the last row may end after `width` bytes.
-/// @return width * height bytes owned by the caller; nullopt if `pixels` is too short.
-///         Throws only std::bad_alloc.
+/// @return width * height bytes owned by the caller; nullopt if `pixels` is too short. Throws only
+///         std::bad_alloc.
 [[nodiscard]] std::optional<std::vector<unsigned char>> PackRows(
     std::span<const unsigned char> pixels, std::size_t width, std::size_t height,
     std::size_t bytesPerRow);
