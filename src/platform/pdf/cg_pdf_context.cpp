@@ -8,6 +8,8 @@
 
 #include "platform/pdf/pdf_content.h"
 #include "platform/pdf/pdf_font_choice.h"
+#include "platform/pdf/pdf_pattern.h"
+#include "platform/pdf/pdf_resources.h"
 #include "platform/pdf/pdf_writer.h"
 #include "platform/quartz/cg_clip_writer.h"
 #include "platform/quartz/cg_value_writer.h"
@@ -33,7 +35,7 @@ CGAffineTransform Fitting(const CGRect& from, const CGRect& to) {
 
 /// The PDF back end. Path coordinates are page coordinates as they stand; only a stroke under an
 /// uneven transform is wrapped in that transform.
-class CGPDFContext final : public CGContext, private CGClipOperators {
+class CGPDFContext final : public CGContext, private CGClipOperators, private CGValueOperators {
  public:
   CGPDFContext(CGDataConsumerRef consumer, const CGRect& documentBox)
       : consumer_(CFShare(consumer)),
@@ -72,9 +74,10 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
   void PageBegins(const CGRect& mediaBox) override {
     mediaBox_ = IsUsable(mediaBox) ? mediaBox : documentBox_;
     page_ = writer_.AddPage(mediaBox_);
-    xobjects_ = {};
-    fonts_ = {};
+    resources_ = PdfResources(page_.getKey("/Resources"));
+    patterns_ = {};
     font_ = {};
+    isBlended_ = false;
     clips_ = {};
     values_ = {};
   }
@@ -88,6 +91,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
     clips_.End(*this);
     content_.Finish();
     if (contents_.empty()) return;
+    if (isBlended_) PutPaperBelow();
     page_.replaceKey("/Contents", contents_.size() == 1 ? contents_.front()
                                                         : QPDFObjectHandle::newArray(contents_));
     contents_.clear();
@@ -112,7 +116,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
     QPDFObjectHandle stream = writer_.AddImage(image);
     if (stream.isNull()) return;
     BeginMark({}, State());
-    DrawXObject(NameOf(stream, "/XObject", "/Im", xobjects_), matrix);
+    DrawXObject(resources_.NameOf(stream, kPdfImage), matrix);
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
@@ -138,7 +142,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
 
   void SetFont(CGFontRef face) {
     PdfFont& font = writer_.FontFor(face);
-    font_ = {face, &font, &NameOf(font.Dictionary(), "/Font", "/F", fonts_)};
+    font_ = {face, &font, &resources_.NameOf(font.Dictionary(), kPdfFont)};
   }
 
   [[nodiscard]] bool IsUntouched() const {
@@ -148,7 +152,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
   void BeginMark(CGStateNeeds needs, const CGGraphicsState& state) {
     DrawPending();
     clips_.Bring(Clips(), *this);
-    values_.Bring(state, needs, content_);
+    values_.Bring(state, needs, *this);
   }
 
   // A page that does not stay alone becomes a form, drawn before what follows. No clip was in
@@ -156,14 +160,14 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
   void DrawPending() {
     if (!pending_) return;
     const PendingPage first = *std::exchange(pending_, std::nullopt);
-    DrawXObject(NameOf(writer_.AddForm(*first.page), "/XObject", "/Fm", xobjects_), {});
+    DrawXObject(resources_.NameOf(writer_.AddForm(*first.page), kPdfForm), {});
   }
 
   // A form starts with the state that it is drawn in, and a page counts on starting with a fresh
   // one.
   void DrawForm(const CGPDFPage& page, const CGAffineTransform& matrix) {
     BeginMark({.fill = true, .stroke = true, .text = true}, CGGraphicsState{});
-    DrawXObject(NameOf(writer_.AddForm(page), "/XObject", "/Fm", xobjects_), matrix);
+    DrawXObject(resources_.NameOf(writer_.AddForm(page), kPdfForm), matrix);
   }
 
   void DrawXObject(const std::string& name, const CGAffineTransform& matrix) {
@@ -171,23 +175,6 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
     content_.Concat(matrix);
     content_.DrawXObject(name);
     content_.Restore();
-  }
-
-  /// The page's names for its resources of one category, by object.
-  using Names = std::map<QPDFObjGen, std::string>;
-
-  const std::string& NameOf(const QPDFObjectHandle& object, const char* category,
-                            const char* prefix, Names& names) {
-    const auto [entry, isNew] = names.try_emplace(object.getObjGen());
-    if (isNew) {
-      entry->second = prefix + std::to_string(names.size());
-      auto resources = page_.getKey("/Resources");
-      if (!resources.hasKey(category)) {
-        resources.replaceKey(category, QPDFObjectHandle::newDictionary());
-      }
-      resources.getKey(category).replaceKey(entry->second, object);
-    }
-    return entry->second;
   }
 
   void WriteSave() override {
@@ -200,7 +187,51 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
   }
   void WriteClip(const CGClip& clip) override {
     content_.Path(clip.area);
-    content_.Clip();
+    content_.Clip(clip.isEvenOdd);
+  }
+
+  void FillColor(const CGColor& color) override { content_.FillColor(color); }
+  void StrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
+  void FillPattern(const CGSharedPattern& pattern) override {
+    content_.FillPattern(NameOf(pattern));
+  }
+  void StrokePattern(const CGSharedPattern& pattern) override {
+    content_.StrokePattern(NameOf(pattern));
+  }
+  void LineWidth(CGFloat width) override { content_.LineWidth(width); }
+  void LineCap(CGLineCap cap) override { content_.LineCap(cap); }
+  void LineJoin(CGLineJoin join) override { content_.LineJoin(join); }
+  void LineDash(const CGLineDash& dash) override { content_.LineDash(dash); }
+  void MiterLimit(CGFloat limit) override { content_.MiterLimit(limit); }
+  void TextMode(CGTextDrawingMode mode) override { content_.TextMode(mode); }
+  void Compositing(const CGCompositing& compositing) override {
+    isBlended_ = isBlended_ || compositing.mode != kCGBlendModeNormal;
+    content_.GraphicsState(
+        resources_.NameOf(writer_.AddGraphicsState(compositing), kPdfGraphicsState));
+  }
+
+  /// Kept with its name, so that no other pattern can come to lie where it was.
+  const std::string& NameOf(const CGSharedPattern& pattern) {
+    const auto [entry, isNew] = patterns_.try_emplace(pattern);
+    if (isNew) entry->second = resources_.NameOf(AddPattern(writer_, *pattern), kPdfPattern);
+    return entry->second;
+  }
+
+  // Marks mix with what lies below them, which is nothing on a bare page: it does what it likes.
+  // White paper is what they were made for, and their colours are red, green and blue.
+  void PutPaperBelow() {
+    std::string paper;
+    PdfContent content([&paper](std::string_view piece) { paper += piece; });
+    CGPath box;
+    box.AddRectangle(mediaBox_.origin, mediaBox_.size);
+    content.Save();
+    content.FillColor({1, 1, 1, 1});
+    content.Path(box);
+    content.Paint(kCGPathFill);
+    content.Restore();
+    content.Finish();
+    contents_.insert(contents_.begin(), writer_.AddStream(paper));
+    page_.replaceKey("/Group", QPDFObjectHandle::parse("<< /S /Transparency /CS /DeviceRGB >>"));
   }
 
   CFOwned<CGDataConsumer> consumer_;  // null once the document is written
@@ -210,11 +241,12 @@ class CGPDFContext final : public CGContext, private CGClipOperators {
   QPDFObjectHandle page_;
   std::vector<QPDFObjectHandle> contents_;  // the pieces of the page's content, in order
   PdfContent content_;
-  CGClipWriter clips_;    // of the content
-  CGValueWriter values_;  // of the content
-  Names xobjects_;
-  Names fonts_;
-  PageFont font_;  // of the last glyphs
+  CGClipWriter clips_;      // of the content
+  CGValueWriter values_;    // of the content
+  PdfResources resources_;  // of the page
+  std::map<CGSharedPattern, std::string> patterns_;
+  PageFont font_;           // of the last glyphs
+  bool isBlended_ = false;  // a mark on the page is mixed with what lies below it
   std::optional<PendingPage> pending_;
 };
 

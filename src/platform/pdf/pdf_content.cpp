@@ -57,9 +57,43 @@ void PdfContent::StrokeColor(const CGColor& color) {
   Write({color.red, color.green, color.blue}, "RG\n");
 }
 
+void PdfContent::FillPattern(std::string_view name) {
+  EndLine();
+  Write("/Pattern cs\n");
+  WriteNamed(name, " scn\n");
+}
+
+void PdfContent::StrokePattern(std::string_view name) {
+  EndLine();
+  Write("/Pattern CS\n");
+  WriteNamed(name, " SCN\n");
+}
+
 void PdfContent::LineWidth(CGFloat width) {
   EndLine();
   Write({width}, "w\n");
+}
+
+void PdfContent::LineCap(CGLineCap cap) {
+  EndLine();
+  Write({static_cast<CGFloat>(cap)}, "J\n");
+}
+
+void PdfContent::LineJoin(CGLineJoin join) {
+  EndLine();
+  Write({static_cast<CGFloat>(join)}, "j\n");
+}
+
+void PdfContent::LineDash(const CGLineDash& dash) {
+  EndLine();
+  text_.Append("[");
+  for (const CGFloat length : dash.lengths) {
+    char* out = WriteNumber(text_.Room(kNumberRoom + 1), length);
+    *out++ = ' ';
+    text_.EndAt(out);
+  }
+  text_.Append("] ");
+  Write({dash.phase}, "d\n");
 }
 
 void PdfContent::MiterLimit(CGFloat limit) {
@@ -70,6 +104,11 @@ void PdfContent::MiterLimit(CGFloat limit) {
 void PdfContent::TextMode(CGTextDrawingMode mode) {
   EndLine();
   Write({static_cast<CGFloat>(mode)}, "Tr\n");
+}
+
+void PdfContent::GraphicsState(std::string_view name) {
+  EndLine();
+  WriteNamed(name, " gs\n");
 }
 
 void PdfContent::Path(const CGPath& path) {
@@ -89,14 +128,13 @@ void PdfContent::Paint(CGPathDrawingMode mode) {
   Write(kPaintOperators[mode]);
 }
 
-void PdfContent::Clip() {
-  Write("W n\n");
+void PdfContent::Clip(bool isEvenOdd) {
+  Write(isEvenOdd ? "W* n\n" : "W n\n");
 }
 
 void PdfContent::DrawXObject(std::string_view name) {
   EndText();
-  text_.Append(name);
-  Write(" Do\n");
+  WriteNamed(name, " Do\n");
 }
 
 void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code,
@@ -166,6 +204,11 @@ void PdfContent::Write(std::initializer_list<CGFloat> operands, std::string_view
 
 void PdfContent::Write(std::string_view op) {
   EndOperatorAt(std::copy(op.begin(), op.end(), text_.Room(op.size())));
+}
+
+void PdfContent::WriteNamed(std::string_view name, std::string_view op) {
+  text_.Append(name);
+  Write(op);
 }
 
 void PdfContent::EndOperatorAt(const char* end) {

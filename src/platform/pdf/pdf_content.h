@@ -14,13 +14,13 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_path.h"
-#include "platform/quartz/cg_value_writer.h"
+#include "platform/quartz/cg_stroke_style.h"
 
 namespace kelvane {
 
 /// The content of a page, operator by operator (ISO 32000-1, annex A). It is handed on in pieces,
 /// cut between operators, so that a page of any length needs little memory.
-class PdfContent final : public CGValueOperators {
+class PdfContent {
  public:
   using Sink = std::function<void(std::string_view)>;
 
@@ -30,14 +30,20 @@ class PdfContent final : public CGValueOperators {
   void Save();                                      // q
   void Restore();                                   // Q
   void Concat(const CGAffineTransform& transform);  // cm
-  void FillColor(const CGColor& color) override;    // rg
-  void StrokeColor(const CGColor& color) override;  // RG
-  void LineWidth(CGFloat width) override;           // w
-  void MiterLimit(CGFloat limit) override;          // M, which is at least 1
-  void TextMode(CGTextDrawingMode mode) override;   // Tr
+  void FillColor(const CGColor& color);             // rg
+  void StrokeColor(const CGColor& color);           // RG
+  void FillPattern(std::string_view name);          // cs scn
+  void StrokePattern(std::string_view name);        // CS SCN
+  void LineWidth(CGFloat width);                    // w
+  void LineCap(CGLineCap cap);                      // J
+  void LineJoin(CGLineJoin join);                   // j
+  void LineDash(const CGLineDash& dash);            // d
+  void MiterLimit(CGFloat limit);                   // M, which is at least 1
+  void TextMode(CGTextDrawingMode mode);            // Tr
+  void GraphicsState(std::string_view name);        // gs
   void Path(const CGPath& path);                    // m l c h re
   void Paint(CGPathDrawingMode mode);               // f f* S B B*
-  void Clip();                                      // W n
+  void Clip(bool isEvenOdd);                        // W n, W* n
   void DrawXObject(std::string_view name);          // Do
 
   /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
@@ -54,6 +60,7 @@ class PdfContent final : public CGValueOperators {
  private:
   void Write(std::initializer_list<CGFloat> operands, std::string_view op);
   void Write(std::string_view op);
+  void WriteNamed(std::string_view name, std::string_view op);
   void EndOperatorAt(const char* end);
   void HandOn();
 

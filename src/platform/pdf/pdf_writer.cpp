@@ -1,8 +1,6 @@
 #include "platform/pdf/pdf_writer.h"
 
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -12,12 +10,18 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
-#include "base/number.h"
+#include "platform/pdf/pdf_number.h"
 
 namespace kelvane {
 namespace {
 
 constexpr std::size_t kObjectRoom = 256;  // bytes that most objects stay below, their streams apart
+
+// By mode (ISO 32000-1, tables 136 and 137).
+constexpr std::array<const char*, kCGBlendModes> kBlendModeNames = {
+    "/Normal",     "/Multiply",   "/Screen",    "/Overlay",   "/Darken",     "/Lighten",
+    "/ColorDodge", "/ColorBurn",  "/SoftLight", "/HardLight", "/Difference", "/Exclusion",
+    "/Hue",        "/Saturation", "/Color",     "/Luminosity"};
 
 class ConsumerPipeline final : public Pipeline {
  public:
@@ -41,28 +45,6 @@ struct DeflatedStream {
   DeflatedBytes bytes;
   Buffer buffer;
 };
-
-/// The far corner of a box may need more digits than its origin and size, hence the double; so long
-/// as these digits count for anything.
-QPDFObjectHandle Number(double value) {
-  constexpr double kLastWithFraction = 0x1p52;
-  std::array<char, 400> text;
-  char* end = text.data();
-  const auto single = static_cast<CGFloat>(value);
-  if (single == value || std::abs(value) > kLastWithFraction) {
-    end = WriteNumber(end, single);
-  } else {
-    end = std::to_chars(end, end + text.size(), value, std::chars_format::fixed).ptr;
-  }
-  return QPDFObjectHandle::newReal(std::string(text.data(), end));
-}
-
-QPDFObjectHandle BoxArray(const CGRect& box) {
-  const double x = box.origin.x;
-  const double y = box.origin.y;
-  return QPDFObjectHandle::newArray(
-      {Number(x), Number(y), Number(x + box.size.width), Number(y + box.size.height)});
-}
 
 }  // namespace
 
@@ -144,6 +126,18 @@ QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
   return stream;
 }
 
+QPDFObjectHandle PdfWriter::AddGraphicsState(const CGCompositing& compositing) {
+  const auto [entry, isNew] = graphicsStates_.try_emplace(compositing);
+  if (isNew) {
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/BM", QPDFObjectHandle::newName(kBlendModeNames[compositing.mode]));
+    dictionary.replaceKey("/CA", PdfNumber(compositing.alpha));
+    dictionary.replaceKey("/ca", PdfNumber(compositing.alpha));
+    entry->second = AddObject(dictionary);
+  }
+  return entry->second;
+}
+
 PdfFont& PdfWriter::FontFor(CGFontRef font) {
   const auto [entry, isNew] = fontIndexes_.try_emplace(font, fonts_.size());
   if (isNew) fonts_.emplace_back(font, AddObject(QPDFObjectHandle::newDictionary()));
@@ -186,7 +180,7 @@ void PdfWriter::AdoptContent(QPDFObjectHandle page, const CGPDFPage& source) {
 QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
   auto page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-  page.replaceKey("/MediaBox", BoxArray(mediaBox));
+  page.replaceKey("/MediaBox", PdfBox(mediaBox));
   page.replaceKey("/Resources", QPDFObjectHandle::newDictionary());
   pdf_.addPage(pdf_.makeIndirectObject(page), false);
   return pdf_.getAllPages().back();

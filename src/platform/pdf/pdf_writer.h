@@ -19,6 +19,7 @@
 #include "platform/quartz/cg_data_consumer.h"
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_image.h"
+#include "platform/quartz/cg_value_writer.h"
 
 namespace kelvane {
 
@@ -38,6 +39,10 @@ class PdfWriter {
   /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
   /// short.
   QPDFObjectHandle AddImage(const CGImage& image);
+
+  /// @return the graphics state that sets how marks come onto the page, the same one for the same
+  /// setting.
+  QPDFObjectHandle AddGraphicsState(const CGCompositing& compositing);
 
   /// @return `object` as an object of its own, which others refer to.
   QPDFObjectHandle AddObject(const QPDFObjectHandle& object) {
@@ -81,6 +86,7 @@ class PdfWriter {
   std::size_t deflatedBytes_ = 0;                             // of all streams
   std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
   std::map<DocumentPage, QPDFObjectHandle> forms_;
+  std::map<CGCompositing, QPDFObjectHandle> graphicsStates_;
   std::map<CGFontRef, std::size_t> fontIndexes_;
   std::deque<PdfFont> fonts_;  // in the order of their first use
 };

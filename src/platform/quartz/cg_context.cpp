@@ -76,6 +76,26 @@ void CGContext::AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFlo
   kelvane::AddArc(path_, state_.ctm, center, radius, startAngle, endAngle, clockwise);
 }
 
+void CGContext::SetLineDash(CGFloat phase, std::span<const CGFloat> lengths) {
+  const bool areLengths = std::ranges::all_of(
+      lengths, [](CGFloat length) { return length >= 0 && std::isfinite(length); });
+  const bool comeToSomething =
+      std::ranges::any_of(lengths, [](CGFloat length) { return length > 0; });
+  if (!areLengths || !comeToSomething || !std::isfinite(phase)) lengths = {};
+  state_.dash.lengths.assign(lengths.begin(), lengths.end());
+  state_.dash.phase = lengths.empty() ? 0 : phase;
+}
+
+void CGContext::SetAlpha(CGFloat alpha) {
+  if (!std::isnan(alpha)) state_.alpha = std::clamp(alpha, CGFloat{0}, CGFloat{1});
+}
+
+void CGContext::SwapPath(CGPath& path) {
+  path.Map(state_.ctm);
+  std::swap(path_, path);
+  path.Clear();
+}
+
 CGPoint CGContext::PathCurrentPoint() const {
   return path_.IsEmpty() ? CGPoint{} : ToUserSpace(path_.CurrentPoint());
 }
@@ -86,9 +106,9 @@ void CGContext::DrawPath(CGPathDrawingMode mode) {
   path_.Clear();
 }
 
-void CGContext::Clip() {
+void CGContext::ClipToPath(bool isEvenOdd) {
   if (path_.HasSegments() && path_.IsFinite()) {
-    clips_.push_back({std::exchange(path_, {}), nextClipSerial_++, saved_.Depth()});
+    clips_.push_back({std::exchange(path_, {}), isEvenOdd, nextClipSerial_++, saved_.Depth()});
     state_.clipCount = clips_.size();
   } else if (!path_.IsEmpty() && path_.IsFinite()) {
     state_.hidesAll = true;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "platform/corefoundation/cf_base.h"
@@ -39,10 +40,25 @@ class CGContext : public CFObject {
   /// Makes the colour black, too, as does the next.
   void SetFillColorSpace(const CGColorSpace& space);
   void SetStrokeColorSpace(const CGColorSpace& space);
-  void SetFillColor(const CGColor& color) { state_.fillColor = color; }
-  void SetStrokeColor(const CGColor& color) { state_.strokeColor = color; }
+  void SetFillColor(const CGColor& color) {
+    state_.fillColor = color;
+    state_.fillPattern = nullptr;
+  }
+  void SetStrokeColor(const CGColor& color) {
+    state_.strokeColor = color;
+    state_.strokePattern = nullptr;
+  }
+  /// A null pattern gives the colour back.
+  void SetFillPattern(CGSharedPattern pattern) { state_.fillPattern = std::move(pattern); }
+  void SetStrokePattern(CGSharedPattern pattern) { state_.strokePattern = std::move(pattern); }
   void SetLineWidth(CGFloat width) { state_.lineWidth = width < 0 ? 0 : width; }
   void SetMiterLimit(CGFloat limit);  // not-a-number changes nothing
+  void SetLineCap(CGLineCap cap) { state_.lineCap = cap; }
+  void SetLineJoin(CGLineJoin join) { state_.lineJoin = join; }
+  /// Lengths that are no lengths, or come to nothing, make the line solid.
+  void SetLineDash(CGFloat phase, std::span<const CGFloat> lengths);
+  void SetAlpha(CGFloat alpha);  // brought into 0 to 1; not-a-number changes nothing
+  void SetBlendMode(CGBlendMode mode) { state_.blendMode = mode; }
   void SetTextDrawingMode(CGTextDrawingMode mode) { state_.textMode = mode; }
   void SetTextMatrix(const CGAffineTransform& matrix) { textMatrix_ = matrix; }
   [[nodiscard]] const CGAffineTransform& TextMatrix() const { return textMatrix_; }
@@ -58,11 +74,15 @@ class CGContext : public CFObject {
   void AddArc(CGPoint center, CGFloat radius, CGFloat startAngle, CGFloat endAngle, bool clockwise);
   void ClosePath() { path_.Close(); }
   void BeginPath() { path_.Clear(); }
+  /// Makes a path in user space the current path; the CTM maps it where it lies.
+  /// @param path  empty afterwards, with memory for the next one.
+  void SwapPath(CGPath& path);
   [[nodiscard]] CGPoint PathCurrentPoint() const;
 
   // Marks.
   void DrawPath(CGPathDrawingMode mode);
-  void Clip();
+  void Clip() { ClipToPath(false); }
+  void EOClip() { ClipToPath(true); }
   void DrawImage(const CGRect& rect, CGImageRef image);
   /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks
   /// nothing.
@@ -94,6 +114,7 @@ class CGContext : public CFObject {
   [[nodiscard]] CGPoint ToPage(CGPoint point) const {
     return CGPointApplyAffineTransform(point, state_.ctm);
   }
+  void ClipToPath(bool isEvenOdd);
   void ResetPage();
 
   CGGraphicsState state_;

@@ -86,6 +86,10 @@ inline void CGContextDrawPath(CGContextRef c, CGPathDrawingMode mode) {
 inline void CGContextClip(CGContextRef c) {
   c->Clip();
 }
+/// The same by the even-odd rule.
+inline void CGContextEOClip(CGContextRef c) {
+  c->EOClip();
+}
 /// Cuts later marks to the rectangle; the current path is lost.
 inline void CGContextClipToRect(CGContextRef c, const CGRect& rect) {
   c->BeginPath();
@@ -115,6 +119,27 @@ inline void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
 /// @param limit  how many line widths a mitred corner may reach; not-a-number changes nothing.
 inline void CGContextSetMiterLimit(CGContextRef c, CGFloat limit) {
   c->SetMiterLimit(limit);
+}
+
+inline void CGContextSetLineCap(CGContextRef c, CGLineCap cap) {
+  c->SetLineCap(cap);
+}
+inline void CGContextSetLineJoin(CGContextRef c, CGLineJoin join) {
+  c->SetLineJoin(join);
+}
+/// @param lengths  user space units: dash, gap, …; none, and those that are no lengths or all 0,
+///                 make a solid line. Copied.
+inline void CGContextSetLineDash(CGContextRef c, CGFloat phase, const CGFloat* lengths,
+                                 std::size_t count) {
+  c->SetLineDash(phase, {lengths, count});
+}
+/// @param alpha  from 0 to 1, of all marks, images too.
+inline void CGContextSetAlpha(CGContextRef c, CGFloat alpha) {
+  c->SetAlpha(alpha);
+}
+/// A page with any mode but the normal one has white paper below it.
+inline void CGContextSetBlendMode(CGContextRef c, CGBlendMode mode) {
+  c->SetBlendMode(mode);
 }
 
 inline void CGContextSetTextMatrix(CGContextRef c, const CGAffineTransform& matrix) {

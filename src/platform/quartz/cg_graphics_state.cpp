@@ -5,15 +5,17 @@
 namespace kelvane {
 
 CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state) {
-  if (state.ctm == CGAffineTransformIdentity) return {state.lineWidth, false};
+  if (state.ctm == CGAffineTransformIdentity) return {state.lineWidth, 1, false};
   const double determinant = std::abs(Determinant(state.ctm));
-  if (determinant == 0) return {0, false};
-  if (ScalesEvenly(state.ctm)) {
-    return {static_cast<CGFloat>(state.lineWidth * std::sqrt(determinant)), false};
+  if (determinant == 0) return {0, 1, false};
+  const bool isAnyPen = state.lineWidth == 0 && state.dash.IsSolid();  // nothing to be deformed
+  if (isAnyPen || ScalesEvenly(state.ctm)) {
+    const double scale = std::sqrt(determinant);
+    return {static_cast<CGFloat>(state.lineWidth * scale), static_cast<CGFloat>(scale), false};
   }
   const CGAffineTransform inverse = CGAffineTransformInvert(state.ctm);
-  if (!IsFinite(inverse)) return {0, false};  // as good as singular
-  return {state.lineWidth, true, state.ctm, inverse};
+  if (!IsFinite(inverse)) return {0, 1, false};  // as good as singular
+  return {state.lineWidth, 1, true, state.ctm, inverse};
 }
 
 CGFloat TextStrokeWidth(const CGGraphicsState& state) {
@@ -28,6 +30,7 @@ CGGraphicsState Emboldened(const CGGraphicsState& state, CGFloat size) {
   CGGraphicsState bold = state;
   if (state.textMode != kCGTextFill) return bold;
   bold.strokeColor = state.fillColor;
+  bold.strokePattern = state.fillPattern;
   bold.textMode = kCGTextFillStroke;
   bold.lineWidth = size * kStrokeWidth;
   bold.miterLimit = kMiterLimit;

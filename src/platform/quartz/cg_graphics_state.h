@@ -4,9 +4,12 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/quartz/cg_blend_mode.h"
 #include "platform/quartz/cg_color_space.h"
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_path.h"
+#include "platform/quartz/cg_pattern.h"
+#include "platform/quartz/cg_stroke_style.h"
 
 namespace kelvane {
 
@@ -33,12 +36,19 @@ struct CGGraphicsState {
   CGAffineTransform ctm;
   CGColor fillColor;
   CGColor strokeColor;
+  CGSharedPattern fillPattern;        // in the place of the fill colour
+  CGSharedPattern strokePattern;      // in the place of the stroke colour
   std::uint8_t fillComponents = 1;    // of the fill colour space, alpha not counted
   std::uint8_t strokeComponents = 1;  // of the stroke colour space
   CGTextDrawingMode textMode = kCGTextFill;
   bool hidesAll = false;  // clipped to nothing
   CGFloat lineWidth = 1;  // user space
   CGFloat miterLimit = 10;
+  CGLineCap lineCap = kCGLineCapButt;
+  CGLineJoin lineJoin = kCGLineJoinMiter;
+  CGBlendMode blendMode = kCGBlendModeNormal;
+  CGFloat alpha = 1;          // of whatever is marked, colours and images alike
+  CGLineDash dash;            // user space
   std::size_t clipCount = 0;  // how many of the page's clips are in effect, oldest first
 
   friend bool operator==(const CGGraphicsState&, const CGGraphicsState&) = default;
@@ -46,7 +56,8 @@ struct CGGraphicsState {
 
 /// One clip in effect: the area all later marks are cut to, together with the clips before it.
 struct CGClip {
-  CGPath area;            // page space, non-zero winding
+  CGPath area;            // page space
+  bool isEvenOdd;         // else non-zero winding
   std::uint64_t serial;   // never used twice on a surface
   std::size_t saveDepth;  // how many states were saved when it was set
 };
@@ -56,6 +67,7 @@ struct CGClip {
 /// `transform`.
 struct CGStrokeGeometry {
   CGFloat width;                     // in the space the stroke is drawn in
+  CGFloat scale;                     // user space to that space, for lengths along the line
   bool throughTransform;             // draw under `transform`, points mapped back by `inverse`
   CGAffineTransform transform = {};  // user space to page
   CGAffineTransform inverse = {};    // page to user space

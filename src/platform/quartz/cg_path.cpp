@@ -106,6 +106,39 @@ CGPath CGPath::Mapped(const CGAffineTransform& transform) const {
   return mapped;
 }
 
+void CGPath::Map(const CGAffineTransform& transform) {
+  if (transform == CGAffineTransformIdentity) return;
+  const bool keepsRectangles = transform.b == 0 && transform.c == 0;
+  if (!keepsRectangles && std::ranges::find(elements_, Element::kRectangle) != elements_.end()) {
+    *this = Mapped(transform);
+    return;
+  }
+  const auto map = [&](CGPoint& point) { point = CGPointApplyAffineTransform(point, transform); };
+  CGPoint* point = points_.data();
+  for (const Element element : elements_) {
+    if (element == Element::kRectangle) {
+      map(point[0]);
+      point[1] = {point[1].x * transform.a, point[1].y * transform.d};
+      point += 2;
+      continue;
+    }
+    for (std::size_t i = PointCount(element); i > 0; --i)
+      map(*point++);
+  }
+  map(currentPoint_);
+  map(subpathStart_);
+  finite_ = finite_ && std::ranges::all_of(points_, [](CGPoint p) { return kelvane::IsFinite(p); });
+}
+
+void CGPath::GoBackTo(const Progress& progress) {
+  elements_.resize(progress.elements);
+  points_.resize(progress.points);
+  currentPoint_ = progress.currentPoint;
+  subpathStart_ = progress.subpathStart;
+  hasSegments_ = progress.hasSegments;
+  finite_ = progress.finite;
+}
+
 void CGPath::Clear() {
   elements_.clear();
   points_.clear();

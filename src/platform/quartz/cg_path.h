@@ -37,11 +37,38 @@ class CGPath {
   /// Adds a closed rectangle; afterwards the current point is its corner.
   void AddRectangle(CGPoint corner, CGSize size);
 
+  /// Makes the rectangle that ends the path larger.
+  void GrowLastRectangle(CGSize by) {
+    points_.back().x += by.width;
+    points_.back().y += by.height;
+  }
+
   /// Adds a rectangle as `transform` leaves it: whole, or four lines where it turns or shears.
   void AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform);
 
   /// @return the path with every point mapped.
   [[nodiscard]] CGPath Mapped(const CGAffineTransform& transform) const;
+
+  /// Maps every point where it lies.
+  void Map(const CGAffineTransform& transform);
+
+  /// How far a path has come.
+  struct Progress {
+    std::size_t elements = 0;
+    std::size_t points = 0;
+    CGPoint currentPoint;
+    CGPoint subpathStart;
+    bool hasSegments = false;
+    bool finite = true;
+
+    friend bool operator==(const Progress&, const Progress&) = default;
+  };
+  [[nodiscard]] Progress Reached() const {
+    return {elements_.size(), points_.size(), currentPoint_, subpathStart_, hasSegments_, finite_};
+  }
+
+  /// Takes off what was added since; the path has only been added to since then.
+  void GoBackTo(const Progress& progress);
 
   /// Empties the path and keeps its memory for the next one.
   void Clear();

@@ -16,6 +16,11 @@ namespace {
 constexpr std::array<std::string_view, 5> kPaintNames = {"fill", "eo-fill", "stroke", "fill-stroke",
                                                          "eo-fill-stroke"};
 
+constexpr std::array<const char*, kCGBlendModes> kBlendNames = {
+    "normal",      "multiply",   "screen",     "overlay",    "darken",     "lighten",
+    "color-dodge", "color-burn", "soft-light", "hard-light", "difference", "exclusion",
+    "hue",         "saturation", "color",      "luminosity"};
+
 class CGTraceContext final : public CGContext, private CGClipOperators, private CGValueOperators {
  public:
   explicit CGTraceContext(std::string& output) : output_(output) {}
@@ -84,11 +89,28 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
   }
   void WriteClip(const CGClip& clip) override {
     WritePath(clip.area);
-    Line("clip", {});
+    Line(clip.isEvenOdd ? "eo-clip" : "clip", {});
   }
 
   void FillColor(const CGColor& color) override { ColorLine("fill-color", color); }
   void StrokeColor(const CGColor& color) override { ColorLine("stroke-color", color); }
+  void FillPattern(const CGSharedPattern& pattern) override {
+    PatternLines("fill-pattern", *pattern);
+  }
+  void StrokePattern(const CGSharedPattern& pattern) override {
+    PatternLines("stroke-pattern", *pattern);
+  }
+  void LineCap(CGLineCap cap) override { Line("line-cap", {static_cast<CGFloat>(cap)}); }
+  void LineJoin(CGLineJoin join) override { Line("line-join", {static_cast<CGFloat>(join)}); }
+  void LineDash(const CGLineDash& dash) override {
+    std::string words = "line-dash";
+    for (const CGFloat length : dash.lengths)
+      AppendNumber(words, length);
+    Line(words + " from", {dash.phase});
+  }
+  void Compositing(const CGCompositing& compositing) override {
+    Line(std::string("blend ") + kBlendNames[compositing.mode] + " alpha", {compositing.alpha});
+  }
   void LineWidth(CGFloat width) override { Line("line-width", {width}); }
   void MiterLimit(CGFloat limit) override { Line("miter-limit", {limit}); }
   void TextMode(CGTextDrawingMode mode) override {
@@ -110,6 +132,19 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
           return Line("close", {});
       }
     });
+  }
+
+  void PatternLines(const char* words, const CGPattern& pattern) {
+    std::string line = words;
+    AppendNumber(line, pattern.cell.width);
+    AppendNumber(line, pattern.cell.height);
+    LineUnder(std::move(line), pattern.matrix);
+    if (pattern.image != nullptr) Line("  image", {});
+    for (const CGPatternShape& shape : pattern.shapes) {
+      ColorLine("  fill-color", shape.color);
+      WritePath(shape.path);
+    }
+    Line("end-pattern", {});
   }
 
   void LineUnder(std::string words, const CGAffineTransform& t) {

@@ -14,16 +14,24 @@ namespace kelvane {
 ///     stroke-color 0 0 0
 ///     line-width 2
 ///     miter-limit 10
+///     line-cap 1
+///     line-join 1
+///     line-dash 3 1 from 0         lengths, then how far into them lines start
+///     fill-pattern 8 8 under a b c d tx ty    a cell's size and matrix, its image if it has
+///       image                      one, its shapes; so, too, stroke-pattern
+///       fill-color 1 0 0
+///     end-pattern
 ///     text-mode 0
+///     blend darken alpha 1
 ///     move 10 -20                  a path, in page space
 ///     line 30 -40
 ///     curve 1 2 3 4 5 6
 ///     rect 10 -60 20 40
 ///     close
-///     fill, eo-fill, stroke, fill-stroke, eo-fill-stroke, clip    what is done with the path above
-///     stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform
-///     image 2 2 rgb under a b c d tx ty
-///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,
+///     fill, eo-fill, stroke, fill-stroke, eo-fill-stroke, clip, eo-clip    what is done with the
+///     path above stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform image 2 2
+///     rgb under a b c d tx ty text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text,
+///     face, size, matrix,
 ///       at 0 0                     then each glyph's origin in text space; left out for one glyph
 ///       at 0 0 at 8.6 0
 ///     end-page

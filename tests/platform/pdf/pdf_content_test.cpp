@@ -141,8 +141,10 @@ TEST(PdfContent, HasNoGapBetweenGlyphsThatFollowTheirWidths) {
 TEST(PdfContent, CutsALongContentBetweenLinesOfText) {
   std::vector<std::string> pieces;
   PdfContent content([&](std::string_view piece) { pieces.emplace_back(piece); });
-  for (int i = 0; i < 300000; ++i)
-    content.ShowGlyph(Font(), {0, static_cast<CGFloat>(i / 10)}, 1, 500);
+  for (int line = 0; line < 30000; ++line) {
+    for (int glyph = 0; glyph < 10; ++glyph)
+      content.ShowGlyph(Font(), {0, static_cast<CGFloat>(line)}, 1, 500);
+  }
   content.Finish();
   ASSERT_GT(pieces.size(), 1U);
   for (const std::string& piece : pieces)

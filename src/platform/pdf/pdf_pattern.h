@@ -1,0 +1,14 @@
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include "platform/pdf/pdf_writer.h"
+#include "platform/quartz/cg_pattern.h"
+
+namespace kelvane {
+
+/// @return the pattern as a tiling pattern of the document, a coloured one (ISO 32000-1, 8.7.3).
+///         Throws as the writer does.
+QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern);
+
+}  // namespace kelvane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/corefoundation/cf_base.h"
+#include "platform/quartz/cg_color_space.h"
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_image.h"
+#include "platform/quartz/cg_path.h"
+
+namespace kelvane {
+
+/// What is filled in a cell of a pattern, in one colour.
+struct CGPatternShape {
+  CGPath path;  // pattern space, non-zero winding
+  CGColor color;
+};
+
+/// A cell that is repeated over the plane without gaps; a colour that fills with it. It never
+/// changes once it is in use, so states share it.
+struct CGPattern {
+  CGSize cell;               // pattern space; the cell lies at its origin
+  CGAffineTransform matrix;  // pattern space to page space, whatever the CTM
+
+  // What is drawn in a cell, in this order; nothing beyond it shows.
+  CFOwned<const CGImage> image;  // over the whole cell, its top row along the upper edge; or null
+  std::vector<CGPatternShape> shapes;
+};
+
+/// Null where there is a plain colour.
+using CGSharedPattern = std::shared_ptr<const CGPattern>;
+
+}  // namespace kelvane
