@@ -3,16 +3,6 @@
 namespace kelvane {
 namespace {
 
-/// The rows of the six hatches that are lines: set bits are lines, the top bit is left.
-constexpr std::uint64_t kHatchRows[] = {
-    0x000000FF00000000,  // HS_HORIZONTAL
-    0x0808080808080808,  // HS_VERTICAL
-    0x8040201008040201,  // HS_FDIAGONAL
-    0x0102040810204080,  // HS_BDIAGONAL
-    0x080808FF08080808,  // HS_CROSS
-    0x8142241818244281,  // HS_DIAGCROSS
-};
-
 BrushPaint Solid(ColorRef color, const Palette& palette) {
   return {.kind = Brush::Kind::kSolid, .color = ResolveColor(color, palette)};
 }
@@ -33,7 +23,7 @@ BrushPaint ResolveHatch(const Brush& brush, const BrushColors& colors) {
   }
   BrushPaint paint = {.kind = Brush::Kind::kHatched,
                       .color = ResolveColor(brush.color, colors.palette),
-                      .hatchRows = kHatchRows[brush.hatch]};
+                      .hatch = brush.hatch};
   if (colors.mode == OPAQUE) paint.background = ResolveColor(colors.background, colors.palette);
   return paint;
 }

@@ -60,8 +60,8 @@ struct BrushPaint {
   /// Of a hatch's gaps, which are left as they are without it; of the bits 1 of kMonoPattern.
   std::optional<RgbColor> background{};
 
-  std::uint64_t hatchRows = 0;  // of kHatched: 8 rows of 8 pixels, from the top bits down
-  PatternDib pattern{};         // of kMonoPattern and kPattern
+  HatchStyle hatch{};    // of kHatched: one of the six that are lines
+  PatternDib pattern{};  // of kMonoPattern and kPattern
 };
 
 BrushPaint ResolveBrush(const Brush& brush, const BrushColors& colors);

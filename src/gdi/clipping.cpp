@@ -13,7 +13,10 @@ constexpr std::uint64_t kStepsOfARectangle = 16;
 
 bool Join(DeviceContext& device, const Area& area, RegionMode mode) {
   device.clipSteps.Add(kStepsOfACall);
-  return device.state.clip.Join(area, mode, device.clipSteps);
+  const bool isJoined = device.state.clip.Join(area, mode, device.clipSteps);
+  const bool isMode = mode >= RGN_AND && mode <= RGN_COPY;
+  if (!isJoined && isMode) device.shortfalls.Add(Shortfall::kClipTooComplex);
+  return isJoined;
 }
 
 bool JoinRectangle(DeviceContext& device, const RectangleL& r, RegionMode mode) {
@@ -39,7 +42,9 @@ bool OffsetClipRgn(DeviceContext& device, PointL offset) {
       toDevice.MapVector({static_cast<double>(offset.x), static_cast<double>(offset.y)});
   if (!IsFinite(moved)) return false;
   device.clipSteps.Add(kStepsOfACall);
-  return device.state.clip.Offset(moved.x, moved.y, device.clipSteps);
+  const bool isMoved = device.state.clip.Offset(moved.x, moved.y, device.clipSteps);
+  if (!isMoved) device.shortfalls.Add(Shortfall::kClipTooComplex);
+  return isMoved;
 }
 
 bool ExtSelectClipRgn(DeviceContext& device, std::optional<ArrayView<RectangleL>> rectangles,

@@ -1,17 +1,30 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "base/saved_states.h"
+#include "gdi/canvas.h"
 #include "gdi/clip_state.h"
 #include "gdi/mapping.h"
 #include "gdi/object_table.h"
+#include "gdi/pending_marks.h"
+#include "gdi/shortfall.h"
 #include "gdi/steps.h"
 #include "metafile/gdi_enumerations.h"
 #include "metafile/gdi_types.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
+
+/// A path bracket that is open.
+struct OpenBracket {
+  std::uint64_t serial = 0;     // never used twice in a context
+  CGPath::Progress saved = {};  // of the path, when the state was saved
+
+  friend bool operator==(const OpenBracket&, const OpenBracket&) = default;
+};
 
 /// All of a device context that SaveDC keeps and RestoreDC brings back. What is large is shared.
 struct DeviceState {
@@ -35,11 +48,13 @@ struct DeviceState {
   TextAlign textAlign = TA_NOUPDATECP;
   ArcDirection arcDirection = AD_COUNTERCLOCKWISE;
   float miterLimit = 10;
-  PointD currentPosition;  // logical units
-  PointL brushOrigin;      // device units
+  PointD currentPosition;     // logical units
+  bool figureIsOpen = false;  // a line to somewhere goes on with the figure that ends there
+  PointL brushOrigin;         // device units
 
   /// The path that was finished last and is not used up, in device units; null without one.
   std::shared_ptr<const CGPath> path;
+  std::optional<OpenBracket> bracket;
 
   friend bool operator==(const DeviceState&, const DeviceState&) = default;
 };
@@ -47,11 +62,22 @@ struct DeviceState {
 /// What a picture is played on. The functions of gdi/ are those of Windows by their names; they
 /// return false, and change nothing, where Windows' would fail.
 struct DeviceContext {
-  explicit DeviceContext(const ReferenceDevice& device);
+  /// @param target  borrowed; without one nothing is drawn.
+  explicit DeviceContext(const ReferenceDevice& device, Canvas* target = nullptr);
 
   ObjectTable objects;
   DeviceState state;
   SavedStates<DeviceState> saved;
+  Canvas* canvas;  // null draws nothing
+
+  PendingMarks pending;
+  CGPath bracketPath;               // of the open bracket, device units
+  std::uint64_t bracketSerial = 0;  // of the bracket that bracketPath belongs to
+  std::uint64_t bracketsBegun = 0;
+  CGPath scratch;  // of the call at hand; kept for its memory
+
+  /// What has not come out as it should, for whoever reports it, and clears it.
+  Shortfalls shortfalls;
 
   /// What clipping may still take. A part comes with each call and with each rectangle of it, so
   /// that only files run out in which few shapes cut each other into very many.

@@ -31,25 +31,27 @@ double SweepBetween(double start, double end, ArcDirection direction) {
   return sweep;
 }
 
-}  // namespace
-
-FigurePath::Ellipse FigurePath::EllipseIn(const RectangleD& box) {
+EllipseD EllipseIn(const RectangleD& box) {
   return {{(box.left + box.right) / 2, (box.top + box.bottom) / 2},
           std::abs(box.right - box.left) / 2,
           std::abs(box.bottom - box.top) / 2};
 }
 
-void FigurePath::AddCurves(const Ellipse& ellipse, double angle, double sweep) {
+}  // namespace
+
+void FigurePath::AddArc(const EllipticArc& arc) {
+  if (arc.sweep == 0) return;
   constexpr double kRounding = 1e-9;  // a quarter turn that came out longer is still one curve
   const int count =
-      std::max(1, static_cast<int>(std::ceil(std::abs(sweep) / kQuarterTurn - kRounding)));
-  const double step = sweep / count;
+      std::max(1, static_cast<int>(std::ceil(std::abs(arc.sweep) / kQuarterTurn - kRounding)));
+  const double step = arc.sweep / count;
   const double handle = 4.0 / 3.0 * std::tan(step / 4);  // length of a control arm, in radii
-  double cosine = std::cos(angle);
-  double sine = std::sin(angle);
+  const EllipseD& ellipse = arc.ellipse;
+  double cosine = std::cos(arc.angle);
+  double sine = std::sin(arc.angle);
   for (int i = 1; i <= count; ++i) {
-    const double nextCosine = std::cos(angle + i * step);
-    const double nextSine = std::sin(angle + i * step);
+    const double nextCosine = std::cos(arc.angle + i * step);
+    const double nextSine = std::sin(arc.angle + i * step);
     CurveTo(ellipse.At(cosine - handle * sine, sine + handle * cosine),
             ellipse.At(nextCosine + handle * nextSine, nextSine - handle * nextCosine),
             ellipse.At(nextCosine, nextSine));
@@ -69,9 +71,9 @@ void FigurePath::AddRectangle(const RectangleD& box, ArcDirection direction) {
 }
 
 void FigurePath::AddEllipse(const RectangleD& box, ArcDirection direction) {
-  const Ellipse ellipse = EllipseIn(box);
+  const EllipseD ellipse = EllipseIn(box);
   MoveTo(ellipse.At(1, 0));
-  AddCurves(ellipse, 0, direction == AD_CLOCKWISE ? kFullTurn : -kFullTurn);
+  AddArc({ellipse, 0, direction == AD_CLOCKWISE ? kFullTurn : -kFullTurn});
   Close();
 }
 
@@ -81,35 +83,36 @@ void FigurePath::AddRoundRectangle(const RectangleD& box, double width, double h
   const double x = std::min(std::abs(width), right - left) / 2;
   const double y = std::min(std::abs(height), bottom - top) / 2;
   if (x == 0 || y == 0) return AddRectangle(box, direction);
-  const Ellipse topRight = {{right - x, top + y}, x, y};
-  const Ellipse topLeft = {{left + x, top + y}, x, y};
-  const Ellipse bottomLeft = {{left + x, bottom - y}, x, y};
-  const Ellipse bottomRight = {{right - x, bottom - y}, x, y};
+  const EllipseD topRight = {{right - x, top + y}, x, y};
+  const EllipseD topLeft = {{left + x, top + y}, x, y};
+  const EllipseD bottomLeft = {{left + x, bottom - y}, x, y};
+  const EllipseD bottomRight = {{right - x, bottom - y}, x, y};
   MoveTo(topRight.At(1, 0));
   if (direction == AD_CLOCKWISE) {
     LineTo(bottomRight.At(1, 0));
-    AddCurves(bottomRight, 0, kQuarterTurn);
+    AddArc({bottomRight, 0, kQuarterTurn});
     LineTo(bottomLeft.At(0, 1));
-    AddCurves(bottomLeft, kQuarterTurn, kQuarterTurn);
+    AddArc({bottomLeft, kQuarterTurn, kQuarterTurn});
     LineTo(topLeft.At(-1, 0));
-    AddCurves(topLeft, 2 * kQuarterTurn, kQuarterTurn);
+    AddArc({topLeft, 2 * kQuarterTurn, kQuarterTurn});
     LineTo(topRight.At(0, -1));
-    AddCurves(topRight, 3 * kQuarterTurn, kQuarterTurn);
+    AddArc({topRight, 3 * kQuarterTurn, kQuarterTurn});
   } else {
-    AddCurves(topRight, 0, -kQuarterTurn);
+    AddArc({topRight, 0, -kQuarterTurn});
     LineTo(topLeft.At(0, -1));
-    AddCurves(topLeft, -kQuarterTurn, -kQuarterTurn);
+    AddArc({topLeft, -kQuarterTurn, -kQuarterTurn});
     LineTo(bottomLeft.At(-1, 0));
-    AddCurves(bottomLeft, -2 * kQuarterTurn, -kQuarterTurn);
+    AddArc({bottomLeft, -2 * kQuarterTurn, -kQuarterTurn});
     LineTo(bottomRight.At(0, 1));
-    AddCurves(bottomRight, -3 * kQuarterTurn, -kQuarterTurn);
+    AddArc({bottomRight, -3 * kQuarterTurn, -kQuarterTurn});
   }
   Close();
 }
 
-bool FigurePath::AddArc(const RectangleD& box, PointD start, PointD end, ArcDirection direction) {
-  const Ellipse ellipse = EllipseIn(box);
-  if (!(ellipse.xRadius > 0 && ellipse.yRadius > 0)) return false;
+std::optional<EllipticArc> ArcIn(const RectangleD& box, PointD start, PointD end,
+                                 ArcDirection direction) {
+  const EllipseD ellipse = EllipseIn(box);
+  if (!(ellipse.xRadius > 0 && ellipse.yRadius > 0)) return std::nullopt;
   const auto angleTo = [&](PointD point) {
     return AngleOf((point.x - ellipse.center.x) / ellipse.xRadius,
                    (point.y - ellipse.center.y) / ellipse.yRadius);
@@ -118,19 +121,16 @@ bool FigurePath::AddArc(const RectangleD& box, PointD start, PointD end, ArcDire
   double to = angleTo(end);
   if (std::isnan(from)) from = std::isnan(to) ? 0 : to;
   if (std::isnan(to)) to = from;
-  LineTo(ellipse.At(std::cos(from), std::sin(from)));
-  AddCurves(ellipse, from, SweepBetween(from, to, direction));
-  return true;
+  return EllipticArc{ellipse, from, SweepBetween(from, to, direction)};
 }
 
-void FigurePath::AddAngleArc(PointD center, double radius, double startAngle, double sweepAngle) {
+std::optional<EllipticArc> ArcAround(PointD center, double radius, double startAngle,
+                                     double sweepAngle) {
   constexpr double kRadiansPerDegree = std::numbers::pi / 180;
-  if (!std::isfinite(startAngle) || std::isnan(sweepAngle)) return;
-  const Ellipse circle = {center, radius, radius};
-  const double start = -std::remainder(startAngle, 360) * kRadiansPerDegree;
-  const double sweep = -std::clamp(sweepAngle, -360.0, 360.0) * kRadiansPerDegree;
-  LineTo(circle.At(std::cos(start), std::sin(start)));
-  if (sweep != 0 && radius != 0) AddCurves(circle, start, sweep);
+  if (!std::isfinite(startAngle) || std::isnan(sweepAngle)) return std::nullopt;
+  return EllipticArc{{center, radius, radius},
+                     -std::remainder(startAngle, 360) * kRadiansPerDegree,
+                     -std::clamp(sweepAngle, -360.0, 360.0) * kRadiansPerDegree};
 }
 
 }  // namespace kelvane

@@ -1,10 +1,50 @@
 #pragma once
 
+#include <cmath>
+#include <optional>
+
 #include "gdi/geometry.h"
 #include "metafile/gdi_enumerations.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
+
+/// An upright ellipse.
+struct EllipseD {
+  PointD center;
+  double xRadius = 0;
+  double yRadius = 0;
+
+  /// @param x, y  of the unit circle.
+  [[nodiscard]] PointD At(double x, double y) const {
+    return {center.x + x * xRadius, center.y + y * yRadius};
+  }
+};
+
+/// A part of an ellipse. Angles are radians, from +x towards +y.
+struct EllipticArc {
+  EllipseD ellipse;
+  double angle = 0;  // where it starts
+  double sweep = 0;
+
+  [[nodiscard]] PointD Start() const { return ellipse.At(std::cos(angle), std::sin(angle)); }
+  [[nodiscard]] PointD End() const {
+    return ellipse.At(std::cos(angle + sweep), std::sin(angle + sweep));
+  }
+};
+
+/// @param box         its corners in any order.
+/// @param start, end  give nothing but directions from the centre, in the shape of the box; equal
+///                    ones, and one at the centre, give the whole ellipse.
+/// @return nullopt for a box without width or height.
+std::optional<EllipticArc> ArcIn(const RectangleD& box, PointD start, PointD end,
+                                 ArcDirection direction);
+
+/// @param startAngle, sweepAngle  degrees, counter-clockwise with y downwards; a sweep of more than
+///                                a full turn either way is one full circle.
+/// @return nullopt for angles that are no numbers.
+std::optional<EllipticArc> ArcAround(PointD center, double radius, double startAngle,
+                                     double sweepAngle);
 
 /// A path under construction: logical coordinates in, device units out. Points are mapped in double
 /// precision when they are added, and rounded once.
@@ -33,33 +73,10 @@ class FigurePath {
   void AddRoundRectangle(const RectangleD& box, double width, double height,
                          ArcDirection direction);
 
-  /// A part of the ellipse in a box. The points give nothing but directions from its centre, in the
-  /// shape of the box; equal ones, and one at the centre, give the whole ellipse. A line joins the
-  /// path's open figure, if there is one, to its start. A box without width or height adds nothing.
-  /// @return whether anything was added.
-  bool AddArc(const RectangleD& box, PointD start, PointD end, ArcDirection direction);
-
-  /// A part of a circle; a line joins the path's open figure, if there is one, to its start.
-  /// @param startAngle, sweepAngle  degrees, counter-clockwise with y downwards; a sweep of more
-  ///                                than a full turn either way is one full circle.
-  void AddAngleArc(PointD center, double radius, double startAngle, double sweepAngle);
+  /// From where the path stands, which is to be the arc's start.
+  void AddArc(const EllipticArc& arc);
 
  private:
-  struct Ellipse {
-    PointD center;
-    double xRadius;
-    double yRadius;
-
-    [[nodiscard]] PointD At(double x, double y) const {
-      return {center.x + x * xRadius, center.y + y * yRadius};
-    }
-  };
-
-  static Ellipse EllipseIn(const RectangleD& box);
-
-  /// Curves from `angle` on, where the path stands already. Angles are radians, from +x towards +y.
-  void AddCurves(const Ellipse& ellipse, double angle, double sweep);
-
   [[nodiscard]] CGPoint Mapped(PointD point) const {
     const PointD device = toDevice_.Map(point);
     return {static_cast<CGFloat>(device.x), static_cast<CGFloat>(device.y)};

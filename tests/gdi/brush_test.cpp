@@ -48,31 +48,6 @@ TEST(Brush, LeavesAHatchesGapsWhenTheBackgroundIsTransparent) {
   EXPECT_EQ(ResolveHatch(HS_CROSS, TRANSPARENT).background, std::nullopt);
 }
 
-/// Rows of 8 pixels from the top, as a picture.
-std::string PictureOf(std::uint64_t rows) {
-  std::string picture;
-  for (int bit = 63; bit >= 0; --bit) {
-    picture += (rows >> bit & 1) != 0 ? '#' : '.';
-    if (bit % 8 == 0) picture += '\n';
-  }
-  return picture;
-}
-
-TEST(Brush, HasSixHatchesOfLines) {
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_HORIZONTAL).hatchRows),
-            "........\n........\n........\n########\n........\n........\n........\n........\n");
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_VERTICAL).hatchRows),
-            "....#...\n....#...\n....#...\n....#...\n....#...\n....#...\n....#...\n....#...\n");
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_FDIAGONAL).hatchRows),
-            "#.......\n.#......\n..#.....\n...#....\n....#...\n.....#..\n......#.\n.......#\n");
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_BDIAGONAL).hatchRows),
-            ".......#\n......#.\n.....#..\n....#...\n...#....\n..#.....\n.#......\n#.......\n");
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_CROSS).hatchRows),
-            "....#...\n....#...\n....#...\n########\n....#...\n....#...\n....#...\n....#...\n");
-  EXPECT_EQ(PictureOf(ResolveHatch(HS_DIAGCROSS).hatchRows),
-            "#......#\n.#....#.\n..#..#..\n...##...\n...##...\n..#..#..\n.#....#.\n#......#\n");
-}
-
 TEST(Brush, HasHatchesThatAreSolid) {
   const struct {
     std::uint32_t hatch;

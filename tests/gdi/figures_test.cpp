@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -130,11 +131,18 @@ TEST(RoundRectangle, WithoutCornersIsARectangle) {
   EXPECT_EQ(ElementsOf(path), "mlllh");
 }
 
+/// An arc by itself.
+CGPath Drawn(const std::optional<EllipticArc>& arc) {
+  if (!arc) return {};
+  return Drawn([&](FigurePath& figures) {
+    figures.MoveTo(arc->Start());
+    figures.AddArc(*arc);
+  });
+}
+
 TEST(Arc, GoesFromOneDirectionToTheOther) {
   const auto arc = [](ArcDirection direction) {
-    return Drawn([=](FigurePath& figures) {
-      figures.AddArc(kBox, {1000, 45}, {60, -1000}, direction);  // east to north
-    });
+    return Drawn(ArcIn(kBox, {1000, 45}, {60, -1000}, direction));  // east to north
   };
   const CGPath shortWay = arc(AD_COUNTERCLOCKWISE);
   EXPECT_EQ(ElementsOf(shortWay), "mc");
@@ -146,49 +154,40 @@ TEST(Arc, GoesFromOneDirectionToTheOther) {
   ExpectNear(PointsOf(longWay).back(), 60, 20);
 }
 
+TEST(Arc, KnowsItsEnds) {
+  const auto arc = ArcIn(kBox, {1000, 45}, {60, -1000}, AD_COUNTERCLOCKWISE);
+  ASSERT_TRUE(arc);
+  EXPECT_NEAR(arc->Start().x, 110, 1e-9);
+  EXPECT_NEAR(arc->End().y, 20, 1e-9);
+}
+
 TEST(Arc, TakesDirectionsInTheShapeOfItsBox) {
   // The corner of the box lies at 45 degrees of the ellipse, whatever the box's shape.
-  const CGPath path = Drawn([](FigurePath& figures) {
-    figures.AddArc(kBox, {110, 20}, {10, 20}, AD_COUNTERCLOCKWISE);
-  });
+  const CGPath path = Drawn(ArcIn(kBox, {110, 20}, {10, 20}, AD_COUNTERCLOCKWISE));
   ExpectNear(PointsOf(path).front(), 60 + 50 * std::sqrt(0.5), 45 - 25 * std::sqrt(0.5));
 }
 
 TEST(Arc, BetweenEqualDirectionsIsTheWholeEllipse) {
   for (const PointD point : {PointD{110, 45}, PointD{60, 45}}) {  // the second is the centre
-    const CGPath path = Drawn(
-        [=](FigurePath& figures) { figures.AddArc(kBox, point, point, AD_COUNTERCLOCKWISE); });
+    const CGPath path = Drawn(ArcIn(kBox, point, point, AD_COUNTERCLOCKWISE));
     EXPECT_EQ(ElementsOf(path), "mcccc");
     ExpectNear(PointsOf(path).back(), 110, 45);
   }
 }
 
 TEST(Arc, WithOneDirectionAtTheCentreIsTheWholeEllipseFromTheOther) {
-  const CGPath path = Drawn([](FigurePath& figures) {
-    figures.AddArc(kBox, {60, 45}, {60, 0}, AD_CLOCKWISE);
-  });
+  const CGPath path = Drawn(ArcIn(kBox, {60, 45}, {60, 0}, AD_CLOCKWISE));
   EXPECT_EQ(ElementsOf(path), "mcccc");
   ExpectNear(PointsOf(path).front(), 60, 20);
   ExpectNear(PointsOf(path).back(), 60, 20);
 }
 
-TEST(Arc, InABoxWithoutWidthAddsNothing) {
-  CGPath path;
-  FigurePath figures(path, kIdentity);
-  EXPECT_FALSE(figures.AddArc({10, 20, 10, 70}, {0, 0}, {9, 9}, AD_CLOCKWISE));
-  EXPECT_TRUE(path.IsEmpty());
-}
-
-TEST(Arc, IsJoinedToAnOpenFigureByALine) {
-  const CGPath path = Drawn([](FigurePath& figures) {
-    figures.MoveTo({0, 0});
-    figures.AddArc(kBox, {1000, 45}, {60, -1000}, AD_COUNTERCLOCKWISE);
-  });
-  EXPECT_EQ(ElementsOf(path), "mlc");
+TEST(Arc, IsNoneInABoxWithoutWidth) {
+  EXPECT_FALSE(ArcIn({10, 20, 10, 70}, {0, 0}, {9, 9}, AD_CLOCKWISE));
 }
 
 TEST(AngleArc, GoesFromEastToNorthInAQuarterTurn) {
-  const CGPath path = Drawn([](FigurePath& figures) { figures.AddAngleArc({50, 50}, 10, 0, 90); });
+  const CGPath path = Drawn(ArcAround({50, 50}, 10, 0, 90));
   EXPECT_EQ(ElementsOf(path), "mc");
   ExpectNear(PointsOf(path).front(), 60, 50);
   ExpectNear(PointsOf(path).back(), 50, 40);
@@ -196,21 +195,16 @@ TEST(AngleArc, GoesFromEastToNorthInAQuarterTurn) {
 
 TEST(AngleArc, OfMoreThanAFullTurnIsOneCircle) {
   for (const double sweep : {720.0, -1e300}) {
-    const CGPath path = Drawn([=](FigurePath& figures) {
-      figures.AddAngleArc({50, 50}, 10, 90, sweep);
-    });
+    const CGPath path = Drawn(ArcAround({50, 50}, 10, 90, sweep));
     EXPECT_EQ(ElementsOf(path), "mcccc") << sweep;
     ExpectNear(PointsOf(path).back(), 50, 40);
   }
 }
 
-TEST(AngleArc, OfNoNumberAddsNothing) {
-  const CGPath path = Drawn([](FigurePath& figures) {
-    figures.AddAngleArc({50, 50}, 10, std::nan(""), 90);
-    figures.AddAngleArc({50, 50}, 10, 0, std::nan(""));
-    figures.AddAngleArc({50, 50}, 10, INFINITY, 90);
-  });
-  EXPECT_TRUE(path.IsEmpty());
+TEST(AngleArc, IsNoneWithoutNumbers) {
+  EXPECT_FALSE(ArcAround({50, 50}, 10, std::nan(""), 90));
+  EXPECT_FALSE(ArcAround({50, 50}, 10, 0, std::nan("")));
+  EXPECT_FALSE(ArcAround({50, 50}, 10, INFINITY, 90));
 }
 
 }  // namespace

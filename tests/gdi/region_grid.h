@@ -12,7 +12,7 @@ namespace kelvane {
 
 /// The pixels of a small square. It is so small that the edges of random rectangles often meet.
 constexpr int kGridSize = 8;
-using Pixels = std::bitset<kGridSize * kGridSize>;
+using Pixels = std::bitset<std::size_t{kGridSize} * kGridSize>;
 
 inline constexpr RegionMode kRegionModes[] = {RGN_AND, RGN_OR, RGN_XOR, RGN_DIFF, RGN_COPY};
 
@@ -33,9 +33,9 @@ inline Pixels CombinePixels(const Pixels& a, const Pixels& b, RegionMode mode) {
 }
 
 inline RectangleD PixelRectangle(int index) {
-  const double x = index % kGridSize;
-  const double y = index / kGridSize;
-  return {x, y, x + 1, y + 1};
+  const int column = index % kGridSize;
+  const int row = index / kGridSize;
+  return {static_cast<double>(column), static_cast<double>(row), column + 1.0, row + 1.0};
 }
 
 inline bool Contains(const Region& region, PointD point) {

@@ -1,0 +1,111 @@
+#include "gdi/brush_pattern.h"
+
+#include <array>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "metafile/dib.h"
+#include "platform/quartz/cg_data_provider.h"
+
+namespace kelvane {
+namespace {
+
+constexpr CGFloat kHatchCell = 8;
+
+CGColor ColorFrom(RgbColor color) {
+  constexpr CGFloat kMost = 255;
+  return {static_cast<CGFloat>(color.red) / kMost, static_cast<CGFloat>(color.green) / kMost,
+          static_cast<CGFloat>(color.blue) / kMost, 1};
+}
+
+void AddPolygon(CGPath& path, std::initializer_list<CGPoint> points) {
+  for (const CGPoint point : points) {
+    if (point == *points.begin()) {
+      path.MoveTo(point);
+    } else {
+      path.LineTo(point);
+    }
+  }
+  path.Close();
+}
+
+/// The band through the pixels from one corner of the cell to the other, and what of its
+/// neighbours reaches in at the other two corners. Falling has y upwards here: from the top left.
+void AddDiagonal(CGPath& path, bool isFalling) {
+  constexpr CGFloat s = kHatchCell;
+  constexpr CGFloat h = 0.5F;  // half of the band, along either axis
+  const auto at = [isFalling](CGFloat x, CGFloat y) { return CGPoint{x, isFalling ? s - y : y}; };
+  AddPolygon(path, {at(0, 0), at(h, 0), at(s, s - h), at(s, s), at(s - h, s), at(0, h)});
+  AddPolygon(path, {at(s - h, 0), at(s, 0), at(s, h)});
+  AddPolygon(path, {at(0, s - h), at(h, s), at(0, s)});
+}
+
+/// The lines of a hatch, as thick as a pixel: the fourth row, the fifth column, the diagonals.
+CGPath HatchLines(HatchStyle hatch) {
+  CGPath path;
+  if (hatch == HS_HORIZONTAL || hatch == HS_CROSS) path.AddRectangle({0, 4}, {kHatchCell, 1});
+  if (hatch == HS_VERTICAL || hatch == HS_CROSS) path.AddRectangle({4, 0}, {1, kHatchCell});
+  if (hatch == HS_FDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, true);
+  if (hatch == HS_BDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, false);
+  return path;
+}
+
+CGPattern HatchPattern(const BrushPaint& paint, RasterStep::Color color) {
+  CGPattern pattern;
+  pattern.cell = {kHatchCell, kHatchCell};
+  if (paint.background) {
+    CGPath cell;
+    cell.AddRectangle({0, 0}, pattern.cell);
+    pattern.shapes.push_back({std::move(cell), ColorFrom(ColorOf(color, *paint.background))});
+  }
+  pattern.shapes.push_back({HatchLines(paint.hatch), ColorFrom(ColorOf(color, paint.color))});
+  return pattern;
+}
+
+void Recolor(std::vector<unsigned char>& rgb, RasterStep::Color color) {
+  for (std::size_t i = 0; i + 2 < rgb.size(); i += 3) {
+    const RgbColor changed = ColorOf(color, {rgb[i], rgb[i + 1], rgb[i + 2]});
+    rgb[i] = changed.red;
+    rgb[i + 1] = changed.green;
+    rgb[i + 2] = changed.blue;
+  }
+}
+
+CFOwned<const CGImage> ImageOf(DibPixels pixels) {
+  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
+  data->bytes = std::move(pixels.rgb);
+  const CFOwned<const CGDataProvider> provider(CGDataProviderCreateWithCFData(data.get()));
+  const CFOwned<const CGColorSpace> space(CGColorSpaceCreateDeviceRGB());
+  return CFOwned<const CGImage>(CGImageCreate(pixels.width, pixels.height, 8, 24, 3 * pixels.width,
+                                              space.get(), 0, provider.get(), nullptr, false,
+                                              kCGRenderingIntentDefault));
+}
+
+std::optional<DibPixels> PixelsOf(const BrushPaint& paint) {
+  const PatternDib& dib = paint.pattern;
+  if (paint.kind == Brush::Kind::kMonoPattern) {
+    const RgbColor clear = paint.color;
+    const RgbColor set = paint.background.value_or(RgbColor{});
+    const std::array<DibColor, 2> colors = {
+        {{clear.red, clear.green, clear.blue}, {set.red, set.green, set.blue}}};
+    return DecodeDib(dib.header, dib.pixels, colors);
+  }
+  if (dib.usage != DIB_RGB_COLORS) return std::nullopt;
+  return DecodeDib(dib.header, dib.pixels);
+}
+
+}  // namespace
+
+std::optional<CGPattern> MakePattern(const BrushPaint& paint, RasterStep::Color color) {
+  if (paint.kind == Brush::Kind::kHatched) return HatchPattern(paint, color);
+  std::optional<DibPixels> pixels = PixelsOf(paint);
+  if (!pixels) return std::nullopt;
+  Recolor(pixels->rgb, color);
+  CGPattern pattern;
+  pattern.cell = {static_cast<CGFloat>(pixels->width), static_cast<CGFloat>(pixels->height)};
+  pattern.image = ImageOf(*std::move(pixels));
+  return pattern;
+}
+
+}  // namespace kelvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+
+#include "gdi/brush.h"
+#include "gdi/raster_operation.h"
+#include "platform/quartz/cg_pattern.h"
+
+namespace kelvane {
+
+/// @param paint  hatched or of a bitmap. @param color  the step of a raster operation for which
+///               all of its colours are changed.
+/// @return a cell of the brush, a unit a pixel, its matrix still the identity; nullopt when the
+///         bitmap cannot be read.
+std::optional<CGPattern> MakePattern(const BrushPaint& paint, RasterStep::Color color);
+
+}  // namespace kelvane

@@ -1,0 +1,112 @@
+#include "gdi/canvas.h"
+
+#include "gdi/brush_pattern.h"
+
+namespace kelvane {
+namespace {
+
+constexpr double kScreenDotsPerInch = 96;
+
+/// A brush's pixel is one of the device's where that is about as fine as a screen.
+double PatternPixel(double dotsPerInch) {
+  const bool isLikeAScreen = dotsPerInch >= 72 && dotsPerInch <= 150;
+  return isLikeAScreen ? 1 : dotsPerInch / kScreenDotsPerInch;
+}
+
+/// A colour as a number of a key; none is -1.
+std::int64_t KeyOf(const std::optional<RgbColor>& color) {
+  return color ? color->red << 16 | color->green << 8 | color->blue : -1;
+}
+
+}  // namespace
+
+Canvas::Canvas(CGContext& surface, const CGAffineTransform& deviceToPage, const RectangleD& whole,
+               const DeviceResolution& resolution)
+    : surface_(surface),
+      deviceToPage_(deviceToPage),
+      whole_(whole),
+      screenPixel_(resolution.dotsPerInchX / kScreenDotsPerInch),
+      patternPixelX_(PatternPixel(resolution.dotsPerInchX)),
+      patternPixelY_(PatternPixel(resolution.dotsPerInchY)) {}
+
+Canvas::~Canvas() {
+  for (std::size_t i = written_.size(); i > 0; --i)
+    surface_.RestoreGState();
+}
+
+void Canvas::Load(CGPath& path) {
+  path.Map(deviceToPage_);
+  surface_.SwapPath(path);
+}
+
+bool Canvas::BringClip(const ClipState& clip) {
+  const std::shared_ptr<const ClipCut>& innermost = clip.Innermost();
+  if (written_.empty() ? innermost == nullptr : written_.back().cut == innermost) {
+    return written_.empty() || !written_.back().hidesAll;
+  }
+  std::vector<const std::shared_ptr<const ClipCut>*> missing;
+  const std::shared_ptr<const ClipCut>* cut = &innermost;
+  const auto depthOf = [](const std::shared_ptr<const ClipCut>& c) { return c ? c->Depth() : 0; };
+  while (depthOf(*cut) > written_.size()) {
+    missing.push_back(cut);
+    cut = &(*cut)->Outer();
+  }
+  const auto leave = [&] {
+    surface_.RestoreGState();
+    written_.pop_back();
+  };
+  while (written_.size() > depthOf(*cut))
+    leave();
+  while (!written_.empty() && written_.back().cut != *cut) {
+    missing.push_back(cut);
+    cut = &(*cut)->Outer();
+    leave();
+  }
+  for (auto inner = missing.rbegin(); inner != missing.rend(); ++inner)
+    WriteCut(**inner);
+  return written_.empty() || !written_.back().hidesAll;
+}
+
+void Canvas::WriteCut(const std::shared_ptr<const ClipCut>& cut) {
+  surface_.SaveGState();
+  written_.push_back({cut, !written_.empty() && written_.back().hidesAll});
+  if (written_.back().hidesAll) return;
+  CGPath path = PathOf(cut->CutTo(), whole_);
+  const auto* outline = std::get_if<Outline>(&cut->CutTo());
+  const bool isWinding = outline != nullptr && outline->fillMode == WINDING && !outline->isOutside;
+  if (!path.HasSegments()) {
+    written_.back().hidesAll = true;
+    return;
+  }
+  Load(path);
+  isWinding ? surface_.Clip() : surface_.EOClip();
+}
+
+CGSharedPattern Canvas::PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color) {
+  const PatternKey key = {paint.kind,
+                          paint.hatch,
+                          static_cast<std::uint32_t>(KeyOf(paint.color)),
+                          KeyOf(paint.background),
+                          paint.pattern.header.data(),
+                          paint.pattern.usage,
+                          origin.x,
+                          origin.y,
+                          color};
+  const auto [entry, isNew] = patterns_.try_emplace(key);
+  if (isNew) {
+    auto pattern = MakePattern(paint, color);
+    if (pattern) {
+      const auto height = pattern->cell.height;
+      const auto x = static_cast<CGFloat>(patternPixelX_);
+      const auto y = static_cast<CGFloat>(patternPixelY_);
+      // A pattern's rows lie top first from the origin down, its own space has y upwards.
+      const CGAffineTransform patternToDevice = {
+          x, 0, 0, -y, static_cast<CGFloat>(origin.x), static_cast<CGFloat>(origin.y) + height * y};
+      pattern->matrix = CGAffineTransformConcat(patternToDevice, deviceToPage_);
+      entry->second = std::make_shared<const CGPattern>(*std::move(pattern));
+    }
+  }
+  return entry->second;
+}
+
+}  // namespace kelvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cmath>
+#include <map>
+#include <memory>
+#include <tuple>
+#include <vector>
+
+#include "gdi/brush.h"
+#include "gdi/clip_state.h"
+#include "gdi/geometry.h"
+#include "gdi/raster_operation.h"
+#include "platform/quartz/cg_context.h"
+
+namespace kelvane {
+
+/// How fine the device is whose pixels are the device units.
+struct DeviceResolution {
+  double dotsPerInchX = 96;
+  double dotsPerInchY = 96;
+};
+
+/// The surface that a device context draws on, cut to its clip. Marks are brought onto the page
+/// here, so that a pen whose width comes out alike in all directions is an upright number there,
+/// however slightly pixels are taller than wide.
+class Canvas {
+ public:
+  /// @param surface       borrowed; its user space is the page.
+  /// @param deviceToPage  upright.
+  /// @param whole         all that can be seen, device units.
+  Canvas(CGContext& surface, const CGAffineTransform& deviceToPage, const RectangleD& whole,
+         const DeviceResolution& resolution);
+  ~Canvas();
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+
+  [[nodiscard]] CGContext& Surface() { return surface_; }
+  [[nodiscard]] const CGAffineTransform& DeviceToPage() const { return deviceToPage_; }
+
+  /// Makes a path in device units the surface's current path.
+  /// @param path  empty afterwards, with memory for the next one.
+  void Load(CGPath& path);
+
+  /// Cuts what follows to a clip.
+  /// @return false when nothing is left to be seen.
+  bool BringClip(const ClipState& clip);
+
+  /// Device units in 1/96 inch, the pixel of what keeps its size on every device.
+  [[nodiscard]] double ScreenPixel() const { return screenPixel_; }
+
+  /// Points in a device unit from left to right.
+  [[nodiscard]] double PointsPerUnit() const { return std::abs(double{deviceToPage_.a}); }
+
+  /// @return a brush that is no plain colour as a pattern in the colours of a step; null when its
+  ///         bitmap cannot be read. The same one each time.
+  /// @param origin  of the pattern, device units.
+  CGSharedPattern PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color);
+
+ private:
+  using PatternKey =
+      std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t, const unsigned char*,
+                 DibUsage, std::int32_t, std::int32_t, RasterStep::Color>;
+
+  struct WrittenCut {
+    std::shared_ptr<const ClipCut> cut;
+    bool hidesAll;  // it, or one around it
+  };
+
+  void WriteCut(const std::shared_ptr<const ClipCut>& cut);
+
+  CGContext& surface_;
+  CGAffineTransform deviceToPage_;
+  RectangleD whole_;
+  double screenPixel_;
+  double patternPixelX_;  // device units in a pixel of a brush
+  double patternPixelY_;
+  std::vector<WrittenCut> written_;  // each within a state that was saved, outermost first
+  std::map<PatternKey, CGSharedPattern> patterns_;
+};
+
+}  // namespace kelvane

@@ -1,0 +1,200 @@
+#include "gdi/painting.h"
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <utility>
+
+#include "gdi/objects.h"
+#include "gdi/stroking.h"
+
+namespace kelvane {
+namespace {
+
+/// A colour or a pattern, and how it comes onto the page.
+struct Mark {
+  CGColor color;
+  CGSharedPattern pattern;
+  CGBlendMode mode = kCGBlendModeNormal;
+};
+
+/// The marks that paint makes under a raster operation, one on the other.
+struct Marks {
+  std::array<Mark, 2> marks;
+  std::size_t count = 0;
+
+  [[nodiscard]] std::span<const Mark> All() const { return {marks.data(), count}; }
+  [[nodiscard]] bool IsOneOpaque() const {
+    return count == 1 && marks[0].mode == kCGBlendModeNormal;
+  }
+};
+
+constexpr bool Fills(PaintKind kind) {
+  return kind != PaintKind::kStroke;
+}
+constexpr bool Strokes(PaintKind kind) {
+  return kind != PaintKind::kFill;
+}
+
+CGColor ColorFrom(RgbColor color) {
+  constexpr CGFloat kMost = 255;
+  return {static_cast<CGFloat>(color.red) / kMost, static_cast<CGFloat>(color.green) / kMost,
+          static_cast<CGFloat>(color.blue) / kMost, 1};
+}
+
+/// A bitmap counts as one with colours of all kinds.
+bool IsExact(BinaryRasterOperation operation, const BrushPaint& paint) {
+  constexpr RgbColor kAnyColor = {1, 1, 1};
+  if (paint.kind == Brush::Kind::kPattern) return IsExact(operation, kAnyColor);
+  return IsExact(operation, paint.color) &&
+         (!paint.background || IsExact(operation, *paint.background));
+}
+
+Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation) {
+  Marks found;
+  if (paint.kind == Brush::Kind::kNull) return found;
+  if (!IsExact(operation, paint)) device.shortfalls.Add(Shortfall::kBlendedColors);
+  for (const RasterStep& step : StepsOf(operation)) {
+    Mark mark = {ColorFrom(ColorOf(step.color, paint.color)), nullptr, step.mode};
+    if (paint.kind != Brush::Kind::kSolid) {
+      mark.pattern = device.canvas->PatternOf(paint, device.state.brushOrigin, step.color);
+      if (mark.pattern == nullptr) {
+        device.shortfalls.Add(Shortfall::kUnreadablePattern);
+        return {};
+      }
+    }
+    found.marks[found.count++] = std::move(mark);
+  }
+  return found;
+}
+
+Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation) {
+  return MarksOf(device, {.kind = Brush::Kind::kSolid, .color = color}, operation);
+}
+
+void SetFill(CGContext& surface, const Mark& mark) {
+  surface.SetFillColor(mark.color);
+  surface.SetFillPattern(mark.pattern);
+  surface.SetBlendMode(mark.mode);
+}
+
+void SetStroke(CGContext& surface, const Mark& mark) {
+  surface.SetStrokeColor(mark.color);
+  surface.SetStrokePattern(mark.pattern);
+  surface.SetBlendMode(mark.mode);
+}
+
+CGPathDrawingMode FillingMode(PolyFillMode fillMode) {
+  return fillMode == WINDING ? kCGPathFill : kCGPathEOFill;
+}
+
+/// Marks of one path: the last of them takes it, the others copy it.
+class PathPainter {
+ public:
+  PathPainter(DeviceContext& device, CGPath& path, std::size_t marks)
+      : device_(device), surface_(device.canvas->Surface()), path_(path), left_(marks) {}
+  ~PathPainter() { path_.Clear(); }
+  PathPainter(const PathPainter&) = delete;
+  PathPainter& operator=(const PathPainter&) = delete;
+
+  void Fill(const Marks& marks, PolyFillMode fillMode) {
+    for (const Mark& mark : marks.All()) {
+      SetFill(surface_, mark);
+      Load();
+      surface_.DrawPath(FillingMode(fillMode));
+    }
+  }
+
+  void Stroke(const Marks& marks, const PenStroke& stroke) {
+    for (const Mark& mark : marks.All()) {
+      SetStroke(surface_, mark);
+      Load();
+      DrawStroked(device_, stroke, kCGPathStroke);
+    }
+  }
+
+  void FillAndStroke(const Marks& fill, PolyFillMode fillMode, const Marks& marks,
+                     const PenStroke& stroke) {
+    SetFill(surface_, fill.marks[0]);
+    SetStroke(surface_, marks.marks[0]);
+    Load();
+    DrawStroked(device_, stroke, fillMode == WINDING ? kCGPathFillStroke : kCGPathEOFillStroke);
+  }
+
+ private:
+  void Load() {
+    if (--left_ == 0) return device_.canvas->Load(path_);
+    CGPath copy = path_;
+    device_.canvas->Load(copy);
+  }
+
+  DeviceContext& device_;
+  CGContext& surface_;
+  CGPath& path_;
+  std::size_t left_;
+};
+
+bool CanPaint(DeviceContext& device, const CGPath& path) {
+  return device.canvas != nullptr && path.HasSegments() &&
+         device.canvas->BringClip(device.state.clip);
+}
+
+void Fill(DeviceContext& device, CGPath& path, PolyFillMode fillMode, const Marks& marks) {
+  PathPainter(device, path, marks.count).Fill(marks, fillMode);
+}
+
+/// The gaps of thin dashed pens have the background's colour: they lie below the dashes.
+PenStroke WithoutDashes(PenStroke stroke) {
+  stroke.dashes.clear();
+  return stroke;
+}
+
+}  // namespace
+
+void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind) {
+  if (!CanPaint(device, path)) return path.Clear();
+  const DeviceState& state = device.state;
+  const Marks fill =
+      Fills(kind) ? MarksOf(device, ResolveBrush(device, *state.brush), state.rop2) : Marks();
+  const PenStroke stroke = Strokes(kind) ? ResolvePen(device) : PenStroke{.isNull = true};
+  const Marks lines =
+      stroke.isNull ? Marks() : MarksOf(device, ResolveBrush(device, state.pen->brush), state.rop2);
+  const Marks gaps = stroke.paintsGaps
+                         ? MarksOf(device, ResolveColor(device, state.backgroundColor), state.rop2)
+                         : Marks();
+  if (fill.IsOneOpaque() && lines.IsOneOpaque() && gaps.count == 0) {
+    PathPainter(device, path, 1).FillAndStroke(fill, state.polyFillMode, lines, stroke);
+    return;
+  }
+  PathPainter painter(device, path, fill.count + gaps.count + lines.count);
+  painter.Fill(fill, state.polyFillMode);
+  if (gaps.count > 0) painter.Stroke(gaps, WithoutDashes(stroke));
+  painter.Stroke(lines, stroke);
+}
+
+void FillWith(DeviceContext& device, CGPath& path, PolyFillMode fillMode, const Brush& brush,
+              BinaryRasterOperation operation) {
+  if (!CanPaint(device, path)) return path.Clear();
+  Fill(device, path, fillMode, MarksOf(device, ResolveBrush(device, brush), operation));
+}
+
+void FillWith(DeviceContext& device, CGPath& path, PolyFillMode fillMode, RgbColor color,
+              BinaryRasterOperation operation) {
+  if (!CanPaint(device, path)) return path.Clear();
+  Fill(device, path, fillMode, MarksOf(device, color, operation));
+}
+
+void DrawPendingMarks(DeviceContext& device) {
+  PendingMarks& pending = device.pending;
+  switch (std::exchange(pending.kind, PendingMarks::Kind::kNone)) {
+    case PendingMarks::Kind::kNone:
+      return;
+    case PendingMarks::Kind::kLines:
+      device.state.figureIsOpen = false;
+      return PaintPath(device, pending.path, PaintKind::kStroke);
+    case PendingMarks::Kind::kPixels:
+      return FillWith(device, pending.path, WINDING, pending.color, R2_COPYPEN);
+  }
+}
+
+}  // namespace kelvane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+
+namespace kelvane {
+
+/// Why what was drawn is only near to what Windows draws.
+enum class Shortfall : std::uint8_t {
+  kBlendedColors,      // a raster operation on colours that blend modes do not treat as bits
+  kUnreadablePattern,  // the bitmap of a brush or pen cannot be read, and nothing was painted
+  kClipTooComplex,     // a clip would have taken too long, and was left as it was
+  kRegionTooComplex,   // a region would have taken too long, and was not painted
+  kPathTooComplex,     // a path's outline would have taken too long, and the path was left
+};
+
+inline constexpr int kShortfalls = 5;
+
+/// A set of them.
+class Shortfalls {
+ public:
+  void Add(Shortfall shortfall) { bits_ |= BitOf(shortfall); }
+  [[nodiscard]] bool Has(Shortfall shortfall) const { return (bits_ & BitOf(shortfall)) != 0; }
+  [[nodiscard]] bool IsEmpty() const { return bits_ == 0; }
+  void Clear() { bits_ = 0; }
+
+ private:
+  static constexpr std::uint32_t BitOf(Shortfall shortfall) {
+    return 1U << static_cast<std::uint32_t>(shortfall);
+  }
+
+  std::uint32_t bits_ = 0;
+};
+
+}  // namespace kelvane

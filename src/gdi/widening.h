@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+
+#include "gdi/geometry.h"
+#include "gdi/pen.h"
+#include "platform/quartz/cg_path.h"
+
+namespace kelvane {
+
+/// @param path      device units.
+/// @param toDevice  from the logical units in which the pen is round.
+/// @return the outline of a path's stroke, to be filled by its winding; dashes do not count.
+///         nullopt when there is too much of the path, or the mapping has no area.
+std::optional<CGPath> Widened(const CGPath& path, const PenStroke& stroke, double miterLimit,
+                              const TransformD& toDevice);
+
+}  // namespace kelvane
