@@ -1,0 +1,67 @@
+#include "players/emf/emf_handler.h"
+
+namespace kelvane {
+namespace {
+
+/// Of records that leave no mark on a page.
+constexpr PlayEmfRecord kNoMark = [](EmfPlayback&, ByteView&) {};
+
+constexpr PlayEmfRecord kNoText = [](EmfPlayback& p, ByteView&) {
+  p.LeftOut("text is not drawn yet");
+};
+constexpr PlayEmfRecord kNoGradient = [](EmfPlayback& p, ByteView&) {
+  p.LeftOut("gradients are not drawn yet");
+};
+constexpr PlayEmfRecord kNoOpenGL = [](EmfPlayback& p, ByteView&) {
+  p.LeftOut("OpenGL is not drawn");
+};
+constexpr PlayEmfRecord kNoDriver = [](EmfPlayback& p, ByteView&) {
+  p.LeftOut("it speaks to the driver of a printer");
+};
+
+constexpr EmfHandler kHandlers[] = {
+    {EMR_HEADER, kNoMark},
+    {EMR_EOF, kNoMark},
+
+    {EMR_EXTTEXTOUTA, kNoText},
+    {EMR_EXTTEXTOUTW, kNoText},
+    {EMR_POLYTEXTOUTA, kNoText},
+    {EMR_POLYTEXTOUTW, kNoText},
+    {EMR_SMALLTEXTOUT, kNoText},
+    {EMR_GRADIENTFILL, kNoGradient},
+    {EMR_GLSRECORD, kNoOpenGL},
+    {EMR_GLSBOUNDEDRECORD, kNoOpenGL},
+    {EMR_DRAWESCAPE, kNoDriver},
+
+    // How text is set, which waits for text.
+    {EMR_SETMAPPERFLAGS, kNoMark},
+    {EMR_SETTEXTJUSTIFICATION, kNoMark},
+    {EMR_FORCEUFIMAPPING, kNoMark},
+    {EMR_SETLINKEDUFIS, kNoMark},
+
+    // A page has the colours that the records name: no palette of a display, no colour management.
+    {EMR_REALIZEPALETTE, kNoMark},
+    {EMR_SETCOLORADJUSTMENT, kNoMark},
+    {EMR_COLORCORRECTPALETTE, kNoMark},
+    {EMR_SETICMMODE, kNoMark},
+    {EMR_SETICMPROFILEA, kNoMark},
+    {EMR_SETICMPROFILEW, kNoMark},
+    {EMR_CREATECOLORSPACE, kNoMark},
+    {EMR_CREATECOLORSPACEW, kNoMark},
+    {EMR_SETCOLORSPACE, kNoMark},
+    {EMR_DELETECOLORSPACE, kNoMark},
+    {EMR_COLORMATCHTOTARGETW, kNoMark},
+    {EMR_PIXELFORMAT, kNoMark},
+
+    // Escapes that return nothing: settings of a driver.
+    {EMR_EXTESCAPE, kNoMark},
+    {EMR_NAMEDESCAPE, kNoMark},
+};
+
+}  // namespace
+
+std::span<const EmfHandler> EmfUnplayedHandlers() {
+  return kHandlers;
+}
+
+}  // namespace kelvane
