@@ -60,7 +60,7 @@ std::string Symbols(std::size_t count) {
 
 TEST(Deflater, MakesStreamsThatInflateToTheirData) {
   Deflater deflater;
-  for (const std::size_t size : {0, 1, 100, 32768, 32769, 100000}) {
+  for (const std::size_t size : {0U, 1U, 100U, 32768U, 32769U, 100000U}) {
     for (std::string text : {Lines(size / 10 + 1), Symbols(size / 40 + 1)}) {
       text.resize(size);
       EXPECT_EQ(Inflated(deflater.Deflate(Bytes(text)), size), text) << size;

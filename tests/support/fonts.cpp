@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <stdexcept>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -44,8 +45,8 @@ std::size_t EntryOf(const std::string& font, const std::string& table) {
 
 }  // namespace
 
-OtherFonts::OtherFonts(const std::vector<std::string>& files, const std::string& rules)
-    : rules_(rules), before_(std::getenv(kVariable)) {
+OtherFonts::OtherFonts(const std::vector<std::string>& files, std::string rules)
+    : rules_(std::move(rules)), before_(std::getenv(kVariable)) {
   std::filesystem::create_directory(folder_ / "fonts");
   for (const std::string& file : files) {
     Add(std::filesystem::path(file).filename().string(), ReadFile(file));

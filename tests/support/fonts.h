@@ -23,7 +23,7 @@ class OtherFonts {
  public:
   /// @param files  fonts, copied. With none the machine has no font at all.
   /// @param rules  Fontconfig's elements for what the fonts are called and stand for.
-  explicit OtherFonts(const std::vector<std::string>& files, const std::string& rules = {});
+  explicit OtherFonts(const std::vector<std::string>& files, std::string rules = {});
   OtherFonts(const OtherFonts&) = delete;
   OtherFonts& operator=(const OtherFonts&) = delete;
   ~OtherFonts();

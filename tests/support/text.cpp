@@ -42,7 +42,7 @@ Style MakeStyle(const TextSetting& setting) {
 
 Layout MakeLayout(CGContextRef surface, std::u16string_view text, const TextSetting& setting) {
   const Style style = MakeStyle(setting);
-  const ATSUStyle borrowed = style.get();
+  auto* const borrowed = style.get();
   const UniCharCount runLength = kATSUToTextEnd;
   ATSUTextLayout layout = nullptr;
   ATSUCreateTextLayoutWithTextPtr(text.data(), kATSUFromTextBeginning, kATSUToTextEnd,

@@ -42,7 +42,7 @@ std::multiset<std::string> Matches(const std::string& text, const std::regex& pa
 
 /// The links of a page whose file is not there.
 std::vector<std::string> DeadLinks(const fs::path& page) {
-  static const std::regex kLink("\\]\\(([^)#]+)[^)]*\\)");
+  static const std::regex kLink(R"(\]\(([^)#]+)[^)]*\))");
   std::vector<std::string> dead;
   for (const std::string& link : Matches(test::ReadFile(page), kLink)) {
     if (!fs::exists(page.parent_path() / link)) dead.push_back(link);

@@ -37,7 +37,8 @@ Metafile Page(const FontAttributes& font = {}) {
 
 /// `count` times the same spacing.
 std::vector<std::uint32_t> Even(std::size_t count, std::uint32_t distance) {
-  return std::vector<std::uint32_t>(count, distance);
+  std::vector<std::uint32_t> distances(count, distance);
+  return distances;
 }
 
 /// The spacing of text as it is usually set: each unit's own width, in whole units.
@@ -130,7 +131,7 @@ TEST_P(ATurnedLine, IsFoundAsItWasWritten) {
   const std::string text = TextIn(ConvertToPdf(
       Page({.height = -20, .escapement = 900}).TextOut({200, 280}, GetParam().text).Build()));
   // The reader marks where writing runs from right to left.
-  EXPECT_EQ(std::regex_replace(text, std::regex("\u202A|\u202B|\u202C"), ""), GetParam().found);
+  EXPECT_EQ(std::regex_replace(text, std::regex("\xE2\x80[\xAA-\xAC]"), ""), GetParam().found);
 }
 
 INSTANTIATE_TEST_SUITE_P(
