@@ -2,6 +2,7 @@
 //
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
+//     frontends/inspection > metafile
 //     gdi > metafile, quartz
 //
 // and within the classic conversion
@@ -52,6 +53,7 @@ const Arrows& Floors() {
       {"classic/document",
        {"classic/records", "classic/objects", "classic/bitmap", "classic/text"}},
       {"frontends", {"classic/document", "platform/pdf"}},
+      {"frontends/inspection", {"metafile/emf"}},
       {"frontends/appkit", {"platform/appkit"}},
   };
   return kFloors;
