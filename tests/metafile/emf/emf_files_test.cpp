@@ -1,6 +1,5 @@
-// Every metafile found beside the project, its records decoded.
+// Every scene, and every metafile found beside the project, its records decoded.
 
-#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -23,8 +22,7 @@ namespace fs = std::filesystem;
 std::vector<fs::path> MetafilesIn(const std::string& folder) {
   std::vector<fs::path> files;
   std::error_code absent;
-  for (const auto& entry :
-       fs::recursive_directory_iterator(SourcePath("../shared/" + folder), absent)) {
+  for (const auto& entry : fs::recursive_directory_iterator(SourcePath(folder), absent)) {
     if (entry.path().extension() == ".emf") files.push_back(entry.path());
   }
   return files;
@@ -77,15 +75,12 @@ TEST_P(SoundFiles, AreReadToTheirEndWithNoRecordShort) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EmfFiles, SoundFiles,
-                         testing::Values("corpus/real", "corpus/office", "scenes"),
-                         [](const auto& folder) {
-                           std::string name = folder.param;
-                           std::replace(name.begin(), name.end(), '/', '_');
-                           return name;
-                         });
+                         testing::Values("../shared/corpus/real", "../shared/corpus/office",
+                                         "tests/scenes"),
+                         [](const auto& folder) { return fs::path(folder.param).stem().string(); });
 
 TEST(DamagedFiles, AreReadAsFarAsTheyGo) {
-  const Tally tally = TallyOf("corpus/damaged");
+  const Tally tally = TallyOf("../shared/corpus/damaged");
   if (tally.files == 0) GTEST_SKIP() << "no metafiles in corpus/damaged";
   EXPECT_GT(tally.ends.size(), 0U);
   EXPECT_LT(tally.ends.size(), tally.files);
