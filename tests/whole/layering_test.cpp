@@ -1,5 +1,6 @@
 // Includes point one way. A folder may include itself and what stands below it:
 //
+//     frontends > players > metafile, quartz
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
 //     frontends/inspection > metafile
@@ -52,7 +53,7 @@ const Arrows& Floors() {
       {"classic/text", {"classic/context", "platform/atsui"}},
       {"classic/document",
        {"classic/records", "classic/objects", "classic/bitmap", "classic/text"}},
-      {"frontends", {"classic/document", "platform/pdf"}},
+      {"frontends", {"classic/document", "platform/pdf", "players/emf"}},
       {"frontends/inspection", {"metafile/emf"}},
       {"frontends/appkit", {"platform/appkit"}},
   };

@@ -1,0 +1,123 @@
+#include "frontends/conversion_options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <optional>
+#include <system_error>
+#include <vector>
+
+namespace kelvane {
+namespace {
+
+constexpr std::string_view kTo = "..";  // between the least and the most that a number may be
+
+/// @return the number that all of the text is; not-a-number and infinity count as none.
+std::optional<double> NumberIn(std::string_view text) {
+  double number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  const bool isNumber = error == std::errc() && stop == end && number - number == 0;
+  return isNumber ? std::optional(number) : std::nullopt;
+}
+
+double Number(std::string_view text) {
+  return NumberIn(text).value_or(0);
+}
+
+std::vector<std::string_view> Choices(std::string_view values) {
+  std::vector<std::string_view> choices;
+  while (!values.empty()) {
+    const std::size_t end = std::min(values.find('|'), values.size());
+    choices.push_back(values.substr(0, end));
+    values.remove_prefix(std::min(end + 1, values.size()));
+  }
+  return choices;
+}
+
+bool IsAmong(std::string_view value, std::string_view values) {
+  const auto choices = Choices(values);
+  return std::ranges::find(choices, value) != choices.end();
+}
+
+bool Allows(std::string_view values, std::string_view value) {
+  const std::size_t to = values.find(kTo);
+  if (to == std::string_view::npos) return IsAmong(value, values);
+  const auto number = NumberIn(value);
+  return number && *number >= Number(values.substr(0, to)) &&
+         *number <= Number(values.substr(to + kTo.size()));
+}
+
+/// "pdf", "frame or bounds", "a, b or c".
+std::string Enumeration(const std::vector<std::string_view>& names, std::string_view last) {
+  std::string words;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) words += i + 1 < names.size() ? ", " : std::string(" ").append(last).append(" ");
+    words += names[i];
+  }
+  return words;
+}
+
+/// What may be given, to follow "it is ".
+std::string InWords(std::string_view values) {
+  const std::size_t to = values.find(kTo);
+  if (to == std::string_view::npos) return Enumeration(Choices(values), "or");
+  return std::string("a number from ")
+      .append(values.substr(0, to))
+      .append(" to ")
+      .append(values.substr(to + kTo.size()));
+}
+
+std::string Unknown(std::string_view name) {
+  std::vector<std::string_view> names;
+  for (const ConversionOption& option : ListedOptions())
+    names.emplace_back(option.name);
+  return "there is no option '" + std::string(name) + "': there are " + Enumeration(names, "and");
+}
+
+std::string Refusal(const ConversionOption& option, std::string_view value) {
+  const char* const yet = IsAmong(value, option.coming) ? " yet" : "";
+  return std::string(option.name) + " cannot be '" + std::string(value) + "'" + yet + ": it is " +
+         InWords(option.values);
+}
+
+// Readers of PDF show pages of up to 14400 points a side, 200 inches.
+constexpr ConversionOption kOptions[] = {
+    {"format", "pdf", "pdf", "what to make of the picture; svg and png are not there yet",
+     "svg|png", [](ConversionOptions& options, std::string_view) { options.format = "pdf"; }},
+    {"page", "frame|bounds", "frame",
+     "what becomes the page: the picture's frame, or its bounds, a point a device unit", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.page = value == "bounds" ? PageChoice::kBounds : PageChoice::kFrame;
+     }},
+    {"width", "1..14400", "", "width of the page in points; alone, the height follows", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.size.width = Number(value);
+     }},
+    {"height", "1..14400", "", "height of the page in points; alone, the width follows", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.size.height = Number(value);
+     }},
+    {"scale", "0.001..1000", "1", "enlarges the page, where neither width nor height is given", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.size.scale = Number(value);
+     }},
+    {"strict", "no|yes", "no", "fails when anything is left out of the picture", "",
+     [](ConversionOptions& options, std::string_view value) { options.strict = value == "yes"; }},
+};
+
+}  // namespace
+
+std::span<const ConversionOption> ListedOptions() {
+  return kOptions;
+}
+
+std::string SetOption(ConversionOptions& options, std::string_view name, std::string_view value) {
+  const auto* const option = std::ranges::find(kOptions, name, &ConversionOption::name);
+  if (option == std::end(kOptions)) return Unknown(name);
+  if (!Allows(option->values, value)) return Refusal(*option, value);
+  option->store(options, value);
+  return {};
+}
+
+}  // namespace kelvane
