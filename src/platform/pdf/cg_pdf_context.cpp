@@ -50,6 +50,13 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 
   [[nodiscard]] CGFontFilter FontFilter() const override { return PdfShows; }
 
+  void Describe(const CFDictionary& information) {
+    for (const std::string_view key : {kCGPDFContextTitle, kCGPDFContextCreator}) {
+      const auto found = information.texts.find(key);
+      if (found != information.texts.end()) writer_.AddInformation(key, found->second);
+    }
+  }
+
   void DrawPDFPage(const CGRect& rect, const CGPDFPage& page) {
     const CGRect box = CGPDFPageGetBoxRect(&page, kCGPDFMediaBox);
     if (!(box.size.width > 0 && box.size.height > 0)) return;
@@ -253,9 +260,11 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 }  // namespace
 
 CGContextRef CGPDFContextCreate(CGDataConsumerRef consumer, const CGRect* mediaBox,
-                                CFDictionaryRef /*auxiliaryInfo*/) {
+                                CFDictionaryRef auxiliaryInfo) {
   if (consumer == nullptr || mediaBox == nullptr || !IsUsable(*mediaBox)) return nullptr;
-  return new CGPDFContext(consumer, *mediaBox);
+  CFOwned<CGPDFContext> context(new CGPDFContext(consumer, *mediaBox));
+  if (auxiliaryInfo != nullptr) context->Describe(*auxiliaryInfo);
+  return context.release();
 }
 
 void CGPDFContextClose(CGContextRef context) {

@@ -10,6 +10,7 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "base/unicode.h"
 #include "platform/pdf/pdf_number.h"
 
 namespace kelvane {
@@ -59,6 +60,12 @@ PdfWriter::PdfWriter() {
 }
 
 PdfWriter::~PdfWriter() = default;
+
+void PdfWriter::AddInformation(std::string_view key, std::u16string_view text) {
+  if (text.empty()) return;
+  auto information = pdf_.getTrailer().getKey("/Info");
+  information.replaceKey(std::string(key), QPDFObjectHandle::newUnicodeString(ToUTF8(text)));
+}
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
   const auto stream = std::make_shared<DeflatedStream>(deflater_.Deflate(data));

@@ -33,6 +33,10 @@ class PdfWriter {
   PdfWriter(const PdfWriter&) = delete;
   PdfWriter& operator=(const PdfWriter&) = delete;
 
+  /// Lets the document say something of itself. An empty text is left out.
+  /// @param key  with its slash: "/Title".
+  void AddInformation(std::string_view key, std::u16string_view text);
+
   /// @param data  copied, deflated. @return the new stream.
   QPDFObjectHandle AddStream(std::string_view data);
 
