@@ -203,6 +203,19 @@ std::vector<unsigned char> FileOfALine() {
   return Metafile().Polyline({{10, 20}, {30, 40}}).Build();
 }
 
+std::vector<unsigned char> WithDescription(std::vector<unsigned char> file,
+                                           std::u16string_view description) {
+  const std::vector<unsigned char> text = Bytes().Utf16(description).Data();
+  const auto units = static_cast<std::uint32_t>(description.size());
+  const std::size_t padding = text.size() % 4;
+  const auto size = static_cast<std::uint32_t>(kHeaderSize + text.size() + padding);
+  auto at = file.insert(file.begin() + kHeaderSize, padding, 0);
+  file.insert(at, text.begin(), text.end());
+  file = WithField(std::move(file), kHeaderSizeAt, size);
+  file = WithField(std::move(file), kDescriptionLengthAt, units);
+  return WithField(std::move(file), kDescriptionOffsetAt, kHeaderSize);
+}
+
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
                                      std::uint32_t value) {
   std::ranges::copy(Bytes().U32(value).Data(), file.begin() + static_cast<std::ptrdiff_t>(offset));

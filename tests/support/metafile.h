@@ -48,6 +48,7 @@ inline constexpr std::uint32_t kRegionCopy = 5;
 /// The header of the files below, and where some of its fields stand, in bytes from its start.
 inline constexpr std::uint32_t kHeaderSize = 108;
 inline constexpr std::size_t kHeaderSizeAt = 4;
+inline constexpr std::size_t kFrameAt = 24;
 inline constexpr std::size_t kFileSizeAt = 48;
 inline constexpr std::size_t kRecordCountAt = 52;
 inline constexpr std::size_t kDescriptionLengthAt = 60;
@@ -181,6 +182,11 @@ class Metafile {
 
 /// @return a file that draws a line from (10, 20) to (30, 40).
 std::vector<unsigned char> FileOfALine();
+
+/// @return the file with a description in its header: the program, U+0000, the picture's title,
+///         U+0000 twice.
+std::vector<unsigned char> WithDescription(std::vector<unsigned char> file,
+                                           std::u16string_view description);
 
 /// @return the file with a field of four bytes replaced.
 std::vector<unsigned char> WithField(std::vector<unsigned char> file, std::size_t offset,
