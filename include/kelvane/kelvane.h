@@ -1,18 +1,27 @@
 /*
  * kelvane: Windows Enhanced Metafiles to PDF.
  *
+ * There are two conversions. kelvane_convert makes a page that looks as Windows shows the metafile,
+ * and a report on what is missing from it. KELVANE and ReadFromFile make the page of the classic
+ * conversion, the same for good.
+ *
  * Errors: a function that can fail says so in its result, and nothing else leaves it: no exception,
- * no signal, no exit. A conversion that fails leaves its output as it was. When the input does not
- * begin with a metafile header, one line about it is printed to standard output.
+ * no signal, no exit. A conversion that fails leaves its output as it was. When the input of a
+ * classic one does not begin with a metafile header, one line about it is printed to standard
+ * output; the others print nothing.
  *
- * Lifetime: a data object starts with one reference, which belongs to whoever created it and is
- * given back with CFRelease. Memory that is passed in is borrowed for the call.
+ * Lifetime: memory that is passed in is borrowed for the call. Options and results belong to the
+ * caller, who frees each once. A data object starts with one reference, which belongs to whoever
+ * created it and is given back with CFRelease.
  *
- * Threads: any number of conversions may run at once, each with its own data object. A data object
- * is used by one thread at a time; its references may be counted from any.
+ * Threads: any number of conversions may run at once. They may share options that nobody sets
+ * meanwhile. A result or a data object is used by one thread at a time; a data object's references
+ * may be counted from any.
  */
 #ifndef KELVANE_KELVANE_H
 #define KELVANE_KELVANE_H
+
+#include <stddef.h>
 
 #define KELVANE_EXPORT __attribute__((visibility("default")))
 
@@ -35,7 +44,92 @@ typedef const struct KelvaneAllocator* CFAllocatorRef;
 typedef const struct KelvaneData* CFDataRef;
 typedef struct KelvaneData* CFMutableDataRef;
 
+/* How something ended. The tool kelvane exits with the same numbers. */
+typedef enum kelvane_status {
+  KELVANE_DONE = 0,       /* there is a document, or the option is set */
+  KELVANE_REFUSED = 1,    /* there is no such option, or it cannot have such a value */
+  KELVANE_NO_PICTURE = 2, /* the input is no metafile, or of a kind that is not supported yet */
+  KELVANE_INCOMPLETE = 3, /* the option "strict" is set, and the document lacks something */
+  KELVANE_NO_DOCUMENT = 4 /* the document cannot be made: memory has run out, for example */
+} kelvane_status;
+
+/* What is asked of conversions. */
+typedef struct kelvane_options kelvane_options;
+
+/* What came of a conversion. */
+typedef struct kelvane_result kelvane_result;
+
 /* NOLINTEND(modernize-use-using) */
+
+/*
+ * The options that there are, by an index from 0: the name, the values it can have ("frame|bounds",
+ * or "1..14400" for a number), the one it has unless it is set (empty when the picture decides),
+ * and a line of help. The texts live as long as the process. Each returns NULL past the last one.
+ */
+KELVANE_EXPORT const char* kelvane_option_name(size_t index);
+KELVANE_EXPORT const char* kelvane_option_values(size_t index);
+KELVANE_EXPORT const char* kelvane_option_default(size_t index);
+KELVANE_EXPORT const char* kelvane_option_help(size_t index);
+
+/*
+ * Creates options, none of them set yet.
+ * Returns them, the caller's, for kelvane_options_free; NULL when memory runs out.
+ */
+KELVANE_EXPORT kelvane_options* kelvane_options_new(void);
+
+/* Frees options. Results do not need them any more. NULL is allowed. */
+KELVANE_EXPORT void kelvane_options_free(kelvane_options* options);
+
+/*
+ * Sets an option.
+ * options: not NULL. name, value: zero-terminated, not NULL; copied.
+ * Returns KELVANE_DONE, KELVANE_REFUSED, and KELVANE_NO_DOCUMENT when memory runs out. Unless it is
+ * KELVANE_DONE the options are as they were.
+ */
+KELVANE_EXPORT kelvane_status kelvane_options_set(kelvane_options* options, const char* name,
+                                                  const char* value);
+
+/*
+ * Returns why the last kelvane_options_set did not set its option, in words that name the option,
+ * the value and what is allowed; empty when it did. Borrowed until the next one. options: not NULL.
+ */
+KELVANE_EXPORT const char* kelvane_options_message(const kelvane_options* options);
+
+/*
+ * Converts a metafile in memory.
+ * bytes: the metafile; may be NULL when length is 0. length: their number; 2 GiB or more is
+ * refused. options: only read; NULL for none set. Returns a result, the caller's, for
+ * kelvane_result_free whatever its status; NULL only when memory runs out.
+ */
+KELVANE_EXPORT kelvane_result* kelvane_convert(const void* bytes, size_t length,
+                                               const kelvane_options* options);
+
+/* Frees a result and all that was borrowed from it. NULL is allowed. */
+KELVANE_EXPORT void kelvane_result_free(kelvane_result* result);
+
+/* Returns how the conversion ended. result: not NULL. */
+KELVANE_EXPORT kelvane_status kelvane_result_status(const kelvane_result* result);
+
+/*
+ * Returns the document, borrowed from the result, and its length. NULL and 0 when there is none,
+ * and then kelvane_result_message says why.
+ * result, length: not NULL.
+ */
+KELVANE_EXPORT const void* kelvane_result_data(const kelvane_result* result, size_t* length);
+
+/*
+ * Returns the report, borrowed from the result: a JSON object on one line, zero-terminated, UTF-8.
+ * "left_out", "only_nearly" and "damaged" list what the page lacks, "remarks" what else there is to
+ * say; with them are the page's size in points, the number of records and the time taken.
+ * result: not NULL.
+ */
+KELVANE_EXPORT const char* kelvane_result_report(const kelvane_result* result);
+
+/*
+ * Returns why the status is not KELVANE_DONE, in words, borrowed from the result; empty when it is.
+ * result: not NULL.
+ */
+KELVANE_EXPORT const char* kelvane_result_message(const kelvane_result* result);
 
 /*
  * Creates an empty data object with one reference, the caller's.

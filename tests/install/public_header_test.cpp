@@ -20,11 +20,18 @@ struct Dialect {
   std::string source;
 };
 
-// No other folder of headers is looked at: it needs none, and another copy cannot be taken for it.
+/// The folder of the headers that the compiler brings itself.
+std::string OwnHeaders(const std::string& compiler) {
+  const std::string line = Run({compiler, "-print-file-name=include"}).output;
+  return line.substr(0, line.find('\n'));
+}
+
+// No other folder of headers is looked at: it needs none but the compiler's own, and another copy
+// cannot be taken for it.
 ProcessResult Compile(const Dialect& dialect, const std::string& includeFolder) {
   return Run({dialect.compiler, dialect.standard, "-Wall", "-Wextra", "-Wpedantic", "-Wconversion",
-              "-Wshadow", "-Werror", "-fsyntax-only", "-nostdinc", "-I", includeFolder,
-              dialect.source});
+              "-Wshadow", "-Werror", "-fsyntax-only", "-nostdinc", "-isystem",
+              OwnHeaders(dialect.compiler), "-I", includeFolder, dialect.source});
 }
 
 bool IsThere(const std::string& compiler) {
