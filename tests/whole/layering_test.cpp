@@ -55,6 +55,7 @@ const Arrows& Floors() {
        {"classic/records", "classic/objects", "classic/bitmap", "classic/text"}},
       {"frontends", {"classic/document", "platform/pdf", "players/emf"}},
       {"frontends/inspection", {"metafile/emf"}},
+      {"frontends/kelvane", {"frontends", "frontends/inspection"}},
       {"frontends/appkit", {"platform/appkit"}},
   };
   return kFloors;
