@@ -13,6 +13,10 @@ std::string ConverterPath() {
   return KELVANE_CONVERTER;
 }
 
+std::string KelvanePath() {
+  return KELVANE_TOOL;
+}
+
 std::string LibraryPath() {
   return KELVANE_LIBRARY;
 }

@@ -8,8 +8,9 @@ namespace kelvane::test {
 /// @param path  below the root of the checkout; empty for the root itself.
 std::string SourcePath(const std::filesystem::path& path);
 
-/// The tool and the shared library of this build.
+/// The two tools and the shared library of this build.
 std::string ConverterPath();
+std::string KelvanePath();
 std::string LibraryPath();
 
 /// The Fontconfig configuration of the tests: the same fonts on every machine.

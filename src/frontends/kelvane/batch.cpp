@@ -7,7 +7,6 @@
 #include <thread>
 #include <utility>
 
-#include "frontends/file_size_signal.h"
 #include "frontends/kelvane/file_conversion.h"
 #include "frontends/kelvane/output_file.h"
 #include "frontends/kelvane/progress.h"
@@ -116,7 +115,6 @@ void InThreads(std::size_t count, const Work& work) {
 }  // namespace
 
 int Convert(const std::vector<WorkItem>& items, const BatchOrders& orders) {
-  const FileSizeSignalBlocked signalBlocked;  // in the threads started here, too
   Desk desk(items, orders.report);
   std::atomic<std::size_t> next = 0;
   InThreads(std::min<std::size_t>(orders.jobs, items.size()), [&] {

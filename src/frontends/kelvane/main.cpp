@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <csignal>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -60,14 +61,15 @@ int Run(kelvane::CommandLine& line) {
   try {
     return kelvane::Convert(items, {options.get(), line.jobs, line.report});
   } catch (const std::system_error& error) {
-    return Complain("cannot write " + *line.report + ": " + error.code().message(),
-                    KELVANE_NO_DOCUMENT);
+    const std::string report = line.report == "-" ? "standard output" : line.report.value_or("");
+    return Complain("cannot write " + report + ": " + error.code().message(), KELVANE_NO_DOCUMENT);
   }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  (void)std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is an error like any other
   try {
     kelvane::CommandLine line;
     const auto status = kelvane::Parse(argc, argv, line);
