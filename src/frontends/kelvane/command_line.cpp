@@ -13,7 +13,10 @@ constexpr const char* kAbout =
     "Turns Windows Enhanced Metafiles (EMF) into PDF, as Windows shows them.\n"
     "Text and bitmaps are not drawn yet; the report names what is left out.\n";
 
-constexpr const char* kStatuses =
+constexpr const char* kFooter =
+    "kelvane info FILE tells what a metafile says of itself, kelvane dump FILE prints\n"
+    "its records, a line each. A file of such a name is written ./info or ./dump.\n"
+    "\n"
     "Exit status, the highest of all files:\n"
     "  0  all is well\n"
     "  1  wrong usage, nothing was done\n"
@@ -96,7 +99,7 @@ std::optional<int> Parse(int argc, const char* const* argv, CommandLine& line) {
   app.set_version_flag("--version", "kelvane " KELVANE_VERSION, "prints the version");
   app.set_help_flag("-h,--help", "prints this");
   app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  app.footer(kStatuses);
+  app.footer(kFooter);
   AddOwnOptions(app, line);
   AddConversionOptions(app, line);
   try {

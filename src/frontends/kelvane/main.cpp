@@ -12,6 +12,7 @@
 
 #include "frontends/kelvane/batch.h"
 #include "frontends/kelvane/command_line.h"
+#include "frontends/kelvane/inspect_command.h"
 #include "frontends/kelvane/work_list.h"
 
 namespace {
@@ -71,6 +72,7 @@ int Run(kelvane::CommandLine& line) {
 int main(int argc, char** argv) {
   (void)std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is an error like any other
   try {
+    if (argc > 1 && kelvane::IsInspection(argv[1])) return kelvane::Inspect(argc - 1, argv + 1);
     kelvane::CommandLine line;
     const auto status = kelvane::Parse(argc, argv, line);
     return status ? *status : Run(line);
