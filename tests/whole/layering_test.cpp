@@ -44,6 +44,7 @@ const Arrows& Floors() {
       {"platform/appkit", {"platform/corefoundation"}},
       {"gdi", {"metafile", "platform/quartz"}},
       {"players", {"platform/quartz"}},
+      {"players/emf", {"players", "metafile/emf", "gdi"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},
       {"classic/context", {"classic/playable"}},

@@ -4,27 +4,22 @@
 namespace kelvane {
 namespace {
 
-/// @return how many records of EMF+ the data of a comment hold ([MS-EMFPLUS] 2.3), going by their
-///         sizes.
-std::size_t CountEmfPlusRecords(ByteView data) {
-  constexpr std::uint32_t kHead = 12;  // bytes of type, flags, size and size of the data
-  std::size_t count = 0;
-  while (data.Remaining() >= kHead) {
-    data.Skip(2 * sizeof(std::uint16_t));
-    const auto size = data.Read<std::uint32_t>();
-    if (size < kHead || size - 2 * sizeof(std::uint32_t) > data.Remaining()) break;
-    data.Skip(size - 2 * sizeof(std::uint32_t));
-    ++count;
+/// The first record of EMF+ says whether the records of EMF have the same picture.
+void PlayEmfPlus(EmfPlayback& p, ByteView data) {
+  while (const auto record = NextEmfPlusRecord(data)) {
+    if (record->type == kEmfPlusHeader) {
+      p.hasEmfHalf = (record->flags & kEmfPlusDualFlag) != 0;
+    }
+    ++p.emfPlusRecords;
   }
-  return count;
+  if (!p.hasEmfHalf) p.LeftOut("its EMF+ records are not played yet");
 }
 
 /// Groups and other forms of the picture mark nothing: what is to be seen stands in the records.
 void PlayComment(EmfPlayback& p, const CommentRecord& r) {
   switch (r.kind) {
     case EmfCommentKind::kEmfPlus:
-      p.emfPlusRecords += CountEmfPlusRecords(r.data);
-      return;
+      return PlayEmfPlus(p, r.data);
     case EmfCommentKind::kPrivate:
       ++p.privateComments;
       return;

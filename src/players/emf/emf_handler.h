@@ -18,6 +18,7 @@ struct EmfPlayback {
   std::uint32_t type = 0;  // of the record at hand
 
   std::size_t emfPlusRecords = 0;
+  bool hasEmfHalf = false;  // whether EMF records have what EMF+ has
   std::size_t privateComments = 0;
 
   void LeftOut(std::string_view why) { report.LeftOut(type, why); }

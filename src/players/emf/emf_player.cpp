@@ -67,7 +67,7 @@ void Play(EmfPlayback& playback, EmfRecord& record) {
 }
 
 void ReportComments(const EmfPlayback& playback) {
-  if (playback.emfPlusRecords > 0) {
+  if (playback.hasEmfHalf) {
     playback.report.Remark(std::to_string(playback.emfPlusRecords) +
                            " EMF+ records are not played; the picture is drawn from its EMF half");
   }
