@@ -1,5 +1,7 @@
 #include "gdi/canvas.h"
 
+#include <cmath>
+
 #include "gdi/brush_pattern.h"
 
 namespace kelvane {
@@ -16,6 +18,16 @@ double PatternPixel(double dotsPerInch) {
 /// A colour as a number of a key; none is -1.
 std::int64_t KeyOf(const std::optional<RgbColor>& color) {
   return color ? color->red << 16 | color->green << 8 | color->blue : -1;
+}
+
+/// Viewers put a cell's corner at the pixel in which it lies. Where it lies on the edge of one,
+/// rounding must not take it to the pixel before.
+/// @param matrix  upright, of a pattern whose unit is a pixel.
+CGAffineTransform IntoThePixel(CGAffineTransform matrix) {
+  constexpr CGFloat kHair = 1.0F / 16;
+  matrix.tx += std::abs(matrix.a) * kHair;
+  matrix.ty += std::abs(matrix.d) * kHair;
+  return matrix;
 }
 
 }  // namespace
@@ -102,7 +114,7 @@ CGSharedPattern Canvas::PatternOf(const BrushPaint& paint, PointL origin, Raster
       // A pattern's rows lie top first from the origin down, its own space has y upwards.
       const CGAffineTransform patternToDevice = {
           x, 0, 0, -y, static_cast<CGFloat>(origin.x), static_cast<CGFloat>(origin.y) + height * y};
-      pattern->matrix = CGAffineTransformConcat(patternToDevice, deviceToPage_);
+      pattern->matrix = IntoThePixel(CGAffineTransformConcat(patternToDevice, deviceToPage_));
       entry->second = std::make_shared<const CGPattern>(*std::move(pattern));
     }
   }
