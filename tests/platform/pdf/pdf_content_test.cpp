@@ -30,20 +30,29 @@ CGPath PathOfAllElements() {
 }
 
 TEST(PdfContent, WritesAnOperatorALine) {
-  EXPECT_EQ(
-      Written([](PdfContent& c) {
-        c.Save();
-        c.Concat({1, 2, 3, 4, 5, 6});
-        c.FillColor({0.25F, 0.5F, 1, 1});
-        c.StrokeColor({255.0F / 256, 0, 1, 1});
-        c.LineWidth(0);
-        c.MiterLimit(4);
-        c.TextMode(kCGTextInvisible);
-        c.Clip();
-        c.DrawXObject("/Im1");
-        c.Restore();
-      }),
-      "q\n1 2 3 4 5 6 cm\n0.25 0.5 1 rg\n0.99609375 0 1 RG\n0 w\n4 M\n3 Tr\nW n\n/Im1 Do\nQ\n");
+  EXPECT_EQ(Written([](PdfContent& c) {
+              c.Save();
+              c.Concat({1, 2, 3, 4, 5, 6});
+              c.FillColor({0.25F, 0.5F, 1, 1});
+              c.StrokeColor({255.0F / 256, 0, 1, 1});
+              c.LineWidth(0);
+              c.LineCap(kCGLineCapSquare);
+              c.LineJoin(kCGLineJoinBevel);
+              c.LineDash({{3, 1.5F}, 0.25F});
+              c.LineDash({});
+              c.MiterLimit(4);
+              c.TextMode(kCGTextInvisible);
+              c.Clip(false);
+              c.Clip(true);
+              c.DrawXObject("/Im1");
+              c.FillPattern("/P1");
+              c.StrokePattern("/P2");
+              c.GraphicsState("/G1");
+              c.Restore();
+            }),
+            "q\n1 2 3 4 5 6 cm\n0.25 0.5 1 rg\n0.99609375 0 1 RG\n0 w\n2 J\n2 j\n[3 1.5 ] 0.25 "
+            "d\n[] 0 d\n4 M\n3 Tr\nW n\nW* n\n/Im1 Do\n"
+            "/Pattern cs\n/P1 scn\n/Pattern CS\n/P2 SCN\n/G1 gs\nQ\n");
 }
 
 TEST(PdfContent, WritesAPathsElements) {

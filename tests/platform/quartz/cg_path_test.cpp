@@ -217,5 +217,68 @@ TEST(CGPath, IsNotFiniteOnceAnyCoordinateIsNot) {
   }
 }
 
+/// A subpath of each kind of element, and a rectangle.
+CGPath AllElements() {
+  CGPath path;
+  path.MoveTo({1, 2});
+  path.LineTo({3, 4});
+  path.CurveTo({5, 6}, {7, 8}, {9, 10});
+  path.Close();
+  path.AddRectangle({10, 20}, {5, -2});
+  return path;
+}
+
+TEST(CGPath, IsMappedWhereItLiesAsItsCopyIs) {
+  for (const CGAffineTransform& t :
+       {CGAffineTransform{2, 0, 0, -3, 10, 20}, CGAffineTransform{0, 1, -1, 0, 5, 6}}) {
+    CGPath path = AllElements();
+    const CGPath copy = path.Mapped(t);
+    path.Map(t);
+    EXPECT_EQ(Written(path), Written(copy));
+    EXPECT_EQ(path.CurrentPoint(), copy.CurrentPoint());
+  }
+}
+
+TEST(CGPath, GoesOnFromWhereItWasMappedTo) {
+  CGPath path;
+  path.MoveTo({1, 2});
+  path.LineTo({3, 4});
+  path.Map({1, 0, 0, 1, 100, 0});
+  path.Close();
+  path.LineTo({7, 7});
+  EXPECT_EQ(Written(path), "101 2 m 103 4 l h 101 2 m 7 7 l ");
+}
+
+TEST(CGPath, IsNotFiniteOnceMappedBeyondItsNumbers) {
+  CGPath path;
+  path.MoveTo({3e38F, 0});
+  path.LineTo({0, 0});
+  path.Map({10, 0, 0, 10, 0, 0});
+  EXPECT_FALSE(path.IsFinite());
+}
+
+TEST(CGPath, GoesBackToWhereItWas) {
+  CGPath path;
+  path.MoveTo({1, 2});
+  path.LineTo({3, 4});
+  const CGPath::Progress before = path.Reached();
+  const std::string written = Written(path);
+  path.Close();
+  path.AddRectangle({5, 5}, {kInfinity, 1});
+  path.GoBackTo(before);
+  EXPECT_EQ(Written(path), written);
+  EXPECT_TRUE(path.IsFinite());
+  EXPECT_EQ(path.CurrentPoint(), (CGPoint{3, 4}));
+  path.Close();
+  EXPECT_EQ(Written(path), written + "h ");
+}
+
+TEST(CGPath, LetsItsLastRectangleGrow) {
+  CGPath path;
+  path.AddRectangle({1, 2}, {1, 1});
+  path.GrowLastRectangle({2, 0});
+  EXPECT_EQ(Written(path), "1 2 3 1 re ");
+}
+
 }  // namespace
 }  // namespace kelvane
