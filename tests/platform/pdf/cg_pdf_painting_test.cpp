@@ -2,6 +2,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -48,18 +49,31 @@ TEST(PdfPainting, RepeatsAPatternsCell) {
   EXPECT_EQ(page.At(45, 55), kRed);
 }
 
+/// An image of 20 by 20 pixels: red and green above white.
+CFOwned<const CGImage> Quarters() {
+  std::vector<unsigned char> pixels;
+  for (int row = 0; row < 20; ++row) {
+    for (int column = 0; column < 20; ++column) {
+      const Raster::Color color = row >= 10 ? kWhite : column < 10 ? kRed : kGreen;
+      for (const int channel : color)
+        pixels.push_back(static_cast<unsigned char>(channel));
+    }
+  }
+  return test::ImageOf(20, 20, 3, pixels);
+}
+
 TEST(PdfPainting, DrawsAPatternsImageUpright) {
   CGPattern pattern;
-  pattern.cell = {2, 2};
-  pattern.image = test::ImageOf(2, 2, 3, {255, 0, 0, 0, 255, 0, 255, 255, 255, 255, 255, 255});
+  pattern.cell = {20, 20};
+  pattern.image = Quarters();
   const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
   const Raster page(PdfBytesOf([&](CGContextRef c) {
     c->SetFillPattern(shared);
     FillRect(c, {{0, 0}, {100, 100}});
   }));
-  EXPECT_EQ(page.At(40, 40), kRed);
-  EXPECT_EQ(page.At(41, 40), kGreen);
-  EXPECT_EQ(page.At(40, 41), kWhite);
+  EXPECT_EQ(page.At(45, 45), kRed);
+  EXPECT_EQ(page.At(55, 45), kGreen);
+  EXPECT_EQ(page.At(45, 55), kWhite);
 }
 
 TEST(PdfPainting, StoresAPatternOnce) {
