@@ -1,17 +1,18 @@
-# What others get: the library, what building against it takes, and the tool. A component each, so that a package can
+# What others get: the library, what building against it takes, and the tools. A component each, so that a package can
 # be made of each.
 include(CMakePackageConfigHelpers)
 
 set(KELVANE_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/kelvane)
 set(KELVANE_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# The tool finds the library from its own place, wherever both were moved to. Packagers for a folder that the loader
+# The tools find the library from its own place, wherever both were moved to. Packagers for a folder that the loader
 # searches anyway set CMAKE_SKIP_INSTALL_RPATH.
 file(RELATIVE_PATH KELVANE_LIBDIR_FROM_BINDIR ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
-set_target_properties(kelvaneConverter PROPERTIES INSTALL_RPATH "\$ORIGIN/${KELVANE_LIBDIR_FROM_BINDIR}")
+set_target_properties(kelvane_tool kelvaneConverter PROPERTIES
+  INSTALL_RPATH "\$ORIGIN/${KELVANE_LIBDIR_FROM_BINDIR}")
 install(TARGETS kelvane EXPORT kelvaneTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development)
-install(TARGETS kelvaneConverter DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT converter)
+install(TARGETS kelvane_tool kelvaneConverter DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT converter)
 
 install(FILES include/kelvane/kelvane.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kelvane COMPONENT development)
 
@@ -31,6 +32,9 @@ cmake_path(APPEND KELVANE_PKGCONFIG_INCLUDEDIR "\${prefix}" ${CMAKE_INSTALL_INCL
 configure_file(cmake/kelvane.pc.in kelvane.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kelvane.pc DESTINATION ${KELVANE_PKGCONFIG_DIR} COMPONENT development)
 
-configure_file(docs/kelvaneConverter.1.in kelvaneConverter.1 @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kelvaneConverter.1
-  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT converter)
+foreach(page IN ITEMS kelvane.1 kelvaneConverter.1)
+  configure_file(docs/${page}.in ${page} @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT converter)
+endforeach()
+install(FILES src/frontends/kelvane/completion.bash RENAME kelvane
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT converter)

@@ -17,9 +17,10 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libkelvane${KELVANE_ABI})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS fonts-liberation)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows Enhanced Metafiles into PDF
-A call turns a metafile (EMF), in memory or in a file, into a PDF of one page.
-Lines stay vectors, and text stays text that can be searched and copied. Input
-is not trusted: whatever it is, there is a document or an error.
+A call turns a metafile (EMF), in memory or in a file, into a PDF of one page,
+and can report what that lacks. Lines stay vectors, and text stays text that can
+be searched and copied. Input is not trusted: whatever it is, there is a
+document or an error.
 
 This package contains the shared library.")
 
@@ -34,9 +35,11 @@ need to build programs that use the library.")
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_NAME kelvane)
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_SECTION graphics)
 set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows Enhanced Metafiles into one-page PDFs
-The tool kelvaneConverter writes a PDF beside a metafile (EMF). Lines stay
-vectors, and text stays text that can be searched and copied. It is made for
-build pipelines, TeX and document servers, and for files nobody vouches for.")
+The tool kelvane makes pages that look as Windows shows a metafile (EMF), of
+many files at once, and reports what it left out: so far text and bitmaps. The
+tool kelvaneConverter draws these, too, but simplifies lines and shapes. Lines
+stay vectors, and text stays text that can be searched and copied. Both are made
+for build pipelines, TeX and document servers, and for files nobody vouches for.")
 
 set(CPACK_KELVANE_ABI ${KELVANE_ABI})
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/../packaging/finish_staging.cmake)

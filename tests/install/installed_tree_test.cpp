@@ -21,6 +21,7 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
   const std::string soname = "libkelvane.so." + LibraryABI();
   const std::string library = "libkelvane.so." + LibraryVersion();
   std::set<std::string> expected = {
+      "bin/kelvane",
       "bin/kelvaneConverter",
       "include/kelvane/kelvane.h",
       package + "kelvaneConfig.cmake",
@@ -31,6 +32,8 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
       libraries + library,
       libraries + soname + " -> " + library,
       libraries + "pkgconfig/kelvane.pc",
+      "share/bash-completion/completions/kelvane",
+      "share/man/man1/kelvane.1",
       "share/man/man1/kelvaneConverter.1",
   };
   if (HasAppKit()) {
@@ -48,7 +51,7 @@ TEST(InstalledTree, HoldsTheseFilesAndNoOthers) {
   EXPECT_EQ(InstalledTree().Files(), expected);
 }
 
-TEST(InstalledTree, HasAToolThatFindsItsLibrary) {
+TEST(InstalledTree, HasToolsThatFindTheirLibrary) {
   const InstalledTree tree;
   const TemporaryFolder folder;
   WriteFile(folder / "a.emf", ReadFile(SourcePath("samples/shapes.emf")));
@@ -56,14 +59,22 @@ TEST(InstalledTree, HasAToolThatFindsItsLibrary) {
       test::Run({"env", "-u", "LD_LIBRARY_PATH", tree / "bin/kelvaneConverter", folder / "a.emf"});
   EXPECT_EQ(result.output, kSuccess);
   EXPECT_EQ(NamesIn(folder), (Names{"a.emf", "a.pdf"}));
+  EXPECT_EQ(test::Run({"env", "-u", "LD_LIBRARY_PATH", tree / "bin/kelvane", "-o", folder / "b.pdf",
+                       folder / "a.emf"})
+                .status,
+            0);
+  EXPECT_EQ(NamesIn(folder), (Names{"a.emf", "a.pdf", "b.pdf"}));
 }
 
 // Instead of a fixed place, which would be the build's or could be planted.
-TEST(InstalledTree, HasAToolThatLooksForItsLibraryBesideItself) {
+TEST(InstalledTree, HasToolsThatLookForTheirLibraryBesideThemselves) {
   const InstalledTree tree;
-  EXPECT_NE(test::Run({"readelf", "-d", tree / "bin/kelvaneConverter"})
-                .output.find("runpath: [$ORIGIN/../" + InstalledTree::LibraryFolder() + "]"),
-            std::string::npos);
+  for (const char* const tool : {"bin/kelvane", "bin/kelvaneConverter"}) {
+    EXPECT_NE(test::Run({"readelf", "-d", tree / tool})
+                  .output.find("runpath: [$ORIGIN/../" + InstalledTree::LibraryFolder() + "]"),
+              std::string::npos)
+        << tool;
+  }
 }
 
 TEST(InstalledTree, HasALibraryThatProgramsKnowByItsABI) {

@@ -1,0 +1,41 @@
+# Completion of kelvane's command lines for bash.
+
+_kelvane() {
+  local current=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]}
+  # bash takes --page=frame for three words.
+  if [ "$current" = = ]; then
+    current=
+  elif [ "$option" = = ]; then
+    option=${COMP_WORDS[COMP_CWORD - 2]}
+  fi
+  COMPREPLY=()
+  case $option in
+    -f | --format)
+      mapfile -t COMPREPLY < <(compgen -W 'pdf' -- "$current")
+      return ;;
+    --page)
+      mapfile -t COMPREPLY < <(compgen -W 'frame bounds' -- "$current")
+      return ;;
+    -d | --directory)
+      mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
+    -o | --output | --report)
+      mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+    -j | --jobs | --width | --height | --scale)
+      return ;;
+    *)
+      case $current in
+        -*)
+          mapfile -t COMPREPLY < <(compgen -W '--output --directory --jobs --report --format --page
+            --width --height --scale --strict --help --version' -- "$current")
+          return ;;
+      esac
+      mapfile -t COMPREPLY < <(
+        [ "$COMP_CWORD" -ne 1 ] || compgen -W 'info dump' -- "$current"
+        compgen -d -- "$current"
+        compgen -f -X '!*.[eE][mM][fF]' -- "$current"
+      ) ;;
+  esac
+  compopt -o filenames 2>/dev/null
+}
+
+complete -F _kelvane kelvane
