@@ -22,10 +22,13 @@ namespace fs = std::filesystem;
 
 const std::string kRoot = test::SourcePath("") + "/";
 
-TEST(Readme, ShowsTheExampleThatIsCompiled) {
-  const std::string example = test::ReadFile(kRoot + "tests/frontends/readme_example.c");
-  EXPECT_NE(test::ReadFile(kRoot + "README.md").find("```c\n" + example + "```\n"),
-            std::string::npos);
+TEST(Readme, ShowsTheExamplesThatAreCompiled) {
+  for (const char* const name : {"readme_example.c", "readme_report_example.c"}) {
+    const std::string example = test::ReadFile(kRoot + "tests/frontends/" + name);
+    EXPECT_NE(test::ReadFile(kRoot + "README.md").find("```c\n" + example + "```\n"),
+              std::string::npos)
+        << name;
+  }
 }
 
 TEST(Readme, NamesASampleThatIsThere) {
