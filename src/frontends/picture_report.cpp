@@ -1,53 +1,88 @@
 #include "frontends/picture_report.h"
 
 #include <cmath>
-#include <nlohmann/json.hpp>
 
+#include "frontends/json_writer.h"
 #include "metafile/emf/emf_record_type.h"
 
 namespace kelvane {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 double ToThousandths(double number) {
   return std::round(number * 1000) / 1000;
 }
 
-Json RecordsThat(Omission omission, const Report& report) {
-  Json list = Json::array();
-  for (const ReportedRecords& records : report.Records()) {
-    if (records.omission != omission) continue;
-    const std::string_view name = RecordName(records.type);
-    list.push_back({{"record", name.empty() ? "unknown" : name},
-                    {"type", records.type},
-                    {"count", records.count},
-                    {"why", records.why}});
-  }
-  return list;
+void AddRecords(const ReportedRecords& records, JsonWriter& json) {
+  const std::string_view name = RecordName(records.type);
+  json.BeginObject();
+  json.Key("record");
+  json.Text(name.empty() ? "unknown" : name);
+  json.Key("type");
+  json.Count(records.type);
+  json.Key("count");
+  json.Count(records.count);
+  json.Key("why");
+  json.Text(records.why);
+  json.EndObject();
 }
 
-void AddDocument(const PictureConversion& conversion, Json& json) {
-  json["format"] = conversion.format;
-  json["page"] = {{"width", ToThousandths(conversion.pageSize.width)},
-                  {"height", ToThousandths(conversion.pageSize.height)}};
-  json["records"] = conversion.records;
-  json["left_out"] = RecordsThat(Omission::kLeftOut, conversion.report);
-  json["only_nearly"] = RecordsThat(Omission::kOnlyNearly, conversion.report);
-  json["damaged"] = RecordsThat(Omission::kDamaged, conversion.report);
-  json["remarks"] = conversion.report.Remarks();
+void AddRecordsThat(Omission omission, const char* key, const Report& report, JsonWriter& json) {
+  json.Key(key);
+  json.BeginArray();
+  for (const ReportedRecords& records : report.Records()) {
+    if (records.omission == omission) AddRecords(records, json);
+  }
+  json.EndArray();
+}
+
+void AddRemarks(const Report& report, JsonWriter& json) {
+  json.Key("remarks");
+  json.BeginArray();
+  for (const std::string& remark : report.Remarks())
+    json.Text(remark);
+  json.EndArray();
+}
+
+void AddPage(const CGSize& size, JsonWriter& json) {
+  json.Key("page");
+  json.BeginObject();
+  json.Key("width");
+  json.Number(ToThousandths(size.width));
+  json.Key("height");
+  json.Number(ToThousandths(size.height));
+  json.EndObject();
+}
+
+void AddDocument(const PictureConversion& conversion, JsonWriter& json) {
+  json.Key("format");
+  json.Text(conversion.format);
+  AddPage(conversion.pageSize, json);
+  json.Key("records");
+  json.Count(conversion.records);
+  AddRecordsThat(Omission::kLeftOut, "left_out", conversion.report, json);
+  AddRecordsThat(Omission::kOnlyNearly, "only_nearly", conversion.report, json);
+  AddRecordsThat(Omission::kDamaged, "damaged", conversion.report, json);
+  AddRemarks(conversion.report, json);
 }
 
 }  // namespace
 
 std::string ReportAsJson(const PictureConversion& conversion) {
-  Json json;
-  json["status"] = static_cast<int>(conversion.status);
-  if (!conversion.message.empty()) json["message"] = conversion.message;
+  JsonWriter json;
+  json.BeginObject();
+  json.Key("status");
+  json.Count(static_cast<std::size_t>(conversion.status));
+  if (!conversion.message.empty()) {
+    json.Key("message");
+    json.Text(conversion.message);
+  }
   if (conversion.document) AddDocument(conversion, json);
-  json["bytes"] = conversion.bytes;
-  json["milliseconds"] = ToThousandths(conversion.milliseconds);
-  return json.dump();
+  json.Key("bytes");
+  json.Count(conversion.bytes);
+  json.Key("milliseconds");
+  json.Number(ToThousandths(conversion.milliseconds));
+  json.EndObject();
+  return json.Written();
 }
 
 }  // namespace kelvane

@@ -109,7 +109,7 @@ static void Convert(void) {
   Expect(kelvane_result_status(result) == KELVANE_DONE, "a metafile is converted");
   Expect(length > 5 && memcmp(data, "%PDF-", 5) == 0, "the result holds a document");
   Expect(strcmp(kelvane_result_message(result), "") == 0, "there is nothing to explain");
-  Expect(Holds(kelvane_result_report(result), "\"page\":{\"width\":72.0,\"height\":144.0}"),
+  Expect(Holds(kelvane_result_report(result), "\"page\":{\"width\":72,\"height\":144}"),
          "the report has the page, which is the frame");
   Expect(Holds(kelvane_result_report(result), "\"records\":5"), "the report counts records");
   Expect(Holds(kelvane_result_report(result), "\"left_out\":[{\"record\":\"unknown\",\"type\":200"),
@@ -130,7 +130,7 @@ static void ConvertWithOptions(void) {
   Expect(strcmp(kelvane_result_message(result), "1 record left out of the picture") == 0,
          "the message says what is wrong");
   Expect(kelvane_result_data(result, &length) != NULL && length > 0, "the document is there still");
-  Expect(Holds(kelvane_result_report(result), "\"page\":{\"width\":80.0,\"height\":160.0}"),
+  Expect(Holds(kelvane_result_report(result), "\"page\":{\"width\":80,\"height\":160}"),
          "the page is the bounds");
   kelvane_result_free(result);
 }

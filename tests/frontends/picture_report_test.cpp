@@ -23,7 +23,7 @@ PictureConversion Converted() {
 
 TEST(PictureReport, IsAnObjectOnOneLine) {
   EXPECT_EQ(ReportAsJson(Converted()),
-            R"({"status":0,"format":"pdf","page":{"width":595.276,"height":100.0},"records":12,)"
+            R"({"status":0,"format":"pdf","page":{"width":595.276,"height":100},"records":12,)"
             R"("left_out":[],"only_nearly":[],"damaged":[],"remarks":[],)"
             R"("bytes":3456,"milliseconds":1.235})");
 }
@@ -62,7 +62,7 @@ TEST(PictureReport, SaysOfAFailureOnlyWhatIsKnown) {
   conversion.status = ConversionStatus::kNoPicture;
   conversion.message = "it is empty";
   EXPECT_EQ(ReportAsJson(conversion),
-            R"({"status":2,"message":"it is empty","bytes":0,"milliseconds":0.0})");
+            R"({"status":2,"message":"it is empty","bytes":0,"milliseconds":0})");
 }
 
 }  // namespace

@@ -126,6 +126,29 @@ TEST_F(AllocationFailure, OfOurOwnGivesTheWholeDocumentOrNoneAndLosesNothingFrom
   WalkLosingNothing([this](std::uint64_t count) { return FailFromFile(Request::kOwnNew, count); });
 }
 
+/// Converts as the tool kelvane does. @return the status as the classic calls have it.
+int ConvertPicture(const File& picture) {
+  kelvane_options* const options = kelvane_options_new();
+  int status = -1;
+  if (options != nullptr && kelvane_options_set(options, "page", "bounds") == KELVANE_DONE) {
+    kelvane_result* const result = kelvane_convert(picture.data(), picture.size(), options);
+    std::size_t length = 0;
+    const bool isDone = result != nullptr && kelvane_result_status(result) == KELVANE_DONE;
+    EXPECT_EQ(isDone, result != nullptr && kelvane_result_data(result, &length) != nullptr);
+    status = isDone ? 0 : -1;
+    kelvane_result_free(result);
+  }
+  kelvane_options_free(options);
+  return status;
+}
+
+TEST_F(AllocationFailure, OfOurOwnGivesAWholeResultOrNoneAndLosesNothing) {
+  Use(Picture());
+  WalkLosingNothing([this](std::uint64_t count) {
+    return Fail(Request::kOwnNew, count, [this] { return ConvertPicture(picture_); });
+  });
+}
+
 // The font libraries do not survive it everywhere, so without text; and others lose a little.
 TEST_F(AllocationFailure, OfMallocGivesTheWholeDocumentOrNone) {
   Use(Picture());

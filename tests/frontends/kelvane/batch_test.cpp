@@ -153,7 +153,7 @@ TEST_F(KelvaneBatch, ReportsWhatCameOfAFile) {
   EXPECT_EQ(object["status"], 0);
   EXPECT_EQ(object["document"], "c.pdf");
   EXPECT_EQ(object["format"], "pdf");
-  EXPECT_EQ(object["page"], (Json{{"width", 100.0}, {"height", 100.0}}));
+  EXPECT_EQ(object["page"], (Json{{"width", 100}, {"height", 100}}));
   EXPECT_EQ(object["records"], 5);
   EXPECT_EQ(object["left_out"][0]["type"], kUnknownRecord);
   EXPECT_EQ(object["left_out"][0]["count"], 2);
