@@ -81,10 +81,13 @@ std::vector<double> UserDashes(const Pen& pen) {
   return dashes;
 }
 
-/// Round and square caps belong to the length of a dash: what is left between them is shorter.
-void TakeCapsFromDashes(std::vector<double>& dashes, double width) {
+/// Round and square caps belong to the length of a dash: what is left between them is shorter. Of a
+/// dot nothing is left, and a line of no length has no direction: some viewers draw no square then.
+void TakeCapsFromDashes(std::vector<double>& dashes, const Pen& pen) {
+  constexpr double kSmallestBody = 1.0 / 64;  // of the width
+  const double least = pen.endCap == PS_ENDCAP_SQUARE ? pen.width * kSmallestBody : 0;
   for (std::size_t i = 0; i < dashes.size(); i += 2) {
-    const double body = std::max(0.0, dashes[i] - width);
+    const double body = std::max(std::min(least, dashes[i]), dashes[i] - pen.width);
     dashes[i + 1] += dashes[i] - body;
     dashes[i] = body;
   }
@@ -95,7 +98,7 @@ PenStroke ResolveGeometric(const Pen& pen) {
   stroke.dashes =
       pen.style == PS_USERSTYLE ? UserDashes(pen) : Times(GeometricDashes(pen.style), pen.width);
   if (pen.width == 0 && pen.style != PS_USERSTYLE) stroke.dashes.clear();
-  if (pen.endCap != PS_ENDCAP_FLAT) TakeCapsFromDashes(stroke.dashes, pen.width);
+  if (pen.endCap != PS_ENDCAP_FLAT) TakeCapsFromDashes(stroke.dashes, pen);
   stroke.staysInsideFrame = pen.style == PS_INSIDEFRAME;
   return stroke;
 }

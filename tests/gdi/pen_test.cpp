@@ -116,8 +116,13 @@ TEST(ExtCreatePen, HasDashesInProportionToItsWidth) {
 
 TEST(ExtCreatePen, CountsCapsAsPartOfTheDash) {
   EXPECT_EQ(Extended(PS_GEOMETRIC | PS_DASHDOT, 10).dashes, (Dashes{20, 20, 0, 20}));
-  EXPECT_EQ(Extended(PS_GEOMETRIC | PS_ENDCAP_SQUARE | PS_USERSTYLE, 10, {4, 6}).dashes,
-            (Dashes{0, 10}));
+}
+
+TEST(ExtCreatePen, LeavesADotWithSquareCapsALengthAndSoADirection) {
+  constexpr std::uint32_t kSquare = PS_GEOMETRIC | PS_ENDCAP_SQUARE;
+  EXPECT_EQ(Extended(kSquare | PS_DOT, 16).dashes, (Dashes{0.25, 31.75}));
+  EXPECT_EQ(Extended(kSquare | PS_USERSTYLE, 16, {4, 6}).dashes, (Dashes{0.25, 9.75}));
+  EXPECT_EQ(Extended(kSquare | PS_USERSTYLE, 16, {0, 6}).dashes, (Dashes{0, 6}));
 }
 
 TEST(ExtCreatePen, HasDashesInPixelsWhenCosmetic) {
