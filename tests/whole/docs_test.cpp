@@ -75,6 +75,13 @@ TEST(ArchitecturePage, NamesFoldersOfSourcesThatAreThere) {
   const std::string page = test::ReadFile(kRoot + "docs/architecture.md");
   const auto folders = Matches(page, std::regex("\n\\| `([^`]+)` \\|"));
   EXPECT_GT(folders.size(), 15U);
+  std::set<std::string> existing;
+  for (const auto& entry : fs::recursive_directory_iterator(kRoot + "src")) {
+    const bool isSource = entry.path().extension() == ".cpp" || entry.path().extension() == ".mm";
+    if (isSource) existing.insert(fs::relative(entry.path().parent_path(), kRoot + "src").string());
+  }
+  for (const std::string& folder : existing)
+    EXPECT_EQ(folders.count(folder), 1U) << folder;
   for (const std::string& folder : folders) {
     EXPECT_TRUE(fs::is_directory(kRoot + "src/" + folder)) << folder;
     EXPECT_EQ(folders.count(folder), 1U) << folder;
