@@ -3,15 +3,21 @@
 #include <vector>
 
 #include "frontends/conversion.h"
+#include "frontends/picture_conversion.h"
 #include "platform/corefoundation/cf_data.h"
 
 namespace kelvane::bench {
 
-/// @return the document that a metafile makes in memory.
+/// @return the document that a metafile makes in memory by the classic conversion.
 inline CFOwned<CFData> Convert(const std::vector<unsigned char>& metafile) {
   CFOwned<CFData> document(CFDataCreateMutable(kCFAllocatorDefault, 0));
   ConvertBuffer(metafile.data(), metafile.size(), document.get());
   return document;
+}
+
+/// @return the document that it makes by the conversion that follows Windows.
+inline CFOwned<CFData> ConvertAsWindows(const std::vector<unsigned char>& metafile) {
+  return ConvertPicture(metafile, {}).document;
 }
 
 }  // namespace kelvane::bench

@@ -11,16 +11,20 @@ namespace kelvane::bench {
 /// size.
 std::vector<Finding> LargeFiles();
 
-/// The most memory a conversion of 100 MB takes.
+/// The most memory that conversions of 100 MB take, the classic one and the other.
 /// @param self  path of this program, which is run again for it.
 std::vector<Finding> Memory(const std::string& self);
 
 /// What this program does when it is run again for Memory: it converts and prints its peak in
 /// bytes.
-void PrintPeak();
+/// @param asWindows  by which of the two conversions.
+void PrintPeak(bool asWindows);
 
 /// Conversion of small files in memory, against an empty page.
 std::vector<Finding> SmallFiles();
+
+/// The conversion that follows Windows against the classic one, of the same vectors in memory.
+std::vector<Finding> AgainstClassicConversion();
 
 /// The tool as a process, against the start of comparable tools.
 /// @param converter  its path.

@@ -21,6 +21,7 @@ std::string MeasureAll(const std::string& self, const std::string& converter,
     std::fputs(Table(findings).c_str(), stderr);
   };
   add(SmallFiles());
+  add(AgainstClassicConversion());
   add(Processes(converter));
   add(Threads());
   add(FileSizes(metafiles));
@@ -44,8 +45,8 @@ void Replace(const std::string& path, const std::string& table) {
 }
 
 int Main(const std::vector<std::string>& arguments) {
-  if (arguments.size() == 2 && arguments[1] == "--peak") {
-    PrintPeak();
+  if (arguments.size() == 2) {
+    PrintPeak(arguments[1] == "--peak-as-windows");
     return 0;
   }
   if (arguments.size() < 3) {

@@ -24,7 +24,20 @@ Finding AgainstEmptyPage(const std::string& what, const std::vector<unsigned cha
           kSmallFileRuns, limit};
 }
 
+Finding AgainstClassic(const std::string& what, const std::vector<unsigned char>& metafile) {
+  return {"as Windows shows it : the classic conversion, " + what,
+          SideBySide([&] { ConvertAsWindows(metafile); }, Conversion(metafile), kSmallFileRuns,
+                     kRepeats),
+          kSmallFileRuns, 1.2};
+}
+
 }  // namespace
+
+std::vector<Finding> AgainstClassicConversion() {
+  constexpr std::size_t kSize = 20'000;
+  return {AgainstClassic("20 KB of shapes", Diagram(kSize)),
+          AgainstClassic("20 KB of lines and curves", Drawing(kSize))};
+}
 
 std::vector<Finding> SmallFiles() {
   constexpr std::size_t kSize = 20'000;
