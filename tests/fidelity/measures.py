@@ -1,5 +1,6 @@
 """How much two pictures agree, in three numbers from 0 to 1."""
 
+from collections.abc import Iterable
 from typing import NamedTuple
 
 import numpy as np
@@ -83,24 +84,31 @@ def edges_of(brightness: np.ndarray) -> np.ndarray:
 
 def mean_around(values: np.ndarray, size: int) -> np.ndarray:
     """The mean of a square of an odd number of pixels around each; the outermost pixels go on."""
-    for axis in (0, 1):
-        lines = np.moveaxis(values, axis, 0)
-        padded = np.pad(lines, [(size // 2, size // 2), (0, 0)], mode="edge")
-        sums = padded[: len(lines)].copy()
-        for start in range(1, size):
-            sums += padded[start : start + len(lines)]
-        sums /= size
-        values = np.moveaxis(sums, 0, axis)
-    return values
+    reach = size // 2
+    height, width = values.shape
+    padded = np.pad(values, [(reach, reach), (0, 0)], mode="edge")
+    rows = sum_of(padded[start : start + height] for start in range(size))
+    padded = np.pad(rows, [(0, 0), (reach, reach)], mode="edge")
+    return sum_of(padded[:, start : start + width] for start in range(size)) / size**2
+
+
+def sum_of(arrays: Iterable[np.ndarray]) -> np.ndarray:
+    """In one array of its own."""
+    rest = iter(arrays)
+    total = next(rest).copy()
+    for array in rest:
+        total += array
+    return total
 
 
 def grown(mask: np.ndarray, reach: int) -> np.ndarray:
     """The mask with all that lies within a square around its pixels."""
-    for axis in (0, 1):
-        lines = np.moveaxis(mask, axis, 0)
-        more = lines.copy()
-        for step in range(1, reach + 1):
-            more[step:] |= lines[:-step]
-            more[:-step] |= lines[step:]
-        mask = np.moveaxis(more, 0, axis)
-    return mask
+    wide = mask.copy()
+    for step in range(1, reach + 1):
+        wide[step:] |= mask[:-step]
+        wide[:-step] |= mask[step:]
+    square = wide.copy()
+    for step in range(1, reach + 1):
+        square[:, step:] |= wide[:, :-step]
+        square[:, :-step] |= wide[:, step:]
+    return square
