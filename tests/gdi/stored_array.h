@@ -7,6 +7,7 @@
 
 #include "gdi/palette.h"
 #include "metafile/array_view.h"
+#include "metafile/gdi_enumerations.h"
 #include "metafile/gdi_types.h"
 
 namespace kelvane {
@@ -44,6 +45,36 @@ class StoredNumbers : public StoredArray<std::uint32_t> {
   StoredNumbers(std::initializer_list<std::uint32_t> numbers) {
     for (const std::uint32_t number : numbers)
       Add(number);
+  }
+};
+
+class StoredPoints : public StoredArray<PointL> {
+ public:
+  StoredPoints(std::initializer_list<PointL> points) {
+    for (const PointL& point : points)
+      for (const std::int32_t coordinate : {point.x, point.y})
+        Add(static_cast<std::uint32_t>(coordinate));
+  }
+};
+
+/// The same with 16 bits a coordinate.
+class StoredPoints16 : public StoredArray<Point16> {
+ public:
+  StoredPoints16(std::initializer_list<PointL> points) {
+    for (const PointL& point : points) {
+      for (const std::int32_t coordinate : {point.x, point.y}) {
+        Add(static_cast<std::uint8_t>(coordinate));
+        Add(static_cast<std::uint8_t>(coordinate >> 8));
+      }
+    }
+  }
+};
+
+class StoredPointTypes : public StoredArray<PointType> {
+ public:
+  StoredPointTypes(std::initializer_list<unsigned> types) {
+    for (const unsigned type : types)
+      Add(static_cast<std::uint8_t>(type));
   }
 };
 
