@@ -50,6 +50,7 @@ struct DeviceState {
   float miterLimit = 10;
   PointD currentPosition;     // logical units
   bool figureIsOpen = false;  // a line to somewhere goes on with the figure that ends there
+  PointD figureStart;         // logical units; of that figure
   PointL brushOrigin;         // device units
 
   /// The path that was finished last and is not used up, in device units; null without one.

@@ -26,7 +26,10 @@ void ContinueFigure(DeviceContext& device, Build build) {
   DeviceState& state = device.state;
   const bool isInBracket = state.bracket.has_value();
   FigurePath figures(isInBracket ? device.bracketPath : device.scratch, state.mapping.ToDevice());
-  if (!isInBracket || !state.figureIsOpen) figures.MoveTo(state.currentPosition);
+  if (!isInBracket || !state.figureIsOpen) {
+    figures.MoveTo(state.currentPosition);
+    state.figureStart = state.currentPosition;
+  }
   state.figureIsOpen = isInBracket;
   build(figures);
   if (!isInBracket) PaintPath(device, device.scratch, PaintKind::kStroke);

@@ -62,13 +62,11 @@ bool CanRunOn(const DeviceState& state) {
 /// The state of PolyDraw on its way through the points.
 class PolyDrawing {
  public:
-  PolyDrawing(DeviceState& state, FigurePath& figures) : state_(state), figures_(figures) {
-    start_ = state.currentPosition;
-  }
+  PolyDrawing(DeviceState& state, FigurePath& figures) : state_(state), figures_(figures) {}
 
   void MoveTo(PointD point) {
     figures_.MoveTo(point);
-    start_ = state_.currentPosition = point;
+    state_.figureStart = state_.currentPosition = point;
   }
 
   void LineTo(PointD point) {
@@ -84,13 +82,12 @@ class PolyDrawing {
   void CloseIf(PointType type) {
     if ((type & PT_CLOSEFIGURE) == 0) return;
     figures_.Close();
-    state_.currentPosition = start_;
+    state_.currentPosition = state_.figureStart;
   }
 
  private:
   DeviceState& state_;
   FigurePath& figures_;
-  PointD start_;  // of the figure
 };
 
 constexpr PointType WithoutClose(PointType type) {

@@ -193,6 +193,14 @@ TEST_F(Bracket, GoesOnWhereAFigureBeganThatADrawingClosed) {
   EXPECT_EQ(Added(), "move 5 5\nline 9 5\nline 9 9\nclose\nmove 5 5\nline 3 3\nstroke\n");
 }
 
+TEST_F(Bracket, LeavesThePositionWhereTheFigureBeganThatADrawingJoinedAndClosed) {
+  PolyDraw(device_, StoredPoints({{9, 9}}).View(),
+           StoredPointTypes({PT_LINETO | PT_CLOSEFIGURE}).View());
+  EXPECT_EQ(device_->state.currentPosition, (PointD{1, 1}));
+  LineTo(device_, {3, 3});
+  EXPECT_EQ(Added(), "line 9 9\nclose\nmove 1 1\nline 3 3\nstroke\n");
+}
+
 // Mapping.
 
 TEST_F(Bracket, MapsPointsWhenTheyAreAdded) {
