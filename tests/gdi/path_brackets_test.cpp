@@ -335,6 +335,15 @@ TEST_F(Bracket, LosesWhatWasAddedSinceItWasSaved) {
   EXPECT_EQ(Added(), "line 3 3\nstroke\n");
 }
 
+TEST_F(Bracket, LosesAFigureThatTookThePlaceOfABareMove) {
+  PolyDraw(device_, StoredPoints({{5, 5}}).View(), StoredPointTypes({PT_MOVETO}).View());
+  SaveDC(device_);
+  AddTriangle();
+  EXPECT_TRUE(RestoreDC(device_, -1));
+  LineTo(device_, {6, 6});
+  EXPECT_EQ(Added(), "move 5 5\nline 6 6\nstroke\n");
+}
+
 TEST(BeginPath, IsUndoneByAStateFromBeforeIt) {
   TracedDevice device;
   SaveDC(device);

@@ -133,6 +133,7 @@ void CGPath::Map(const CGAffineTransform& transform) {
 void CGPath::GoBackTo(const Progress& progress) {
   elements_.resize(progress.elements);
   points_.resize(progress.points);
+  if (OpenMoveAtEnd()) points_.back() = progress.currentPoint;  // lest a later move replaced it
   currentPoint_ = progress.currentPoint;
   subpathStart_ = progress.subpathStart;
   hasSegments_ = progress.hasSegments;
