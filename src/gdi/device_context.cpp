@@ -14,6 +14,7 @@ void GoBackTo(DeviceContext& device, const OpenBracket& bracket) {
   } else {
     device.bracketPath.Clear();
     device.bracketSerial = bracket.serial;
+    device.state.figureIsOpen = false;  // nothing is left of it to go on with
   }
 }
 

@@ -344,6 +344,15 @@ TEST_F(Bracket, LosesAFigureThatTookThePlaceOfABareMove) {
   EXPECT_EQ(Added(), "move 5 5\nline 6 6\nstroke\n");
 }
 
+TEST_F(Bracket, IsOpenAgainButEmptyWhenAnotherCameBetween) {
+  SaveDC(device_);
+  BeginPath(device_);
+  AddTriangle();
+  EXPECT_TRUE(EndPath(device_) && RestoreDC(device_, -1));
+  LineTo(device_, {3, 3});
+  EXPECT_EQ(Stroked(), "move 2 2\nline 3 3\nstroke\n");
+}
+
 TEST(BeginPath, IsUndoneByAStateFromBeforeIt) {
   TracedDevice device;
   SaveDC(device);
