@@ -24,13 +24,15 @@ std::optional<Region> RegionOf(ArrayView<RectangleL> rectangles, Steps& steps) {
   return Region::Union(exact, steps);
 }
 
-/// The part of a region that lies within reach of what is outside of it.
+/// The bands along the sides of a region: the part within reach of what is outside of it, to the
+/// side, above or below. Nothing reaches around a corner that points inwards.
 std::optional<Region> EdgeOf(const Region& region, double width, double height, Steps& steps) {
   const auto outside = Combine(Region::Everything(), region, RGN_DIFF, steps);
   if (!outside) return std::nullopt;
   std::vector<RectangleD> grown;
   outside->ForEachRectangle([&](const RectangleD& r) {
-    grown.push_back({r.left - width, r.top - height, r.right + width, r.bottom + height});
+    grown.push_back({r.left - width, r.top, r.right + width, r.bottom});
+    grown.push_back({r.left, r.top - height, r.right, r.bottom + height});
   });
   const auto reached = Region::Union(grown, steps);
   if (!reached) return std::nullopt;

@@ -34,9 +34,13 @@ class StoredArray {
 class StoredRectangles : public StoredArray<RectangleL> {
  public:
   StoredRectangles(std::initializer_list<RectangleL> rectangles) {
-    for (const RectangleL& r : rectangles)
-      for (const std::int32_t edge : {r.left, r.top, r.right, r.bottom})
-        Add(static_cast<std::uint32_t>(edge));
+    for (const RectangleL& rectangle : rectangles)
+      Add(rectangle);
+  }
+
+  void Add(const RectangleL& r) {
+    for (const std::int32_t edge : {r.left, r.top, r.right, r.bottom})
+      StoredArray::Add(static_cast<std::uint32_t>(edge));
   }
 };
 
