@@ -10,7 +10,8 @@ namespace kelvane {
 
 /// @param path      device units.
 /// @param toDevice  from the logical units in which the pen is round.
-/// @return the outline of a path's stroke, to be filled by its winding; dashes do not count.
+/// @return the outline of a path's stroke, to be filled by its winding; dashes do not count, and
+///         bevels stand out farther than those of a stroke, by up to half of the width.
 ///         nullopt when there is too much of the path, or the mapping has no area.
 std::optional<CGPath> Widened(const CGPath& path, const PenStroke& stroke, double miterLimit,
                               const TransformD& toDevice);
