@@ -21,7 +21,7 @@
 #ifndef KELVANE_KELVANE_H
 #define KELVANE_KELVANE_H
 
-#include <stddef.h>
+#include <stddef.h> /* NOLINT(modernize-deprecated-headers): C has no other. */
 
 #define KELVANE_EXPORT __attribute__((visibility("default")))
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -27,27 +28,27 @@ int Complain(std::string_view words, int status) {
   return status;
 }
 
-/// The ending of the output's name where it is that of a format, which is then the one that is
-/// meant.
-void TakeFormatFromTheName(kelvane::CommandLine& line) {
-  if (!line.output) return;
-  const std::string ending = std::filesystem::path(*line.output).extension();
+/// The format that the name of the output ends in; nothing for any other ending.
+std::optional<std::string> FormatInTheName(const kelvane::CommandLine& line) {
+  const std::string ending = std::filesystem::path(line.output.value_or("")).extension();
   for (const char* const format : {"pdf", "svg", "png"}) {
-    if (ending == std::string(".") + format) {
-      line.options.insert(line.options.begin(),
-                          {"format", format});  // what is asked for comes later
-    }
+    if (ending == std::string(".") + format) return format;
   }
+  return std::nullopt;
 }
 
-std::string FormatAskedFor(const kelvane::CommandLine& line) {
+/// @return the format to make, which is among the options then.
+std::string ChooseFormat(kelvane::CommandLine& line) {
   const auto last = std::find_if(line.options.rbegin(), line.options.rend(),
                                  [](const auto& option) { return option.first == "format"; });
-  return last != line.options.rend() ? last->second : "pdf";
+  if (last != line.options.rend()) return last->second;
+  std::string format = FormatInTheName(line).value_or("pdf");
+  line.options.emplace_back("format", format);
+  return format;
 }
 
 int Run(kelvane::CommandLine& line) {
-  TakeFormatFromTheName(line);
+  const std::string format = ChooseFormat(line);
   const Options options(kelvane_options_new());
   if (!options) throw std::bad_alloc();
   for (const auto& [name, value] : line.options) {
@@ -55,7 +56,7 @@ int Run(kelvane::CommandLine& line) {
       return Complain(kelvane_options_message(options.get()), KELVANE_REFUSED);
     }
   }
-  const auto items = kelvane::WorkListFor(line, FormatAskedFor(line));
+  const auto items = kelvane::WorkListFor(line, format);
   const std::string collision = kelvane::Collision(items, line);
   if (!collision.empty()) return Complain(collision, KELVANE_REFUSED);
   if (line.folder) std::filesystem::create_directories(*line.folder);

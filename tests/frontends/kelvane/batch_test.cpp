@@ -66,9 +66,9 @@ TEST_F(KelvaneBatch, HasTheHighestStatusOfItsFiles) {
 
 TEST_F(KelvaneBatch, TellsOfAllInTheSameOrderHoweverManyAreConvertedAtOnce) {
   Listing words = {"--report", "-", "-d", "out"};
-  for (int i = 0; i < 30; ++i) {
+  for (std::size_t i = 0; i < 30; ++i) {
     const std::string name = std::to_string(i) + ".emf";
-    Write(name, i % 3 == 0 ? std::vector<unsigned char>{'n', 'o'} : FileThatLacks(i % 3 - 1U));
+    Write(name, i % 3 == 0 ? std::vector<unsigned char>{'n', 'o'} : FileThatLacks(i % 3 - 1));
     words.push_back(name);
   }
   const auto toldBy = [&](const char* jobs) {

@@ -69,6 +69,11 @@ TEST_F(KelvaneCommandLine, TakesAFormatThatIsThere) {
   EXPECT_EQ(Names(), (Words{"a.emf", "a.pdf"}));
 }
 
+TEST_F(KelvaneCommandLine, PutsTheFormatThatIsAskedForBeforeTheNames) {
+  EXPECT_EQ(Run({"-f", "pdf", "-o", "a.svg", "a.emf"}).status, 0);
+  EXPECT_EQ(Read("a.svg").substr(0, 5), "%PDF-");
+}
+
 TEST_F(KelvaneCommandLine, TakesFilesThatLookLikeOptionsAfterTwoDashes) {
   Write("-o.emf", FileOfALine());
   EXPECT_EQ(Run({"--", "-o.emf"}).status, 0);
