@@ -18,8 +18,8 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS fonts-liberation)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows Enhanced Metafiles into PDF
 A call turns a metafile (EMF), in memory or in a file, into a PDF of one page,
-and can report what that lacks. Lines stay vectors, and text stays text that can
-be searched and copied. Input is not trusted: whatever it is, there is a
+and can report what that lacks. Lines stay vectors, and text stays text that
+can be searched and copied. Input is not trusted: whatever it is, there is a
 document or an error.
 
 This package contains the shared library.")
@@ -36,10 +36,11 @@ set(CPACK_DEBIAN_CONVERTER_PACKAGE_NAME kelvane)
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_SECTION graphics)
 set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows Enhanced Metafiles into one-page PDFs
 The tool kelvane makes pages that look as Windows shows a metafile (EMF), of
-many files at once, and reports what it left out: so far text and bitmaps. The
-tool kelvaneConverter draws these, too, but simplifies lines and shapes. Lines
-stay vectors, and text stays text that can be searched and copied. Both are made
-for build pipelines, TeX and document servers, and for files nobody vouches for.")
+many files at once, and reports what it left out: so far text, bitmaps and
+gradients. The tool kelvaneConverter draws text and bitmaps, too, but
+simplifies lines and shapes. Lines stay vectors, and text stays text that can
+be searched and copied. Both are made for build pipelines, TeX and document
+servers, and for files nobody vouches for.")
 
 set(CPACK_KELVANE_ABI ${KELVANE_ABI})
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/../packaging/finish_staging.cmake)
