@@ -33,14 +33,29 @@ void PrintExtTextOut(ByteView& bytes, FieldWriter& fields) {
   AddText(fields, record.text);
 }
 
+/// What of a record a text shows.
+template <class Unit>
+std::size_t BytesShown(const TextItem<Unit>& text) {
+  return text.text.size() * sizeof(Unit) + text.advances.values.size() * sizeof(std::int32_t);
+}
+
+/// Texts that lie one on the other could be as many times as long as their record.
 template <class Unit>
 void PrintPolyTextOut(ByteView& bytes, FieldWriter& fields) {
   const auto record = DecodePolyTextOut<Unit>(bytes);
   fields.Field("Bounds", record.bounds);
   AddScale(fields, record.scale);
   fields.Field("cStrings", record.texts.size());
-  for (std::size_t i = 0; i < record.texts.size(); ++i)
-    AddText(fields, record.Text(i));
+  std::size_t unshown = bytes.Bytes().size();
+  for (std::size_t i = 0; i < record.texts.size(); ++i) {
+    const TextItem<Unit> text = record.Text(i);
+    if (BytesShown(text) > unshown) {
+      fields.Quoted("Damaged", "its texts overlap");
+      return;
+    }
+    unshown -= BytesShown(text);
+    AddText(fields, text);
+  }
 }
 
 void PrintSmallTextOut(ByteView& bytes, FieldWriter& fields) {

@@ -127,6 +127,21 @@ TEST(Dump, LeavesBytesOfUnknownCodePagesAsTheyAre) {
   EXPECT_EQ(line.substr(line.find("OutputString=")), R"(OutputString="a\xe9\n")");
 }
 
+TEST(Dump, IsNoLongerForTextsThatOverlap) {
+  constexpr std::uint32_t kPolyTextOutA = 96;
+  constexpr std::uint32_t kTexts = 100;
+  constexpr std::uint32_t kUnits = 4000;
+  constexpr std::uint32_t kTextsAt = 40;
+  constexpr std::uint32_t kStoredText = 40;
+  Bytes body = Bytes().Zeros(28).U32(kTexts);
+  for (std::uint32_t i = 0; i < kTexts; ++i)
+    body.Zeros(8).U32(kUnits).U32(kTextsAt + kTexts * kStoredText).Zeros(24);
+  body.Append(std::vector<unsigned char>(kUnits, 'a'));
+  const std::string line = Dumped(Metafile().Record(kPolyTextOutA, body).Build()).at(1);
+  EXPECT_LT(line.size(), 4 * body.Size());
+  EXPECT_NE(line.find(R"( Damaged="its texts overlap")"), std::string::npos);
+}
+
 TEST(Dump, GivesLongListsToTheStreamPieceByPiece) {
   /// Counts what it is given at once.
   class Pieces : public std::streambuf {
