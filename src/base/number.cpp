@@ -29,6 +29,21 @@ char* WriteShade(char* out, int shade) {
   return out + digits;
 }
 
+/// Writes thousandths of which some are left over, without zeros at the end.
+char* WriteThousandths(char* out, char* end, int thousandths) {
+  if (thousandths < 0) *out++ = '-';
+  const int count = std::abs(thousandths);
+  out = std::to_chars(out, end, count / 1000).ptr;
+  *out++ = '.';
+  int rest = count % 1000;
+  int digits = 3;
+  for (; rest % 10 == 0; rest /= 10)
+    --digits;
+  for (char* digit = out + digits; digit != out; rest /= 10)
+    *--digit = static_cast<char>('0' + rest % 10);
+  return out + digits;
+}
+
 }  // namespace
 
 char* WriteNumber(char* out, float value) {
@@ -43,6 +58,15 @@ char* WriteNumber(char* out, float value) {
     const float shades = value * kShades;
     const int whole = static_cast<int>(shades);
     if (static_cast<float>(whole) == shades) return WriteShade(out, whole);
+  }
+  // Below this, values a thousandth apart are different numbers, so one that is the closest to a
+  // count of thousandths has these for its shortest decimal.
+  constexpr float kTellsThousandths = 16384;
+  if (std::abs(value) < kTellsThousandths) {
+    const auto thousandths = static_cast<int>(std::lrintf(value * 1000));
+    if (static_cast<float>(thousandths) / 1000 == value) {
+      return WriteThousandths(out, end, thousandths);
+    }
   }
   if (std::isnan(value)) value = 0;
   constexpr float kLargest = std::numeric_limits<float>::max();

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "gdi/page_color.h"
 #include "metafile/dib.h"
 #include "platform/quartz/cg_data_provider.h"
 
@@ -12,12 +13,6 @@ namespace kelvane {
 namespace {
 
 constexpr CGFloat kHatchCell = 8;
-
-CGColor ColorFrom(RgbColor color) {
-  constexpr CGFloat kMost = 255;
-  return {static_cast<CGFloat>(color.red) / kMost, static_cast<CGFloat>(color.green) / kMost,
-          static_cast<CGFloat>(color.blue) / kMost, 1};
-}
 
 void AddPolygon(CGPath& path, std::initializer_list<CGPoint> points) {
   for (const CGPoint point : points) {
@@ -57,9 +52,9 @@ CGPattern HatchPattern(const BrushPaint& paint, RasterStep::Color color) {
   if (paint.background) {
     CGPath cell;
     cell.AddRectangle({0, 0}, pattern.cell);
-    pattern.shapes.push_back({std::move(cell), ColorFrom(ColorOf(color, *paint.background))});
+    pattern.shapes.push_back({std::move(cell), ColorOnPage(ColorOf(color, *paint.background))});
   }
-  pattern.shapes.push_back({HatchLines(paint.hatch), ColorFrom(ColorOf(color, paint.color))});
+  pattern.shapes.push_back({HatchLines(paint.hatch), ColorOnPage(ColorOf(color, paint.color))});
   return pattern;
 }
 

@@ -47,7 +47,9 @@ Canvas::~Canvas() {
 }
 
 void Canvas::Load(CGPath& path) {
+  constexpr CGFloat kPartsOfAPoint = 1000;  // finer than any output shows; few digits to store
   path.Map(deviceToPage_);
+  path.Round(kPartsOfAPoint);
   surface_.SwapPath(path);
 }
 

@@ -70,6 +70,13 @@ void FigurePath::AddRectangle(const RectangleD& box, ArcDirection direction) {
   Close();
 }
 
+void FigurePath::AddPlainRectangle(const RectangleD& box) {
+  if (toDevice_.m12 != 0 || toDevice_.m21 != 0) return AddRectangle(box, AD_CLOCKWISE);
+  const CGPoint corner = Mapped({box.left, box.top});
+  const CGPoint opposite = Mapped({box.right, box.bottom});
+  path_.AddRectangle(corner, {opposite.x - corner.x, opposite.y - corner.y});
+}
+
 void FigurePath::AddEllipse(const RectangleD& box, ArcDirection direction) {
   const EllipseD ellipse = EllipseIn(box);
   MoveTo(ellipse.At(1, 0));

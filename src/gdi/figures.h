@@ -65,6 +65,10 @@ class FigurePath {
   /// A closed rectangle, from its top right corner.
   void AddRectangle(const RectangleD& box, ArcDirection direction);
 
+  /// The same where it does not matter from which corner it runs: fewer numbers, as long as the
+  /// space is upright.
+  void AddPlainRectangle(const RectangleD& box);
+
   /// The closed ellipse in a box, from its rightmost point.
   void AddEllipse(const RectangleD& box, ArcDirection direction);
 

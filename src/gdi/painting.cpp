@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "gdi/objects.h"
+#include "gdi/page_color.h"
 #include "gdi/stroking.h"
 
 namespace kelvane {
@@ -36,12 +37,6 @@ constexpr bool Strokes(PaintKind kind) {
   return kind != PaintKind::kFill;
 }
 
-CGColor ColorFrom(RgbColor color) {
-  constexpr CGFloat kMost = 255;
-  return {static_cast<CGFloat>(color.red) / kMost, static_cast<CGFloat>(color.green) / kMost,
-          static_cast<CGFloat>(color.blue) / kMost, 1};
-}
-
 /// A bitmap counts as one with colours of all kinds.
 bool IsExact(BinaryRasterOperation operation, const BrushPaint& paint) {
   constexpr RgbColor kAnyColor = {1, 1, 1};
@@ -55,7 +50,7 @@ Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperat
   if (paint.kind == Brush::Kind::kNull) return found;
   if (!IsExact(operation, paint)) device.shortfalls.Add(Shortfall::kBlendedColors);
   for (const RasterStep& step : StepsOf(operation)) {
-    Mark mark = {ColorFrom(ColorOf(step.color, paint.color)), nullptr, step.mode};
+    Mark mark = {ColorOnPage(ColorOf(step.color, paint.color)), nullptr, step.mode};
     if (paint.kind != Brush::Kind::kSolid) {
       mark.pattern = device.canvas->PatternOf(paint, device.state.brushOrigin, step.color);
       if (mark.pattern == nullptr) {

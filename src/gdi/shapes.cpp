@@ -35,6 +35,12 @@ RectangleD OutlineBox(const DeviceContext& device, const RectangleL& stored) {
   return {ordered.left + x, ordered.top + y, ordered.right - x, ordered.bottom - y};
 }
 
+/// Whether it may be seen where an outline begins; what becomes of a path is not known yet.
+bool MayBeDashed(const DeviceState& state) {
+  const PenStyle style = state.pen->style;
+  return state.bracket || !(style == PS_SOLID || style == PS_INSIDEFRAME || style == PS_NULL);
+}
+
 template <class Build>
 void DrawShape(DeviceContext& device, Build build) {
   DrawFigures(device, PaintKind::kFillAndStroke, build);
@@ -43,8 +49,10 @@ void DrawShape(DeviceContext& device, Build build) {
 }  // namespace
 
 void Rectangle(DeviceContext& device, const RectangleL& box) {
+  const RectangleD outline = OutlineBox(device, box);
   DrawShape(device, [&](FigurePath& figures) {
-    figures.AddRectangle(OutlineBox(device, box), device.state.arcDirection);
+    if (MayBeDashed(device.state)) return figures.AddRectangle(outline, device.state.arcDirection);
+    figures.AddPlainRectangle(outline);
   });
 }
 
@@ -138,7 +146,7 @@ void PatBlt(DeviceContext& device, PointL corner, SizeL size, BinaryRasterOperat
   const RectangleD box = {from.x, from.y, from.x + size.cx, from.y + size.cy};
   if (box.left == box.right || box.top == box.bottom) return;
   FigurePath figures(device.scratch, device.state.mapping.ToDevice());
-  figures.AddRectangle(box, AD_CLOCKWISE);
+  figures.AddPlainRectangle(box);
   FillWith(device, device.scratch, WINDING, *device.state.brush, operation);
 }
 

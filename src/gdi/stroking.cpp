@@ -66,11 +66,17 @@ void SetDashes(CGContext& surface, const std::vector<double>& dashes, double sca
   surface.SetLineDash(0, lengths);
 }
 
+/// A width to thousandths of a point, which take few digits.
+CGFloat WidthOnPage(double points) {
+  constexpr double kParts = 1000;
+  return static_cast<CGFloat>(std::ceil(points * kParts - 0.5) / kParts);
+}
+
 /// A pen that keeps its shape, in points.
 void DrawEven(CGContext& surface, const PenStroke& stroke, double width, double pointsInDash,
               CGPathDrawingMode mode) {
   SetDashes(surface, stroke.dashes, pointsInDash, pointsInDash);
-  surface.SetLineWidth(static_cast<CGFloat>(width));
+  surface.SetLineWidth(WidthOnPage(width));
   surface.DrawPath(mode);
 }
 

@@ -1,6 +1,7 @@
 #include "platform/quartz/cg_path.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kelvane {
 namespace {
@@ -128,6 +129,16 @@ void CGPath::Map(const CGAffineTransform& transform) {
   map(currentPoint_);
   map(subpathStart_);
   finite_ = finite_ && std::ranges::all_of(points_, [](CGPoint p) { return kelvane::IsFinite(p); });
+}
+
+void CGPath::Round(CGFloat parts) {
+  const auto round = [parts](CGPoint& point) {
+    point.x = std::rint(point.x * parts) / parts;
+    point.y = std::rint(point.y * parts) / parts;
+  };
+  std::ranges::for_each(points_, round);
+  round(currentPoint_);
+  round(subpathStart_);
 }
 
 void CGPath::GoBackTo(const Progress& progress) {

@@ -52,6 +52,9 @@ class CGPath {
   /// Maps every point where it lies.
   void Map(const CGAffineTransform& transform);
 
+  /// Rounds every coordinate to a multiple of 1 / `parts`.
+  void Round(CGFloat parts);
+
   /// How far a path has come.
   struct Progress {
     std::size_t elements = 0;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cmath>
+
+#include "gdi/palette.h"
+#include "platform/quartz/cg_color_space.h"
+
+namespace kelvane {
+
+/// A channel of 8 bits as the surface has it: in thousandths, which are fine enough to tell all 256
+/// values and take few digits.
+inline CGFloat ChannelOnPage(std::uint8_t channel) {
+  constexpr CGFloat kMost = 255;
+  constexpr CGFloat kParts = 1000;
+  return std::rint(static_cast<CGFloat>(channel) * kParts / kMost) / kParts;
+}
+
+inline CGColor ColorOnPage(RgbColor color) {
+  return {ChannelOnPage(color.red), ChannelOnPage(color.green), ChannelOnPage(color.blue), 1};
+}
+
+}  // namespace kelvane
