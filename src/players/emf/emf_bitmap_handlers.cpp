@@ -18,7 +18,7 @@ void PlayBlit(EmfPlayback& p, const BlitRecord& r) {
 
 constexpr auto kLeaveOut = [](EmfPlayback& p, const auto&) { p.LeftOut(kNoBitmaps); };
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kBitmapHandlers[] = {
     {EMR_BITBLT, Playing<DecodeBitBlt>([](EmfPlayback& p, const auto& r) { PlayBlit(p, r); })},
     {EMR_STRETCHBLT,
      Playing<DecodeStretchBlt>([](EmfPlayback& p, const auto& r) { PlayBlit(p, r); })},
@@ -37,7 +37,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfBitmapHandlers() {
-  return kHandlers;
+  return kBitmapHandlers;
 }
 
 }  // namespace kelvane

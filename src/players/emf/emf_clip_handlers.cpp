@@ -5,7 +5,7 @@
 namespace kelvane {
 namespace {
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kClipHandlers[] = {
     {EMR_INTERSECTCLIPRECT, Playing<DecodeClipRect>([](EmfPlayback& p, const auto& r) {
        IntersectClipRect(p.device, r.clip);
      })},
@@ -26,7 +26,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfClipHandlers() {
-  return kHandlers;
+  return kClipHandlers;
 }
 
 }  // namespace kelvane

@@ -29,14 +29,14 @@ void PlayComment(EmfPlayback& p, const CommentRecord& r) {
   }
 }
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kCommentHandlers[] = {
     {EMR_COMMENT, Playing<DecodeComment>([](EmfPlayback& p, const auto& r) { PlayComment(p, r); })},
 };
 
 }  // namespace
 
 std::span<const EmfHandler> EmfCommentHandlers() {
-  return kHandlers;
+  return kCommentHandlers;
 }
 
 }  // namespace kelvane

@@ -28,7 +28,7 @@ constexpr auto kPolyDraw = [](EmfPlayback& p, const auto& r) {
   if (!PolyDraw(p.device, r.points, r.types)) p.Damaged("it has a point of an unknown kind");
 };
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kLineHandlers[] = {
     {EMR_MOVETOEX,
      Playing<DecodeMoveToEx>([](EmfPlayback& p, const auto& r) { MoveToEx(p.device, r.point); })},
     {EMR_LINETO,
@@ -54,7 +54,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfLineHandlers() {
-  return kHandlers;
+  return kLineHandlers;
 }
 
 }  // namespace kelvane

@@ -36,7 +36,7 @@ std::vector<RgbColor> ColorsOf(ArrayView<PaletteEntry> entries) {
   return colors;
 }
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kObjectHandlers[] = {
     {EMR_SELECTOBJECT, Playing<DecodeObject>([](EmfPlayback& p, const auto& r) {
        SelectObject(p.device, r.ihObject);
      })},
@@ -77,7 +77,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfObjectHandlers() {
-  return kHandlers;
+  return kObjectHandlers;
 }
 
 }  // namespace kelvane

@@ -6,7 +6,7 @@
 namespace kelvane {
 namespace {
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kPathHandlers[] = {
     {EMR_BEGINPATH, Calling([](DeviceContext& device) { BeginPath(device); })},
     {EMR_ENDPATH, Calling([](DeviceContext& device) { EndPath(device); })},
     {EMR_ABORTPATH, Calling([](DeviceContext& device) { AbortPath(device); })},
@@ -27,7 +27,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfPathHandlers() {
-  return kHandlers;
+  return kPathHandlers;
 }
 
 }  // namespace kelvane

@@ -8,7 +8,7 @@ namespace kelvane {
 namespace {
 
 // A call that fails because its brush is none paints nothing on Windows either.
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kShapeHandlers[] = {
     {EMR_RECTANGLE,
      Playing<DecodeBox>([](EmfPlayback& p, const auto& r) { Rectangle(p.device, r.box); })},
     {EMR_ELLIPSE,
@@ -50,7 +50,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfShapeHandlers() {
-  return kHandlers;
+  return kShapeHandlers;
 }
 
 }  // namespace kelvane

@@ -7,7 +7,7 @@
 namespace kelvane {
 namespace {
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kStateHandlers[] = {
     {EMR_SAVEDC, Calling([](DeviceContext& device) { SaveDC(device); })},
     {EMR_RESTOREDC, Playing<DecodeRestoreDC>([](EmfPlayback& p, const auto& r) {
        if (r.savedDC < 0) RestoreDC(p.device, r.savedDC);
@@ -71,7 +71,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfStateHandlers() {
-  return kHandlers;
+  return kStateHandlers;
 }
 
 }  // namespace kelvane

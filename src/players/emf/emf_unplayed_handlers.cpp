@@ -19,7 +19,7 @@ constexpr PlayEmfRecord kNoDriver = [](EmfPlayback& p, ByteView&) {
   p.LeftOut("it speaks to the driver of a printer");
 };
 
-constexpr EmfHandler kHandlers[] = {
+constexpr EmfHandler kUnplayedHandlers[] = {
     {EMR_HEADER, kNoMark},
     {EMR_EOF, kNoMark},
 
@@ -61,7 +61,7 @@ constexpr EmfHandler kHandlers[] = {
 }  // namespace
 
 std::span<const EmfHandler> EmfUnplayedHandlers() {
-  return kHandlers;
+  return kUnplayedHandlers;
 }
 
 }  // namespace kelvane
