@@ -1,6 +1,7 @@
 #include "gdi/canvas.h"
 
 #include <cmath>
+#include <utility>
 
 #include "gdi/brush_pattern.h"
 
@@ -96,29 +97,43 @@ void Canvas::WriteCut(const std::shared_ptr<const ClipCut>& cut) {
   isWinding ? surface_.Clip() : surface_.EOClip();
 }
 
+// Patterns of one brush at many origins share its bitmap, which may be large. Each takes its place
+// in the document: nobody can tell where the thousandth starts.
 CGSharedPattern Canvas::PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color) {
-  const PatternKey key = {paint.kind,
-                          paint.hatch,
-                          static_cast<std::uint32_t>(KeyOf(paint.color)),
-                          KeyOf(paint.background),
-                          paint.pattern.header.data(),
-                          paint.pattern.usage,
-                          origin.x,
-                          origin.y,
-                          color};
-  const auto [entry, isNew] = patterns_.try_emplace(key);
+  constexpr std::size_t kMostPatterns = 1024;
+  const CGSharedPattern cell = CellOf(paint, color);
+  if (cell == nullptr) return nullptr;
+  if (patterns_.size() >= kMostPatterns) origin = {};
+  const auto [entry, isNew] = patterns_.try_emplace({cell.get(), origin.x, origin.y});
   if (isNew) {
-    auto pattern = MakePattern(paint, color);
-    if (pattern) {
-      const auto height = pattern->cell.height;
-      const auto x = static_cast<CGFloat>(patternPixelX_);
-      const auto y = static_cast<CGFloat>(patternPixelY_);
-      // A pattern's rows lie top first from the origin down, its own space has y upwards.
-      const CGAffineTransform patternToDevice = {
-          x, 0, 0, -y, static_cast<CGFloat>(origin.x), static_cast<CGFloat>(origin.y) + height * y};
-      pattern->matrix = IntoThePixel(CGAffineTransformConcat(patternToDevice, deviceToPage_));
-      entry->second = std::make_shared<const CGPattern>(*std::move(pattern));
-    }
+    const auto x = static_cast<CGFloat>(patternPixelX_);
+    const auto y = static_cast<CGFloat>(patternPixelY_);
+    // A pattern's rows lie top first from the origin down, its own space has y upwards.
+    const auto left = static_cast<CGFloat>(origin.x);
+    const CGFloat bottom = static_cast<CGFloat>(origin.y) + cell->cell.height * y;
+    const CGAffineTransform patternToDevice = {x, 0, 0, -y, left, bottom};
+    CGPattern pattern;
+    pattern.cell = cell->cell;
+    pattern.matrix = IntoThePixel(CGAffineTransformConcat(patternToDevice, deviceToPage_));
+    pattern.image = CFShare(cell->image.get());
+    pattern.shapes = cell->shapes;
+    entry->second = std::make_shared<const CGPattern>(std::move(pattern));
+  }
+  return entry->second;
+}
+
+CGSharedPattern Canvas::CellOf(const BrushPaint& paint, RasterStep::Color color) {
+  const CellKey key = {paint.kind,
+                       paint.hatch,
+                       static_cast<std::uint32_t>(KeyOf(paint.color)),
+                       KeyOf(paint.background),
+                       paint.pattern.header.data(),
+                       paint.pattern.usage,
+                       color};
+  const auto [entry, isNew] = cells_.try_emplace(key);
+  if (isNew) {
+    auto cell = MakePattern(paint, color);
+    if (cell) entry->second = std::make_shared<const CGPattern>(*std::move(cell));
   }
   return entry->second;
 }

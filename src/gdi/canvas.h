@@ -57,9 +57,9 @@ class Canvas {
   CGSharedPattern PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color);
 
  private:
-  using PatternKey =
-      std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t, const unsigned char*,
-                 DibUsage, std::int32_t, std::int32_t, RasterStep::Color>;
+  using CellKey = std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t,
+                             const unsigned char*, DibUsage, RasterStep::Color>;
+  using PatternKey = std::tuple<const CGPattern*, std::int32_t, std::int32_t>;  // cell, origin
 
   struct WrittenCut {
     std::shared_ptr<const ClipCut> cut;
@@ -67,6 +67,7 @@ class Canvas {
   };
 
   void WriteCut(const std::shared_ptr<const ClipCut>& cut);
+  CGSharedPattern CellOf(const BrushPaint& paint, RasterStep::Color color);
 
   CGContext& surface_;
   CGAffineTransform deviceToPage_;
@@ -74,7 +75,8 @@ class Canvas {
   double screenPixel_;
   double patternPixelX_;  // device units in a pixel of a brush
   double patternPixelY_;
-  std::vector<WrittenCut> written_;  // each within a state that was saved, outermost first
+  std::vector<WrittenCut> written_;           // each within a state that was saved, outermost first
+  std::map<CellKey, CGSharedPattern> cells_;  // a unit a pixel, wherever they lie
   std::map<PatternKey, CGSharedPattern> patterns_;
 };
 

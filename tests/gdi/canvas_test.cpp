@@ -9,6 +9,7 @@
 #include "gdi/shapes.h"
 #include "gdi/stored_array.h"
 #include "gdi/traced_device.h"
+#include "support/bytes.h"
 
 namespace kelvane {
 namespace {
@@ -194,6 +195,29 @@ TEST(PatternOf, IsAnotherForAnythingElse) {
   EXPECT_NE(canvas.PatternOf(kHatch, {1, 3}, RasterStep::Color::kPaint), pattern);
   EXPECT_NE(canvas.PatternOf(kHatch, {2, 2}, RasterStep::Color::kPaint), pattern);
   EXPECT_NE(canvas.PatternOf(kHatch, {1, 2}, RasterStep::Color::kInversePaint), pattern);
+}
+
+TEST(PatternOf, SharesItsBitmapWithThoseAtOtherOrigins) {
+  TracedDevice device;
+  Canvas& canvas = device.OnCanvas();
+  const test::Bytes header = test::Bytes().BitmapHeader({.width = 1, .height = 1});
+  const test::Bytes pixels = test::Bytes().Zeros(4);
+  const BrushPaint paint = {.kind = Brush::Kind::kPattern,
+                            .pattern = {header.Data(), pixels.Data()}};
+  const auto one = canvas.PatternOf(paint, {1, 2}, RasterStep::Color::kPaint);
+  const auto other = canvas.PatternOf(paint, {3, 4}, RasterStep::Color::kPaint);
+  EXPECT_NE(one, other);
+  ASSERT_NE(one->image, nullptr);
+  EXPECT_EQ(one->image.get(), other->image.get());
+}
+
+TEST(PatternOf, StartsNoLongerWhereItShouldAfterAThousandOrigins) {
+  TracedDevice device;
+  Canvas& canvas = device.OnCanvas();
+  for (int i = 1; i <= 1024; ++i)
+    canvas.PatternOf(kHatch, {i, 0}, RasterStep::Color::kPaint);
+  EXPECT_EQ(canvas.PatternOf(kHatch, {5000, 0}, RasterStep::Color::kPaint),
+            canvas.PatternOf(kHatch, {6000, 0}, RasterStep::Color::kPaint));
 }
 
 TEST(PatternOf, IsNoneOfABitmapThatCannotBeRead) {

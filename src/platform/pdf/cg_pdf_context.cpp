@@ -83,6 +83,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     page_ = writer_.AddPage(mediaBox_);
     resources_ = PdfResources(page_.getKey("/Resources"));
     patterns_ = {};
+    patternImages_ = {};
     font_ = {};
     isBlended_ = false;
     clips_ = {};
@@ -220,7 +221,9 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   /// Kept with its name, so that no other pattern can come to lie where it was.
   const std::string& NameOf(const CGSharedPattern& pattern) {
     const auto [entry, isNew] = patterns_.try_emplace(pattern);
-    if (isNew) entry->second = resources_.NameOf(AddPattern(writer_, *pattern), kPdfPattern);
+    if (isNew) {
+      entry->second = resources_.NameOf(AddPattern(writer_, *pattern, patternImages_), kPdfPattern);
+    }
     return entry->second;
   }
 
@@ -252,8 +255,9 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   CGValueWriter values_;    // of the content
   PdfResources resources_;  // of the page
   std::map<CGSharedPattern, std::string> patterns_;
-  PageFont font_;           // of the last glyphs
-  bool isBlended_ = false;  // a mark on the page is mixed with what lies below it
+  PdfPatternImages patternImages_;  // of those patterns
+  PageFont font_;                   // of the last glyphs
+  bool isBlended_ = false;          // a mark on the page is mixed with what lies below it
   std::optional<PendingPage> pending_;
 };
 

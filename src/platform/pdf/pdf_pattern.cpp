@@ -10,10 +10,15 @@
 namespace kelvane {
 namespace {
 
-void DrawImage(const CGPattern& pattern, PdfWriter& writer, PdfResources& resources,
+/// Many patterns may have one image, which is deflated once.
+QPDFObjectHandle ImageOf(const CGPattern& pattern, PdfWriter& writer, PdfPatternImages& images) {
+  const auto [entry, isNew] = images.try_emplace(pattern.image.get());
+  if (isNew) entry->second = writer.AddImage(*pattern.image);
+  return entry->second;
+}
+
+void DrawImage(const CGPattern& pattern, QPDFObjectHandle image, PdfResources& resources,
                PdfContent& content) {
-  if (pattern.image == nullptr) return;
-  QPDFObjectHandle image = writer.AddImage(*pattern.image);
   if (image.isNull()) return;
   content.Save();
   content.Concat({pattern.cell.width, 0, 0, pattern.cell.height, 0, 0});
@@ -31,11 +36,13 @@ void FillShapes(const CGPattern& pattern, PdfContent& content) {
 
 }  // namespace
 
-QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern) {
+QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern, PdfPatternImages& images) {
   std::string text;
   PdfContent content([&text](std::string_view piece) { text += piece; });
   PdfResources resources;
-  DrawImage(pattern, writer, resources, content);
+  if (pattern.image != nullptr) {
+    DrawImage(pattern, ImageOf(pattern, writer, images), resources, content);
+  }
   FillShapes(pattern, content);
   content.Finish();
 
