@@ -9,6 +9,8 @@ namespace {
 
 using File = std::vector<unsigned char>;
 
+constexpr std::uint32_t kEmrExtSelectClipRgn = 75;
+
 constexpr std::size_t kFixed = 128 + 332 + 12;  // header, end and font
 
 std::uint32_t Number(std::size_t value) {
@@ -39,6 +41,14 @@ Points ScatteredPoints(std::size_t count) {
   for (std::size_t i = 0; i < count; ++i)
     points.push_back({Scattered(i), Scattered(3 * i + 1)});
   return points;
+}
+
+Bytes Bitmap(std::int32_t width, std::int32_t height, std::size_t bytes) {
+  Bytes bitmap;
+  bitmap.BitmapHeader({.width = width, .height = height});
+  for (std::size_t i = 0; i * 4 < bytes; ++i)
+    bitmap.U32(Number(i) * 2654435761U);
+  return bitmap;
 }
 
 // Records.
@@ -91,6 +101,58 @@ File NestedClips(std::size_t size) {
     metafile.SaveDC().BeginPath().Rectangle({0, 0, 1000, Scattered(i)}).EndPath();
     metafile.SelectClipPath(kRegionAnd).Rectangle({1, 2, 3, 4});
   });
+}
+
+// Clips of one rectangle within another, with a mark under each.
+File CutClips(std::size_t size) {
+  return Repeated(size, 24 + 24, [](Metafile& metafile, std::size_t i) {
+    metafile.Record(EMR_INTERSECTCLIPRECT, Bytes().Rectangle(0, Signed(i % 500), 1000, 1000));
+    metafile.Rectangle({1, 2, 3, 4});
+  });
+}
+
+File AClipOfRectangles(std::size_t size) {
+  const std::size_t count = size / 16;
+  Bytes region = Bytes().U32(Number(32 + 16 * count)).U32(kRegionCopy);
+  region.U32(32).U32(1).U32(Number(count)).U32(Number(16 * count)).Rectangle(0, 0, 1024, 1024);
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::int32_t left = Signed(i % 500 * 2);
+    const std::int32_t top = Signed(i / 500 * 2);
+    region.Rectangle(left, top, left + 1, top + 1);
+  }
+  return Metafile()
+      .Bounds(0, 0, 1024, 1024)
+      .Record(kEmrExtSelectClipRgn, region)
+      .Rectangle({0, 0, 1000, 1000})
+      .Build();
+}
+
+// Dashes of a unit, of which a million make a point, along the whole page.
+File ShortDashes(std::size_t size) {
+  constexpr std::uint32_t kOwnDashes = 0x10207;  // geometric, flat, in a style of its own
+  return Repeated(size, 60 + 12 + 24 + 36, [](Metafile& metafile, std::size_t i) {
+    const Bytes pen = Bytes().U32(kOwnDashes).U32(Number(i)).U32(0).U32(0).U32(0).U32(2);
+    metafile.Record(EMR_EXTCREATEPEN, Bytes().U32(1).Zeros(16).Append(pen.Data()).U32(1).U32(1));
+    metafile.SelectObject(1).ModifyWorldTransform({1e-6F, 0, 0, 1e-6F, 0, 0}, kSetTransform);
+    metafile.Polyline({{0, Signed(i)}, {1000000000, Signed(i)}}, true);
+  });
+}
+
+// Marks with the bitmap of one brush, which has half of the bytes, at an origin each.
+File BrushOrigins(std::size_t size) {
+  constexpr std::uint32_t kFixedSize = 32;
+  const std::size_t rows = size / 2 / 192;
+  const Bytes pixels = Bitmap(64, Signed(rows), 192 * rows);
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1024, 1024);
+  Bytes brush = Bytes().U32(1).U32(0).U32(kFixedSize).U32(40).U32(kFixedSize + 40);
+  brush.U32(Number(192 * rows)).Append(pixels.Data());
+  metafile.Record(EMR_CREATEDIBPATTERNBRUSHPT, brush).SelectObject(1);
+  for (std::size_t i = 0; i < size / 2 / (16 + 24); ++i) {
+    metafile.Record(EMR_SETBRUSHORGEX, Bytes().PointL(Signed(i), Signed(i)));
+    metafile.Rectangle({1, 2, 3, 4});
+  }
+  return metafile.Build();
 }
 
 // Points.
@@ -199,14 +261,6 @@ File FontNames(std::size_t size) {
 
 // Bitmaps.
 
-Bytes Bitmap(std::int32_t width, std::int32_t height, std::size_t bytes) {
-  Bytes bitmap;
-  bitmap.BitmapHeader({.width = width, .height = height});
-  for (std::size_t i = 0; i * 4 < bytes; ++i)
-    bitmap.U32(Number(i) * 2654435761U);
-  return bitmap;
-}
-
 File WholeBitmaps(std::size_t size) {
   return Repeated(size, 120 + 12288, [](Metafile& metafile, std::size_t i) {
     const std::int32_t left = Signed(i % 512);
@@ -278,6 +332,10 @@ const std::vector<InputFamily>& InputFamilies() {
       {"pens", true, Pens},
       {"uneven_strokes", true, UnevenStrokes},
       {"nested_clips", true, NestedClips},
+      {"cut_clips", true, CutClips},
+      {"a_clip_of_rectangles", true, AClipOfRectangles},
+      {"short_dashes", true, ShortDashes},
+      {"brush_origins", false, BrushOrigins},
       {"many_points", true, ManyPoints},
       {"many_curves", true, ManyCurves},
       {"many_figures", true, ManyFigures},
