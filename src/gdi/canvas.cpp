@@ -1,5 +1,6 @@
 #include "gdi/canvas.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -77,8 +78,9 @@ bool Canvas::BringClip(const ClipState& clip) {
     cut = &(*cut)->Outer();
     leave();
   }
-  for (auto inner = missing.rbegin(); inner != missing.rend(); ++inner)
-    WriteCut(**inner);
+  std::ranges::reverse(missing);  // outermost first
+  for (const auto* inner : missing)
+    WriteCut(*inner);
   return written_.empty() || !written_.back().hidesAll;
 }
 

@@ -102,10 +102,14 @@ TEST_F(RegionPainting, FramesAsWideWithASizeBelowZero) {
 // A frame on a grid, against what it is: the pixels that have one outside of the region near
 // them, in their row or column.
 
-int Upright(std::string_view word) {
+int WholeNumber(std::string_view word) {
   int value = 0;
   std::from_chars(word.data(), word.data() + word.size(), value);
   return value;
+}
+
+std::size_t IndexOf(int x, int y) {
+  return static_cast<std::size_t>(y) * kGridSize + static_cast<std::size_t>(x);
 }
 
 /// The pixels of the grid that the rectangles of a trace cover.
@@ -113,18 +117,18 @@ Pixels PaintedPixels(const std::string& trace) {
   Pixels painted;
   for (const std::string& line : LinesWith(trace, "rect")) {
     const auto words = WordsOf(line);
-    const int left = Upright(words[1]);
-    const int top = Upright(words[2]);
-    for (int y = top; y < top + Upright(words[4]); ++y)
-      for (int x = left; x < left + Upright(words[3]); ++x)
-        painted.set(static_cast<std::size_t>(y * kGridSize + x));
+    const int left = WholeNumber(words[1]);
+    const int top = WholeNumber(words[2]);
+    for (int y = top; y < top + WholeNumber(words[4]); ++y)
+      for (int x = left; x < left + WholeNumber(words[3]); ++x)
+        painted.set(IndexOf(x, y));
   }
   return painted;
 }
 
 bool IsOutside(const Pixels& pixels, int x, int y) {
   const bool isOnGrid = x >= 0 && x < kGridSize && y >= 0 && y < kGridSize;
-  return !isOnGrid || !pixels[static_cast<std::size_t>(y * kGridSize + x)];
+  return !isOnGrid || !pixels[IndexOf(x, y)];
 }
 
 bool IsNearOutside(const Pixels& pixels, int x, int y, int width, int height) {
@@ -139,8 +143,7 @@ Pixels FrameOf(const Pixels& pixels, int width, int height) {
   Pixels frame;
   for (int y = 0; y < kGridSize; ++y)
     for (int x = 0; x < kGridSize; ++x)
-      frame[static_cast<std::size_t>(y * kGridSize + x)] =
-          !IsOutside(pixels, x, y) && IsNearOutside(pixels, x, y, width, height);
+      frame[IndexOf(x, y)] = !IsOutside(pixels, x, y) && IsNearOutside(pixels, x, y, width, height);
   return frame;
 }
 
