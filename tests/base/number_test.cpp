@@ -55,14 +55,30 @@ INSTANTIATE_TEST_SUITE_P(OutOfRange, NumberText,
                                          NumberCase{-std::numeric_limits<float>::quiet_NaN(),
                                                     "0"}));
 
+/// By the standard library.
+std::string Standard(float value) {
+  std::array<char, kNumberRoom> text;
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
+  return {text.data(), end};
+}
+
 TEST(WriteNumber, WritesEveryShadeOfAColorAsTheStandardLibraryDoes) {
   for (int shade = -255; shade <= 255; ++shade) {
     const float value = static_cast<float>(shade) / 256;
-    std::array<char, kNumberRoom> text;
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
-    EXPECT_EQ(Written(value), std::string(text.data(), end));
+    EXPECT_EQ(Written(value), Standard(value));
   }
+}
+
+TEST(WriteNumber, WritesThousandthsAndTheirNeighboursAsTheStandardLibraryDoes) {
+  for (int count = -16'500'000; count <= 16'500'000; count += 997) {
+    const float value = static_cast<float>(count) / 1000;
+    for (const float near : {value, std::nextafter(value, 1e9F), std::nextafter(value, -1e9F)})
+      ASSERT_EQ(Written(near), Standard(near));
+  }
+  for (int count = 1; count < 1000; ++count)
+    ASSERT_EQ(Written(static_cast<float>(count) / 1000),
+              Standard(static_cast<float>(count) / 1000));
 }
 
 TEST(WriteNumber, WritesInfinityAsTheLargestNumber) {

@@ -22,8 +22,15 @@ constexpr RectangleL kCircle = {0, 0, 20, 20};
 constexpr PointL kEast = {99, 10};
 constexpr PointL kNorth = {10, -99};
 
-TEST(Rectangle, StartsAtTheTopRightAndGoesLeft) {
+TEST(Rectangle, IsWholeWhereItDoesNotShowHowItRuns) {
   TracedDevice device;
+  Rectangle(device, {10, 20, 30, 40});
+  EXPECT_EQ(device.TakeMarks(), "rect 10 20 20 20\neo-fill-stroke\n");
+}
+
+TEST(Rectangle, IsDashedFromTheTopRightToTheLeft) {
+  TracedDevice device;
+  device.Select(1, ExtendedPen(PS_DASH, 1));
   Rectangle(device, {10, 20, 30, 40});
   EXPECT_EQ(device.TakeMarks(),
             "move 30 20\nline 10 20\nline 10 40\nline 30 40\nclose\neo-fill-stroke\n");
@@ -31,17 +38,26 @@ TEST(Rectangle, StartsAtTheTopRightAndGoesLeft) {
 
 TEST(Rectangle, GoesTheOtherWayWithTheArcs) {
   TracedDevice device;
+  device.Select(1, ExtendedPen(PS_DASH, 1));
   SetArcDirection(device, AD_CLOCKWISE);
   Rectangle(device, {10, 20, 30, 40});
   EXPECT_EQ(device.TakeMarks(),
             "move 30 20\nline 30 40\nline 10 40\nline 10 20\nclose\neo-fill-stroke\n");
 }
 
+TEST(Rectangle, RunsAsADashedOneDoesInAPath) {
+  TracedDevice device;
+  BeginPath(device);
+  Rectangle(device, {10, 20, 30, 40});
+  EndPath(device);
+  StrokePath(device);
+  EXPECT_EQ(device.TakeMarks(), "move 30 20\nline 10 20\nline 10 40\nline 30 40\nclose\nstroke\n");
+}
+
 TEST(Rectangle, HasItsCornersInAnyOrder) {
   TracedDevice device;
   Rectangle(device, {30, 40, 10, 20});
-  EXPECT_EQ(device.TakeMarks(),
-            "move 30 20\nline 10 20\nline 10 40\nline 30 40\nclose\neo-fill-stroke\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 10 20 20 20\neo-fill-stroke\n");
 }
 
 TEST(Rectangle, TurnsWithTheWorld) {
@@ -49,14 +65,14 @@ TEST(Rectangle, TurnsWithTheWorld) {
   SetWorldTransform(device, {0, 1, -1, 0, 0, 0});
   Rectangle(device, {0, 0, 10, 20});
   EXPECT_EQ(device.TakeMarks(),
-            "move 0 10\nline 0 0\nline -20 0\nline -20 10\nclose\neo-fill-stroke\n");
+            "move 0 10\nline -20 10\nline -20 0\nline 0 0\nclose\neo-fill-stroke\n");
 }
 
 TEST(Rectangle, FillsItsStoredBoxAloneWithANullPen) {
   TracedDevice device;
   SelectObject(device, NULL_PEN);
   Rectangle(device, {10, 20, 30, 40});
-  EXPECT_EQ(device.TakeMarks(), "move 30 20\nline 10 20\nline 10 40\nline 30 40\nclose\neo-fill\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 10 20 20 20\neo-fill\n");
 }
 
 TEST(Ellipse, StartsAtTheRightAndGoesUp) {
@@ -174,8 +190,7 @@ TEST(InsideFrame, KeepsTheStrokeInTheBox) {
   TracedDevice device;
   device.Select(1, OldPen(PS_INSIDEFRAME, 5));
   Rectangle(device, {20, 20, 39, 39});
-  EXPECT_EQ(device.TakeMarks(),
-            "move 37 22\nline 22 22\nline 22 37\nline 37 37\nclose\neo-fill-stroke\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 22 22 15 15\neo-fill-stroke\n");
 }
 
 TEST(InsideFrame, KeepsEllipsesChordsAndPiesInTheBox) {
@@ -197,18 +212,14 @@ TEST(InsideFrame, CountsThePixelsOfTheDevice) {
   device.Select(1, OldPen(PS_INSIDEFRAME, 5));
   SetWorldTransform(device, kTwice);
   Rectangle(device, {20, 20, 40, 40});
-  EXPECT_EQ(device.TakeMarks(),
-            "move 75.5 44.5\nline 44.5 44.5\nline 44.5 75.5\nline 75.5 75.5\nclose\n"
-            "eo-fill-stroke\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 44.5 44.5 31 31\neo-fill-stroke\n");
 }
 
 TEST(InsideFrame, EndsInTheMiddleOfABoxThatIsSmaller) {
   TracedDevice device;
   device.Select(1, OldPen(PS_INSIDEFRAME, 50));
   Rectangle(device, {0, 0, 10, 20});
-  EXPECT_EQ(device.TakeMarks(),
-            "move 5 10\nline 5 10\nline 5 10\nline 5 10\nclose\n"
-            "eo-fill-stroke\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 5 10 0 0\neo-fill-stroke\n");
 }
 
 TEST(InsideFrame, LeavesLinesAndPolygonsWhereTheyAre) {
@@ -261,14 +272,13 @@ TEST(PatBlt, FillsWithTheBrush) {
   TracedDevice device;
   device.Select(1, CreateSolidBrush({0x0000FF}));
   PatBlt(device, {10, 20}, {5, 6}, R2_COPYPEN);
-  EXPECT_EQ(device.Take(),
-            "fill-color 1 0 0\nmove 15 20\nline 15 26\nline 10 26\nline 10 20\nclose\nfill\n");
+  EXPECT_EQ(device.Take(), "fill-color 1 0 0\nrect 10 20 5 6\nfill\n");
 }
 
 TEST(PatBlt, LeadsTheOtherWayWithANegativeSize) {
   TracedDevice device;
   PatBlt(device, {15, 26}, {-5, -6}, R2_COPYPEN);
-  EXPECT_EQ(device.TakeMarks(), "move 15 20\nline 15 26\nline 10 26\nline 10 20\nclose\nfill\n");
+  EXPECT_EQ(device.TakeMarks(), "rect 15 26 -5 -6\nfill\n");
 }
 
 TEST(PatBlt, MarksNothingWithoutASize) {
@@ -282,7 +292,7 @@ TEST(PatBlt, TakesItsOwnOperationAndNotTheLines) {
   TracedDevice device;
   SetROP2(device, R2_NOT);
   PatBlt(device, {10, 20}, {5, 6}, R2_BLACK);
-  EXPECT_EQ(device.Take(), "move 15 20\nline 15 26\nline 10 26\nline 10 20\nclose\nfill\n");
+  EXPECT_EQ(device.Take(), "rect 10 20 5 6\nfill\n");
 }
 
 TEST(PatBlt, IsPaintedAtOnceInABracket) {

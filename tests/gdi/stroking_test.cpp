@@ -50,12 +50,13 @@ TEST(ThinStroke, IsNotSqueezed) {
   EXPECT_EQ(Stroke(device, OldPen(PS_SOLID, 1)), "line-join 1\nmove 0 0\nline 64 0\nstroke\n");
 }
 
+// A sixteenth of a point comes to thousandths.
 TEST(FineStroke, IsAsThinAsTheOutputHasItBelowAQuarterPointAndADeviceUnit) {
   TracedDevice device(kPrinter);
   SetWorldTransform(device, {0.5F, 0, 0, 0.5F, 0, 0});
   EXPECT_EQ(LinesWith(Stroke(device, OldPen(PS_SOLID, 1)), "line-width"), Lines{"line-width 0"});
   EXPECT_EQ(LinesWith(Stroke(device, GeometricPen(PS_SOLID, 2)), "line-width"),
-            Lines{"line-width 0.0625"});
+            Lines{"line-width 0.062"});
 }
 
 TEST(FineStroke, KeepsItsWidthWhereADeviceUnitIsWider) {

@@ -22,10 +22,10 @@ using test::SetFill;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr Raster::Color kRed = {255, 0, 0};
-constexpr Raster::Color kGreen = {0, 255, 0};
-constexpr Raster::Color kCyan = {0, 255, 255};
-constexpr Raster::Color kWhite = {255, 255, 255};
+constexpr Raster::Color kRedPixel = {255, 0, 0};
+constexpr Raster::Color kGreenPixel = {0, 255, 0};
+constexpr Raster::Color kCyanPixel = {0, 255, 255};
+constexpr Raster::Color kWhitePixel = {255, 255, 255};
 
 /// Cells of 20 points: the lower left quarter is red, the rest bare.
 CGSharedPattern RedQuarters() {
@@ -43,10 +43,10 @@ TEST(PdfPainting, RepeatsAPatternsCell) {
     c->SetFillPattern(RedQuarters());
     FillRect(c, {{0, 0}, {100, 100}});
   }));
-  EXPECT_EQ(page.At(5, 95), kRed);
-  EXPECT_EQ(page.At(15, 95), kWhite);
-  EXPECT_EQ(page.At(5, 85), kWhite);
-  EXPECT_EQ(page.At(45, 55), kRed);
+  EXPECT_EQ(page.At(5, 95), kRedPixel);
+  EXPECT_EQ(page.At(15, 95), kWhitePixel);
+  EXPECT_EQ(page.At(5, 85), kWhitePixel);
+  EXPECT_EQ(page.At(45, 55), kRedPixel);
 }
 
 /// An image of 20 by 20 pixels: red and green above white.
@@ -54,7 +54,7 @@ CFOwned<const CGImage> Quarters() {
   std::vector<unsigned char> pixels;
   for (int row = 0; row < 20; ++row) {
     for (int column = 0; column < 20; ++column) {
-      const Raster::Color color = row >= 10 ? kWhite : column < 10 ? kRed : kGreen;
+      const Raster::Color color = row >= 10 ? kWhitePixel : column < 10 ? kRedPixel : kGreenPixel;
       for (const int channel : color)
         pixels.push_back(static_cast<unsigned char>(channel));
     }
@@ -71,9 +71,9 @@ TEST(PdfPainting, DrawsAPatternsImageUpright) {
     c->SetFillPattern(shared);
     FillRect(c, {{0, 0}, {100, 100}});
   }));
-  EXPECT_EQ(page.At(45, 45), kRed);
-  EXPECT_EQ(page.At(55, 45), kGreen);
-  EXPECT_EQ(page.At(45, 55), kWhite);
+  EXPECT_EQ(page.At(45, 45), kRedPixel);
+  EXPECT_EQ(page.At(55, 45), kGreenPixel);
+  EXPECT_EQ(page.At(45, 55), kWhitePixel);
 }
 
 TEST(PdfPainting, StoresAPatternOnce) {
@@ -96,8 +96,8 @@ TEST(PdfPainting, BlendsWithWhitePaper) {
     CGContextSetBlendMode(c, kCGBlendModeDifference);
     FillRect(c, {{0, 0}, {50, 100}});
   }));
-  EXPECT_EQ(page.At(25, 50), kCyan);
-  EXPECT_EQ(page.At(75, 50), kWhite);
+  EXPECT_EQ(page.At(25, 50), kCyanPixel);
+  EXPECT_EQ(page.At(75, 50), kWhitePixel);
 }
 
 TEST(PdfPainting, PutsPaperOnlyBelowWhatIsBlended) {
@@ -130,8 +130,8 @@ TEST(PdfPainting, CutsToWhatIsInsideByTheEvenOddRule) {
     SetFill(c, 1, 0, 0);
     FillRect(c, {{0, 0}, {100, 100}});
   }));
-  EXPECT_EQ(page.At(10, 10), kRed);
-  EXPECT_EQ(page.At(50, 50), kWhite);
+  EXPECT_EQ(page.At(10, 10), kRedPixel);
+  EXPECT_EQ(page.At(50, 50), kWhitePixel);
 }
 
 TEST(PdfPainting, DashesALineFromItsStart) {
@@ -142,9 +142,9 @@ TEST(PdfPainting, DashesALineFromItsStart) {
     test::SetStroke(c, 1, 0, 0);
     test::StrokeLine(c, {0, 50}, {100, 50});
   }));
-  EXPECT_EQ(page.At(10, 50), kRed);
-  EXPECT_EQ(page.At(25, 50), kWhite);
-  EXPECT_EQ(page.At(35, 50), kRed);
+  EXPECT_EQ(page.At(10, 50), kRedPixel);
+  EXPECT_EQ(page.At(25, 50), kWhitePixel);
+  EXPECT_EQ(page.At(35, 50), kRedPixel);
 }
 
 }  // namespace

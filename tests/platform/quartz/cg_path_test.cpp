@@ -249,6 +249,15 @@ TEST(CGPath, GoesOnFromWhereItWasMappedTo) {
   EXPECT_EQ(Written(path), "101 2 m 103 4 l h 101 2 m 7 7 l ");
 }
 
+TEST(CGPath, IsRoundedToPartsOfAUnit) {
+  CGPath path;
+  path.MoveTo({1.0126F, -2.0004F});
+  path.LineTo({0.001F, 3});
+  path.Round(1000);
+  EXPECT_EQ(Written(path), "1.013 -2 m 0.001 3 l ");
+  EXPECT_EQ(path.CurrentPoint(), (CGPoint{0.001F, 3}));
+}
+
 TEST(CGPath, IsNotFiniteOnceMappedBeyondItsNumbers) {
   CGPath path;
   path.MoveTo({3e38F, 0});

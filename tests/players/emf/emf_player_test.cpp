@@ -186,8 +186,7 @@ TEST(EmfPlayer, FillsWithABlitThatHasNoBitmap) {
   Metafile metafile;
   metafile.CreateBrush(1, Rgb(255, 0, 0)).SelectObject(1).BitBlt({1, 2}, {3, 4}, kPatCopy);
   const PlayedEmf played = Played(metafile.Build());
-  EXPECT_EQ(played.trace,
-            "fill-color 1 0 0\nmove 4 2\nline 4 6\nline 1 6\nline 1 2\nclose\nfill\n");
+  EXPECT_EQ(played.trace, "fill-color 1 0 0\nrect 1 2 3 4\nfill\n");
   EXPECT_EQ(played.report, "");
 }
 
