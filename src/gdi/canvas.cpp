@@ -55,6 +55,12 @@ void Canvas::Load(CGPath& path) {
   surface_.SwapPath(path);
 }
 
+bool Canvas::Afford(std::size_t parts) {
+  const bool isAfforded = repeats_.Take(parts);
+  hasRunOut_ = hasRunOut_ || !isAfforded;
+  return isAfforded;
+}
+
 bool Canvas::BringClip(const ClipState& clip) {
   const std::shared_ptr<const ClipCut>& innermost = clip.Innermost();
   if (written_.empty() ? innermost == nullptr : written_.back().cut == innermost) {
@@ -92,6 +98,10 @@ void Canvas::WriteCut(const std::shared_ptr<const ClipCut>& cut) {
   const auto* outline = std::get_if<Outline>(&cut->CutTo());
   const bool isWinding = outline != nullptr && outline->fillMode == WINDING && !outline->isOutside;
   if (!path.HasSegments()) {
+    written_.back().hidesAll = true;
+    return;
+  }
+  if (!Afford(path.Reached().elements)) {
     written_.back().hidesAll = true;
     return;
   }
@@ -133,7 +143,7 @@ CGSharedPattern Canvas::CellOf(const BrushPaint& paint, RasterStep::Color color)
                        paint.pattern.usage,
                        color};
   const auto [entry, isNew] = cells_.try_emplace(key);
-  if (isNew) {
+  if (isNew && Afford(paint.pattern.pixels.size())) {
     auto cell = MakePattern(paint, color);
     if (cell) entry->second = std::make_shared<const CGPattern>(*std::move(cell));
   }

@@ -10,6 +10,7 @@
 #include "gdi/clip_state.h"
 #include "gdi/geometry.h"
 #include "gdi/raster_operation.h"
+#include "gdi/steps.h"
 #include "platform/quartz/cg_context.h"
 
 namespace kelvane {
@@ -42,8 +43,17 @@ class Canvas {
   void Load(CGPath& path);
 
   /// Cuts what follows to a clip.
-  /// @return false when nothing is left to be seen.
+  /// @return false when nothing is left to be seen, or the clip cannot be afforded any more.
   bool BringClip(const ClipState& clip);
+
+  /// What a small file can have drawn again and again: the elements of clips that are left and
+  /// entered and of paths that are saved and painted, the bytes of brushes in ever new colours. A
+  /// large file may have more of it.
+  bool Afford(std::size_t parts);
+  void AllowFor(std::size_t fileSize) { repeats_.Add(fileSize); }
+
+  /// Whether something was not drawn because it could not be afforded.
+  [[nodiscard]] bool HasRunOut() const { return hasRunOut_; }
 
   /// Device units in 1/96 inch, the pixel of what keeps its size on every device.
   [[nodiscard]] double ScreenPixel() const { return screenPixel_; }
@@ -75,6 +85,8 @@ class Canvas {
   double screenPixel_;
   double patternPixelX_;  // device units in a pixel of a brush
   double patternPixelY_;
+  Steps repeats_{1U << 22};
+  bool hasRunOut_ = false;
   std::vector<WrittenCut> written_;           // each within a state that was saved, outermost first
   std::map<CellKey, CGSharedPattern> cells_;  // a unit a pixel, wherever they lie
   std::map<PatternKey, CGSharedPattern> patterns_;

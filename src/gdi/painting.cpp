@@ -54,7 +54,8 @@ Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperat
     if (paint.kind != Brush::Kind::kSolid) {
       mark.pattern = device.canvas->PatternOf(paint, device.state.brushOrigin, step.color);
       if (mark.pattern == nullptr) {
-        device.shortfalls.Add(Shortfall::kUnreadablePattern);
+        device.shortfalls.Add(device.canvas->HasRunOut() ? Shortfall::kDrawnTooOften
+                                                         : Shortfall::kUnreadablePattern);
         return {};
       }
     }
@@ -130,8 +131,10 @@ class PathPainter {
 };
 
 bool CanPaint(DeviceContext& device, const CGPath& path) {
-  return device.canvas != nullptr && path.HasSegments() &&
-         device.canvas->BringClip(device.state.clip);
+  if (device.canvas == nullptr || !path.HasSegments()) return false;
+  const bool shows = device.canvas->BringClip(device.state.clip);
+  if (!shows && device.canvas->HasRunOut()) device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  return shows;
 }
 
 void Fill(DeviceContext& device, CGPath& path, PolyFillMode fillMode, const Marks& marks) {

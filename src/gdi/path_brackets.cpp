@@ -14,10 +14,19 @@ std::shared_ptr<const CGPath> TakePath(DeviceContext& device) {
   return std::exchange(device.state.path, nullptr);
 }
 
+/// A path that a saved state has, too, may come back again and again.
+bool MayPaint(DeviceContext& device, const std::shared_ptr<const CGPath>& path) {
+  const bool isShared = path.use_count() > 1;
+  if (!isShared || device.canvas == nullptr) return true;
+  if (device.canvas->Afford(path->Reached().elements)) return true;
+  device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  return false;
+}
+
 /// Paints the finished path; a state that was saved may share it.
 bool PaintFinished(DeviceContext& device, PaintKind kind) {
   const auto path = TakePath(device);
-  if (path == nullptr) return false;
+  if (path == nullptr || !MayPaint(device, path)) return false;
   device.scratch = *path;
   PaintPath(device, device.scratch, kind);
   return true;
@@ -105,7 +114,7 @@ bool StrokePath(DeviceContext& device) {
 
 bool StrokeAndFillPath(DeviceContext& device) {
   const auto path = TakePath(device);
-  if (path == nullptr) return false;
+  if (path == nullptr || !MayPaint(device, path)) return false;
   device.scratch = WithClosedFigures(*path);
   PaintPath(device, device.scratch, PaintKind::kFillAndStroke);
   return true;

@@ -11,9 +11,10 @@ enum class Shortfall : std::uint8_t {
   kClipTooComplex,     // a clip would have taken too long, and was left as it was
   kRegionTooComplex,   // a region would have taken too long, and was not painted
   kPathTooComplex,     // a path's outline would have taken too long, and the path was left
+  kDrawnTooOften,      // it repeats so much that it was not drawn
 };
 
-inline constexpr int kShortfalls = 5;
+inline constexpr int kShortfalls = 6;
 
 /// A set of them.
 class Shortfalls {

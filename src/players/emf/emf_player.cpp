@@ -38,6 +38,7 @@ constexpr std::array<std::string_view, kShortfalls> kShortfallWords = {
     "its clip is too complex and was left as it was",
     "its region is too complex and was not painted",
     "its path is too complex to be widened",
+    "what it repeats was drawn too often, and not again",
 };
 
 void ReportShortfalls(EmfPlayback& playback) {
@@ -99,6 +100,7 @@ std::size_t PlayOnto(CGContext& surface, const CGAffineTransform& deviceToPage,
                      std::span<const unsigned char> file, const EmfHeader& header,
                      const RectangleD& whole, Report& report) {
   Canvas canvas(surface, deviceToPage, whole, ResolutionOf(GeometryOf(header)));
+  canvas.AllowFor(file.size());
   DeviceContext device({header.device, header.millimeters, whole.left, whole.right}, &canvas);
   EmfPlayback playback = {device, report};
   const std::size_t count = PlayRecords(file, playback);
