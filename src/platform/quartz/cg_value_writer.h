@@ -1,6 +1,6 @@
 #pragma once
 
-#include <compare>
+#include <tuple>
 #include <vector>
 
 #include "platform/quartz/cg_blend_mode.h"
@@ -24,7 +24,10 @@ struct CGCompositing {
   CGFloat alpha = 1;
   CGBlendMode mode = kCGBlendModeNormal;
 
-  friend auto operator<=>(const CGCompositing&, const CGCompositing&) = default;
+  friend bool operator==(const CGCompositing&, const CGCompositing&) = default;
+  friend bool operator<(const CGCompositing& a, const CGCompositing& b) {
+    return std::tie(a.alpha, a.mode) < std::tie(b.alpha, b.mode);
+  }
 };
 
 /// A sequential output's operators for values of the graphics state, one each.

@@ -44,7 +44,7 @@ constexpr std::array<std::string_view, kShortfalls> kShortfallWords = {
 void ReportShortfalls(EmfPlayback& playback) {
   Shortfalls& shortfalls = playback.device.shortfalls;
   if (shortfalls.IsEmpty()) return;
-  for (int i = 0; i < kShortfalls; ++i) {
+  for (std::size_t i = 0; i < kShortfallWords.size(); ++i) {
     if (shortfalls.Has(static_cast<Shortfall>(i))) playback.OnlyNearly(kShortfallWords[i]);
   }
   shortfalls.Clear();
