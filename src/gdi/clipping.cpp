@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "gdi/exactly.h"
 namespace kelvane {
 namespace {
 
@@ -20,9 +21,7 @@ bool Join(DeviceContext& device, const Area& area, RegionMode mode) {
 }
 
 bool JoinRectangle(DeviceContext& device, const RectangleL& r, RegionMode mode) {
-  const RectangleD exact = {static_cast<double>(r.left), static_cast<double>(r.top),
-                            static_cast<double>(r.right), static_cast<double>(r.bottom)};
-  const auto area = AreaOf(exact, device.state.mapping.ToDevice());
+  const auto area = AreaOf(Exactly(r), device.state.mapping.ToDevice());
   return area && Join(device, *area, mode);
 }
 
@@ -56,10 +55,8 @@ bool ExtSelectClipRgn(DeviceContext& device, std::optional<ArrayView<RectangleL>
   }
   std::vector<RectangleD> exact;
   exact.reserve(rectangles->size());
-  for (const RectangleL r : *rectangles) {
-    exact.push_back({static_cast<double>(r.left), static_cast<double>(r.top),
-                     static_cast<double>(r.right), static_cast<double>(r.bottom)});
-  }
+  for (const RectangleL r : *rectangles)
+    exact.push_back(Exactly(r));
   device.clipSteps.Add(kStepsOfARectangle * exact.size());
   return Join(device, AreaOf(exact), mode);
 }

@@ -1,16 +1,9 @@
 #include "gdi/flatten.h"
 
+#include "gdi/exactly.h"
 #include "gdi/polygons.h"
 
 namespace kelvane {
-namespace {
-
-PointD Exactly(CGPoint point) {
-  return {point.x, point.y};
-}
-
-}  // namespace
-
 Polygons Flattened(const CGPath& path, PolyFillMode fillMode, double tolerance) {
   std::vector<std::vector<PointD>> figures;
   const auto add = [&](PointD point) { figures.back().push_back(point); };

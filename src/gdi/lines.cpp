@@ -4,15 +4,11 @@
 #include <cstddef>
 
 #include "gdi/drawing.h"
+#include "gdi/exactly.h"
 #include "gdi/objects.h"
 
 namespace kelvane {
 namespace {
-
-template <class Point>
-PointD Exactly(Point point) {
-  return {static_cast<double>(point.x), static_cast<double>(point.y)};
-}
 
 template <class Point>
 void AddLines(FigurePath& figures, ArrayView<Point> points) {

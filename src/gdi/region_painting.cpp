@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "gdi/exactly.h"
 #include "gdi/painting.h"
 #include "gdi/region.h"
 
@@ -17,10 +18,8 @@ constexpr RgbColor kWhite = {255, 255, 255};
 std::optional<Region> RegionOf(ArrayView<RectangleL> rectangles, Steps& steps) {
   std::vector<RectangleD> exact;
   exact.reserve(rectangles.size());
-  for (const RectangleL r : rectangles) {
-    exact.push_back({static_cast<double>(r.left), static_cast<double>(r.top),
-                     static_cast<double>(r.right), static_cast<double>(r.bottom)});
-  }
+  for (const RectangleL r : rectangles)
+    exact.push_back(Exactly(r));
   return Region::Union(exact, steps);
 }
 

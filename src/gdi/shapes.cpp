@@ -5,19 +5,11 @@
 #include <numbers>
 
 #include "gdi/drawing.h"
+#include "gdi/exactly.h"
 #include "gdi/objects.h"
 
 namespace kelvane {
 namespace {
-
-PointD Exactly(PointL point) {
-  return {static_cast<double>(point.x), static_cast<double>(point.y)};
-}
-
-RectangleD Exactly(const RectangleL& box) {
-  return {static_cast<double>(box.left), static_cast<double>(box.top),
-          static_cast<double>(box.right), static_cast<double>(box.bottom)};
-}
 
 /// @return the box of a closed shape, moved inwards when its pen stays inside of it: by half of the
 ///         pen, less the half pixel by which the outermost pixels reach out.
