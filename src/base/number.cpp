@@ -29,14 +29,17 @@ char* WriteShade(char* out, int shade) {
   return out + digits;
 }
 
-/// Writes thousandths of which some are left over, without zeros at the end.
-char* WriteThousandths(char* out, char* end, int thousandths) {
-  if (thousandths < 0) *out++ = '-';
-  const int count = std::abs(thousandths);
-  out = std::to_chars(out, end, count / 1000).ptr;
+/// Writes a count of parts of one, of which some are left over, without zeros at the end.
+/// @tparam kDigits  decimals; 10 to their power are the parts of one.
+template <int kDigits>
+char* WriteParts(char* out, char* end, int parts) {
+  constexpr int kPartsOfOne = kDigits == 3 ? 1000 : 100;
+  if (parts < 0) *out++ = '-';
+  const int count = std::abs(parts);
+  out = std::to_chars(out, end, count / kPartsOfOne).ptr;
   *out++ = '.';
-  int rest = count % 1000;
-  int digits = 3;
+  int rest = count % kPartsOfOne;
+  int digits = kDigits;
   for (; rest % 10 == 0; rest /= 10)
     --digits;
   for (char* digit = out + digits; digit != out; rest /= 10)
@@ -59,14 +62,17 @@ char* WriteNumber(char* out, float value) {
     const int whole = static_cast<int>(shades);
     if (static_cast<float>(whole) == shades) return WriteShade(out, whole);
   }
-  // Below this, values a thousandth apart are different numbers, so one that is the closest to a
-  // count of thousandths has these for its shortest decimal.
+  // Below these, values a part apart are different numbers, so one that is the closest to a count
+  // of parts has these for its shortest decimal.
   constexpr float kTellsThousandths = 16384;
+  constexpr float kTellsHundredths = 131072;
   if (std::abs(value) < kTellsThousandths) {
     const auto thousandths = static_cast<int>(std::lrintf(value * 1000));
-    if (static_cast<float>(thousandths) / 1000 == value) {
-      return WriteThousandths(out, end, thousandths);
-    }
+    if (static_cast<float>(thousandths) / 1000 == value)
+      return WriteParts<3>(out, end, thousandths);
+  } else if (std::abs(value) < kTellsHundredths) {
+    const auto hundredths = static_cast<int>(std::lrintf(value * 100));
+    if (static_cast<float>(hundredths) / 100 == value) return WriteParts<2>(out, end, hundredths);
   }
   if (std::isnan(value)) value = 0;
   constexpr float kLargest = std::numeric_limits<float>::max();

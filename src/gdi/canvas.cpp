@@ -32,12 +32,31 @@ CGAffineTransform IntoThePixel(CGAffineTransform matrix) {
   return matrix;
 }
 
+/// Into how many parts a point is divided: finer than any output shows, with few digits to store,
+/// and no more of them than a coordinate of the page can tell apart.
+CGFloat PartsOfAPoint(const CGAffineTransform& deviceToPage, const RectangleD& whole) {
+  constexpr CGFloat kLargePage = 16384;
+  const auto width = static_cast<CGFloat>(whole.right - whole.left) * deviceToPage.a;
+  const auto height = static_cast<CGFloat>(whole.bottom - whole.top) * deviceToPage.d;
+  return std::max(std::abs(width), std::abs(height)) < kLargePage ? 1000 : 100;
+}
+
+/// An edge through the middle of a pixel gives the pixel to its lower right side. Rounding must not
+/// take it across.
+CGAffineTransform BelowTheMiddle(CGAffineTransform deviceToPage, CGFloat partsOfAPoint) {
+  const CGFloat nearlyHalf = 0.4F / partsOfAPoint;
+  deviceToPage.tx += nearlyHalf;
+  deviceToPage.ty -= nearlyHalf;
+  return deviceToPage;
+}
+
 }  // namespace
 
 Canvas::Canvas(CGContext& surface, const CGAffineTransform& deviceToPage, const RectangleD& whole,
                const DeviceResolution& resolution)
     : surface_(surface),
       deviceToPage_(deviceToPage),
+      partsOfAPoint_(PartsOfAPoint(deviceToPage, whole)),
       whole_(whole),
       screenPixel_(resolution.dotsPerInchX / kScreenDotsPerInch),
       patternPixelX_(PatternPixel(resolution.dotsPerInchX)),
@@ -49,9 +68,8 @@ Canvas::~Canvas() {
 }
 
 void Canvas::Load(CGPath& path) {
-  constexpr CGFloat kPartsOfAPoint = 1000;  // finer than any output shows; few digits to store
-  path.Map(deviceToPage_);
-  path.Round(kPartsOfAPoint);
+  path.Map(BelowTheMiddle(deviceToPage_, partsOfAPoint_));
+  path.Round(partsOfAPoint_);
   surface_.SwapPath(path);
 }
 

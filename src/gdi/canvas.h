@@ -81,6 +81,7 @@ class Canvas {
 
   CGContext& surface_;
   CGAffineTransform deviceToPage_;
+  CGFloat partsOfAPoint_;  // to which coordinates are rounded
   RectangleD whole_;
   double screenPixel_;
   double patternPixelX_;  // device units in a pixel of a brush

@@ -81,6 +81,14 @@ TEST(WriteNumber, WritesThousandthsAndTheirNeighboursAsTheStandardLibraryDoes) {
               Standard(static_cast<float>(count) / 1000));
 }
 
+TEST(WriteNumber, WritesHundredthsAndTheirNeighboursAsTheStandardLibraryDoes) {
+  for (int count = -13'200'000; count <= 13'200'000; count += 997) {
+    const float value = static_cast<float>(count) / 100;
+    for (const float near : {value, std::nextafter(value, 1e9F), std::nextafter(value, -1e9F)})
+      ASSERT_EQ(Written(near), Standard(near));
+  }
+}
+
 TEST(WriteNumber, WritesInfinityAsTheLargestNumber) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
   constexpr float kLargest = std::numeric_limits<float>::max();
