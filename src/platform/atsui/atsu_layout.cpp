@@ -87,7 +87,7 @@ void DrawLine(const LinePlace& place, std::u16string_view text, const FontStyle&
   double pen = 0;
   while (!text.empty()) {
     const std::u16string_view piece = FirstPiece(text);
-    for (ShapedRun& run : ShapeLine(piece, style, usesStandIns, pen)) {
+    for (ShapedRun& run : ShapeLine(piece, style, {.usesStandIns = usesStandIns}, pen)) {
       for (CGPositionedGlyph& glyph : run.glyphs) {
         glyph.origin = {glyph.origin.x * place.size, glyph.origin.y * place.size};
       }

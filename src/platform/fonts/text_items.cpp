@@ -55,19 +55,31 @@ class FaceChooser {
   char32_t base_ = 0;  // that character, together with its own base where they are one
 };
 
+FriBidiParType ParagraphType(LineDirection direction) {
+  switch (direction) {
+    case LineDirection::kRightwards:
+      return FRIBIDI_PAR_LTR;
+    case LineDirection::kLeftwards:
+      return FRIBIDI_PAR_RTL;
+    case LineDirection::kByText:
+      break;
+  }
+  return FRIBIDI_PAR_ON;
+}
+
 // Punctuation, digits and marks are set as the script before them; at the start of a line, as the
 // one behind.
-void SpreadScripts(std::vector<TextItem>& items) {
+void SpreadScripts(std::vector<LineItem>& items) {
   const auto isOpen = [](hb_script_t script) {
     return script == HB_SCRIPT_COMMON || script == HB_SCRIPT_INHERITED;
   };
   hb_script_t script = HB_SCRIPT_COMMON;
-  for (const TextItem& item : items) {
+  for (const LineItem& item : items) {
     if (isOpen(item.script)) continue;
     script = item.script;
     break;
   }
-  for (TextItem& item : items) {
+  for (LineItem& item : items) {
     if (isOpen(item.script)) {
       item.script = script;
     } else {
@@ -98,13 +110,13 @@ StyledFace FaceFor(char32_t character, const FontStyle& style, bool usesStandIns
   return style.StandIn(character).value_or(style.Face());
 }
 
-std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
+std::vector<LineItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
                                   bool usesStandIns) {
-  std::vector<TextItem> items;
+  std::vector<LineItem> items;
   FaceChooser faces(style, usesStandIns);
   for (std::size_t at = 0; at < text.size();) {
     const DecodedCharacter decoded = DecodeUTF16(text, at);
-    TextItem& item = items.emplace_back();
+    LineItem& item = items.emplace_back();
     item.start = at;
     item.units = decoded.units;
     item.character = decoded.character;
@@ -116,11 +128,11 @@ std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& sty
   return items;
 }
 
-std::vector<int> OrderLine(std::vector<TextItem>& items) {
+std::vector<int> OrderLine(std::vector<LineItem>& items, LineDirection lineDirection) {
   const auto length = static_cast<FriBidiStrIndex>(items.size());
   std::vector<FriBidiChar> characters;
   characters.reserve(items.size());
-  for (const TextItem& item : items)
+  for (const LineItem& item : items)
     characters.push_back(item.character);
   std::vector<FriBidiCharType> types(items.size());
   std::vector<FriBidiBracketType> brackets(items.size());
@@ -130,7 +142,7 @@ std::vector<int> OrderLine(std::vector<TextItem>& items) {
 
   fribidi_get_bidi_types(characters.data(), length, types.data());
   fribidi_get_bracket_types(characters.data(), length, types.data(), brackets.data());
-  FriBidiParType direction = FRIBIDI_PAR_ON;  // that of the first character that has one
+  FriBidiParType direction = ParagraphType(lineDirection);
   constexpr FriBidiFlags kPlain = 0;
   const bool isDone = fribidi_get_par_embedding_levels_ex(types.data(), brackets.data(), length,
                                                           &direction, levels.data()) != 0 &&

@@ -12,7 +12,7 @@
 namespace kelvane {
 
 /// A character of a line, with all that decides which neighbours it is shaped together with.
-struct TextItem {
+struct LineItem {
   std::size_t start = 0;  // its first unit
   std::size_t units = 1;
   char32_t character = 0;
@@ -27,17 +27,24 @@ bool MarksNothing(char32_t character);
 /// True for what steers the setting of its neighbours and shows nothing of itself.
 bool OnlySteers(char32_t character);
 
+/// Which way a line reads as a whole.
+enum class LineDirection : std::uint8_t {
+  kByText,  // that of the first character that has one
+  kRightwards,
+  kLeftwards,
+};
+
 /// @return the face that a character is drawn from: the style's own when it has it or when no other
 ///         may or can stand in.
 StyledFace FaceFor(char32_t character, const FontStyle& style, bool usesStandIns);
 
 /// @return the line's characters in logical order.
-std::vector<TextItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
+std::vector<LineItem> ItemizeLine(std::u16string_view text, const FontStyle& style,
                                   bool usesStandIns);
 
 /// Sets the items' levels.
 /// @param items  not empty.
 /// @return for each place on the line, from left to right, the index of the item that stands there.
-std::vector<int> OrderLine(std::vector<TextItem>& items);
+std::vector<int> OrderLine(std::vector<LineItem>& items, LineDirection direction);
 
 }  // namespace kelvane

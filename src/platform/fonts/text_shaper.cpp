@@ -1,6 +1,7 @@
 #include "platform/fonts/text_shaper.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
 #include <span>
 
@@ -8,16 +9,15 @@
 
 #include "base/unicode.h"
 #include "platform/fonts/harfbuzz_owned.h"
-#include "platform/fonts/text_items.h"
 
 namespace kelvane {
 namespace {
 
-constexpr bool RunsLeft(const TextItem& item) {
+constexpr bool RunsLeft(const LineItem& item) {
   return item.level % 2 != 0;
 }
 
-bool IsShapedWith(const TextItem& item, const TextItem& neighbour) {
+bool IsShapedWith(const LineItem& item, const LineItem& neighbour) {
   return item.level == neighbour.level && item.script == neighbour.script &&
          item.face == neighbour.face;
 }
@@ -26,15 +26,15 @@ bool IsShapedWith(const TextItem& item, const TextItem& neighbour) {
 struct Stretch {
   std::size_t start;  // units
   std::size_t end;
-  const TextItem* item;  // any of its characters
+  const LineItem* item;  // any of its characters
 };
 
 /// Cuts a line into stretches, from left to right.
-std::vector<Stretch> Stretches(std::vector<TextItem>& items) {
+std::vector<Stretch> Stretches(std::vector<LineItem>& items, LineDirection direction) {
   std::vector<Stretch> stretches;
-  const TextItem* previous = nullptr;
-  for (const int index : OrderLine(items)) {
-    const TextItem& item = items[static_cast<std::size_t>(index)];
+  const LineItem* previous = nullptr;
+  for (const int index : OrderLine(items, direction)) {
+    const LineItem& item = items[static_cast<std::size_t>(index)];
     const std::size_t end = item.start + item.units;
     const bool continues = previous != nullptr && IsShapedWith(*previous, item) &&
                            (stretches.back().end == item.start || stretches.back().start == end);
@@ -49,10 +49,20 @@ std::vector<Stretch> Stretches(std::vector<TextItem>& items) {
   return stretches;
 }
 
+/// What of a font's features is a matter of taste. Those that a script needs stay.
+constexpr std::array kRefinements = {
+    hb_feature_t{HB_TAG('k', 'e', 'r', 'n'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END},
+    hb_feature_t{HB_TAG('l', 'i', 'g', 'a'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END},
+    hb_feature_t{HB_TAG('c', 'l', 'i', 'g'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END},
+};
+
 class LineShaper {
  public:
-  LineShaper(std::u16string_view text, double pen)
-      : text_(text), buffer_(hb_buffer_create()), pen_(pen) {
+  LineShaper(std::u16string_view text, bool isRefined, double pen)
+      : text_(text),
+        switchedOff_(isRefined ? std::span<const hb_feature_t>() : kRefinements),
+        buffer_(hb_buffer_create()),
+        pen_(pen) {
     if (hb_buffer_allocation_successful(buffer_.get()) == 0) throw std::bad_alloc();
   }
 
@@ -60,7 +70,7 @@ class LineShaper {
     const StyledFace& face = stretch.item->face;
     if (face.typeface == nullptr) return;
     Shape(stretch);
-    if (runs_.empty() || runs_.back().face != face) runs_.push_back({face, {}});
+    if (runs_.empty() || runs_.back().face != face) runs_.push_back({face, {}, {}});
     AddGlyphs(stretch);
   }
 
@@ -77,7 +87,8 @@ class LineShaper {
     hb_buffer_add_utf16(buffer, reinterpret_cast<const std::uint16_t*>(text_.data()),
                         static_cast<int>(text_.size()), static_cast<unsigned>(stretch.start),
                         static_cast<int>(stretch.end - stretch.start));
-    hb_shape(stretch.item->face.typeface->Shaper(), buffer, nullptr, 0);
+    hb_shape(stretch.item->face.typeface->Shaper(), buffer, switchedOff_.data(),
+             static_cast<unsigned>(switchedOff_.size()));
   }
 
   void AddGlyphs(const Stretch& stretch) {
@@ -94,6 +105,7 @@ class LineShaper {
         glyph.origin.x = static_cast<CGFloat>(pen_ + positions[i].x_offset / unitsPerEm);
         glyph.origin.y = static_cast<CGFloat>(positions[i].y_offset / unitsPerEm);
         glyph.text = TextOf({infos, count}, i, stretch);
+        runs_.back().moves.push_back({pen_, positions[i].x_advance / unitsPerEm});
       }
       pen_ += positions[i].x_advance / unitsPerEm;
     }
@@ -116,6 +128,7 @@ class LineShaper {
   }
 
   std::u16string_view text_;
+  std::span<const hb_feature_t> switchedOff_;
   HarfBuzzOwned<hb_buffer_t> buffer_;
   double pen_;  // ems
   std::vector<ShapedRun> runs_;
@@ -124,10 +137,10 @@ class LineShaper {
 }  // namespace
 
 std::vector<ShapedRun> ShapeLine(std::u16string_view text, const FontStyle& style,
-                                 bool usesStandIns, double& pen) {
-  std::vector<TextItem> items = ItemizeLine(text, style, usesStandIns);
-  LineShaper shaper(text, pen);
-  for (const Stretch& stretch : Stretches(items))
+                                 const LineSetting& setting, double& pen) {
+  std::vector<LineItem> items = ItemizeLine(text, style, setting.usesStandIns);
+  LineShaper shaper(text, setting.isRefined, pen);
+  for (const Stretch& stretch : Stretches(items, setting.direction))
     shaper.Add(stretch);
   pen = shaper.Pen();
   return shaper.TakeRuns();

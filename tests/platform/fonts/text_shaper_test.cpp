@@ -12,7 +12,7 @@ using testing::ElementsAre;
 
 std::vector<ShapedRun> LineOf(std::u16string_view text, const FontStyle& style) {
   double pen = 0;
-  return ShapeLine(text, style, true, pen);
+  return ShapeLine(text, style, {.usesStandIns = true}, pen);
 }
 
 /// A run in short: the face, then the text of each glyph, from left to right.
@@ -109,8 +109,48 @@ TEST(ShapeLine, GoesOnFromThePen) {
   const FontStyle& style =
       FontRegistry::Shared().Style(test::FontByFullName("Liberation Sans"), false, false, AnyFont);
   double pen = 0.25;
-  EXPECT_EQ(ShapeLine(u"H", style, true, pen).at(0).glyphs.at(0).origin.x, 0.25F);
+  EXPECT_EQ(ShapeLine(u"H", style, {.usesStandIns = true}, pen).at(0).glyphs.at(0).origin.x, 0.25F);
   EXPECT_DOUBLE_EQ(pen, 0.25 + 1479.0 / 2048);
+}
+
+const FontStyle& DejaVuSans() {
+  return FontRegistry::Shared().Style(test::FontByFullName("DejaVu Sans"), false, false, AnyFont);
+}
+
+TEST(ShapeLine, TellsHowThePenMovesAtEachGlyph) {
+  double pen = 0;
+  const auto line = ShapeLine(u"Hi", DejaVuSans(), {}, pen);
+  ASSERT_EQ(line.at(0).moves.size(), 2U);
+  EXPECT_DOUBLE_EQ(line[0].moves[0].from, 0);
+  EXPECT_DOUBLE_EQ(line[0].moves[0].by, 1540.0 / 2048);
+  EXPECT_DOUBLE_EQ(line[0].moves[1].from, line[0].moves[0].by);
+  EXPECT_DOUBLE_EQ(line[0].moves[1].from + line[0].moves[1].by, pen);
+}
+
+TEST(ShapeLine, NeitherJoinsNorKernsLatinThatIsNotRefined) {
+  double refined = 0;
+  ASSERT_EQ(ShapeLine(u"AVfi", DejaVuSans(), {}, refined).at(0).glyphs.size(), 3U);
+  double plain = 0;
+  EXPECT_EQ(ShapeLine(u"AVfi", DejaVuSans(), {.isRefined = false}, plain).at(0).glyphs.size(), 4U);
+  EXPECT_NE(plain, refined);
+}
+
+TEST(ShapeLine, JoinsWhatItsScriptJoinsAlsoWhenItIsNotRefined) {
+  double pen = 0;
+  const auto line = ShapeLine(u"\u0644\u0627", DejaVuSans(), {.isRefined = false}, pen);
+  EXPECT_EQ(line.at(0).glyphs.size(), 1U);
+}
+
+TEST(ShapeLine, ReadsAsItIsToldAsAWhole) {
+  const auto first = [](LineDirection direction) {
+    double pen = 0;
+    const auto line =
+        ShapeLine(u"a \u05D0", DejaVuSans(), {.usesStandIns = true, .direction = direction}, pen);
+    return std::u16string(line.at(0).glyphs.at(0).text);
+  };
+  EXPECT_EQ(first(LineDirection::kByText), u"a");
+  EXPECT_EQ(first(LineDirection::kRightwards), u"a");
+  EXPECT_EQ(first(LineDirection::kLeftwards), u"\u05D0");
 }
 
 TEST(FirstPiece, IsTheWholeOfALineForAPage) {
