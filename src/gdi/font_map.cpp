@@ -1,0 +1,24 @@
+#include "gdi/font_map.h"
+
+namespace kelvane {
+
+std::string FoldFontName(std::string_view name) {
+  std::string folded;
+  for (const char byte : name) {
+    if (byte == ' ') continue;
+    const bool isCapital = byte >= 'A' && byte <= 'Z';
+    folded += isCapital ? static_cast<char>(byte - 'A' + 'a') : byte;
+  }
+  return folded;
+}
+
+void FontMap::Add(std::string_view asked, std::string_view used) {
+  used_.insert_or_assign(FoldFontName(asked), std::string(used));
+}
+
+std::string FontMap::Find(std::string_view asked) const {
+  const auto wish = used_.find(FoldFontName(asked));
+  return wish == used_.end() ? std::string() : wish->second;
+}
+
+}  // namespace kelvane
