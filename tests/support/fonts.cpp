@@ -85,10 +85,15 @@ void OtherFonts::WriteConfiguration() const {
 }
 
 std::string WithLicence(const std::string& path, unsigned bits) {
+  return WithField(path, "OS/2", 8, bits);
+}
+
+std::string WithField(const std::string& path, const std::string& table, std::size_t at,
+                      unsigned value) {
   std::string font = ReadFile(path);
-  const std::size_t field = BigEndian(font, EntryOf(font, "OS/2") + 8, 4) + std::size_t{8};
-  font.at(field) = static_cast<char>(bits >> 8);
-  font.at(field + 1) = static_cast<char>(bits & 0xFF);
+  const std::size_t field = BigEndian(font, EntryOf(font, table) + 8, 4) + at;
+  font.at(field) = static_cast<char>(value >> 8);
+  font.at(field + 1) = static_cast<char>(value & 0xFF);
   return font;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,10 @@ class OtherFonts {
 
 /// @return the font file with the type field of its OS/2 table, its licence bits, replaced.
 std::string WithLicence(const std::string& path, unsigned bits);
+
+/// @return the font file with 16 bits of a table replaced. @param at  bytes from the table's start.
+std::string WithField(const std::string& path, const std::string& table, std::size_t at,
+                      unsigned value);
 
 /// @return the font file with a table under another tag, which must come at the same place in the
 ///         order of tags.

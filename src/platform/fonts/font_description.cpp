@@ -42,6 +42,17 @@ bool IsSerif(const FontTable& os2) {
   return (familyClass >= 1 && familyClass <= 5) || familyClass == 7;
 }
 
+// A table of subtables: platform, encoding and place of each.
+bool HasSymbolCodes(const FontTable& cmap) {
+  constexpr int kWindows = 3;
+  constexpr int kSymbol = 0;
+  const auto count = static_cast<unsigned>(cmap.Unsigned(2));
+  for (unsigned at = 4; at < 4 + 8 * count; at += 8) {
+    if (cmap.Unsigned(at) == kWindows && cmap.Unsigned(at + 2) == kSymbol) return true;
+  }
+  return false;
+}
+
 std::string PostScriptName(hb_face_t* face) {
   std::array<char, 64> name{};
   auto size = static_cast<unsigned>(name.size());
@@ -66,6 +77,7 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   const FontTable head(face, HB_TAG('h', 'e', 'a', 'd'));
   const FontTable hhea(face, HB_TAG('h', 'h', 'e', 'a'));
   const FontTable os2(face, HB_TAG('O', 'S', '/', '2'));
+  const FontTable cmap(face, HB_TAG('c', 'm', 'a', 'p'));
   const FontTable post(face, HB_TAG('p', 'o', 's', 't'));
   const auto metric = [&](hb_ot_metrics_tag_t tag) {
     hb_position_t units = 0;
@@ -82,10 +94,12 @@ std::optional<CGFontDescription> DescribeFace(hb_font_t* font) {
   description.isSerif = IsSerif(os2);
   description.italicAngle = static_cast<float>(post.Signed(4) + post.Unsigned(6) / 65536.0);
   description.isItalic = description.italicAngle != 0 || (head.Unsigned(44) & 2) != 0;
+  description.hasSymbolCodes = HasSymbolCodes(cmap);
   description.ascent = metric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER);
   description.descent = metric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER);
   description.capHeight = metric(HB_OT_METRICS_TAG_CAP_HEIGHT);
   description.weight = os2.Unsigned(4);
+  description.averageWidth = os2.Signed(2);
   description.left = head.Signed(36);
   description.bottom = head.Signed(38);
   description.right = head.Signed(40);

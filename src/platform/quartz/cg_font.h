@@ -45,11 +45,13 @@ struct CGFontDescription {
   bool isFixedPitch = false;
   bool isSerif = false;
   bool isItalic = false;
-  float italicAngle = 0;  // degrees, counter-clockwise from the vertical
-  int ascent = 0;         // as the face prefers to be set
-  int descent = 0;        // below 0 for what hangs below the baseline
-  int capHeight = 0;      // 0 when the face does not say
-  int weight = 0;         // 400 for regular, 700 for bold; 0 when the face does not say
+  bool hasSymbolCodes = false;  // glyphs go by codes of the face's own, from U+F000 on
+  float italicAngle = 0;        // degrees, counter-clockwise from the vertical
+  int ascent = 0;               // as the face prefers to be set
+  int descent = 0;              // below 0 for what hangs below the baseline
+  int capHeight = 0;            // 0 when the face does not say
+  int weight = 0;               // 400 for regular, 700 for bold; 0 when the face does not say
+  int averageWidth = 0;         // of advances, by a rule that changed; 0 when the face does not say
   int left = 0, bottom = 0, right = 0, top = 0;  // of all glyphs laid over each other
 
   // As the face's tables have them; 0 where it lacks the table.

@@ -58,6 +58,29 @@ TEST(FontDescription, TellsTheWeight) {
   EXPECT_EQ(DescriptionOf(test::kLiberationSansBold).weight, 700);
 }
 
+// As a reader of font files of its own has it: xAvgCharWidth of OS/2.
+TEST(FontDescription, TellsTheAverageWidth) {
+  EXPECT_EQ(DescriptionOf(test::kLiberationSans).averageWidth, 1208);
+  EXPECT_EQ(DescriptionOf(test::kLiberationSansBold).averageWidth, 1255);
+  EXPECT_EQ(DescriptionOf(test::kJunction).averageWidth, 561);
+}
+
+TEST(FontDescription, HasNoAverageWidthWithoutTheTable) {
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font.ttf",
+                  test::WithTableRenamed(test::kLiberationSans, "OS/2", "OS/3"));
+  EXPECT_EQ(DescriptionOf((folder / "font.ttf").c_str()).averageWidth, 0);
+}
+
+TEST(FontDescription, TellsAFaceOfSymbols) {
+  constexpr std::size_t kEncodingOfThirdSubtable = 4 + 2 * 8 + 2;  // which is Windows' Unicode one
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font.ttf",
+                  test::WithField(test::kLiberationSans, "cmap", kEncodingOfThirdSubtable, 0));
+  EXPECT_TRUE(DescriptionOf((folder / "font.ttf").c_str()).hasSymbolCodes);
+  EXPECT_FALSE(DescriptionOf(test::kLiberationSans).hasSymbolCodes);
+}
+
 struct MetricsCase {
   const char* path;
   CGFontExtent header;
