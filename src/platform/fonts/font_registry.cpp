@@ -72,6 +72,15 @@ FontID FontRegistry::FindByFamily(const std::string& name) {
   return FindOnce(families_, name, [&] { return RegularFace(name); });
 }
 
+FontID FontRegistry::FindInstalled(const std::string& name) {
+  const std::scoped_lock lock(mutex_);
+  SeeChanges();
+  return FindOnce(installed_, name, [&] {
+    const auto face = Closest(Catalog().FacesOfFamily(name), InstalledFace{}, AnyFont);
+    return face ? face : Closest(Catalog().FacesOfFullName(name), InstalledFace{}, AnyFont);
+  });
+}
+
 void FontRegistry::SeeChanges() {
   if (catalog_ == nullptr) return;
   const auto now = clock_();
@@ -89,6 +98,7 @@ void FontRegistry::SeeChanges() {
 void FontRegistry::Forget() noexcept {
   fullNames_.clear();
   families_.clear();
+  installed_.clear();
   defaultFonts_.clear();
   for (auto& [id, font] : fonts_) {
     font.family.reset();
@@ -211,7 +221,9 @@ const FontStyle& FontRegistry::MakeStyle(Font& font, Wish wish) {
     wish.face.family = face->family;
   }
   const StyledFace styled = Styled(Open(*face), *face, wish.isBold, wish.isItalic);
-  styles_.push_back({FontStyle(*this, styles_.size(), styled), std::move(wish)});
+  std::string family = face->path.empty() ? kDefaultFamily : face->family;
+  FontStyle style(*this, styles_.size(), styled, std::move(family));
+  styles_.push_back({std::move(style), std::move(wish)});
   return styles_.back().style;
 }
 

@@ -38,10 +38,13 @@ struct StyledFace {
 /// A font in one style, for one kind of output. Belongs to its registry.
 class FontStyle {
  public:
-  FontStyle(FontRegistry& registry, std::size_t number, const StyledFace& face)
-      : registry_(registry), number_(number), face_(face) {}
+  FontStyle(FontRegistry& registry, std::size_t number, const StyledFace& face, std::string family)
+      : registry_(registry), number_(number), face_(face), family_(std::move(family)) {}
 
   [[nodiscard]] const StyledFace& Face() const { return face_; }
+
+  /// @return the name of the face's family, UTF-8.
+  [[nodiscard]] const std::string& Family() const { return family_; }
 
   /// @return what a character that the face does not have is drawn from; nothing when no face of
   ///         the registry has it that the output can show.
@@ -51,6 +54,7 @@ class FontStyle {
   FontRegistry& registry_;
   std::size_t number_;  // among the registry's styles
   StyledFace face_;
+  std::string family_;
 };
 
 /// Fonts, each of which is looked up, opened and read once, for all threads. The catalogue is not
@@ -82,6 +86,11 @@ class FontRegistry {
   /// @return the regular face of the family, or else of one that stands for it; kNoFont when there
   ///         is none.
   FontID FindByFamily(const std::string& name);
+
+  /// @param name  UTF-8.
+  /// @return the regular face of the family, or else the face of the full name; kNoFont when
+  ///         neither is there itself, whatever may stand for it.
+  FontID FindInstalled(const std::string& name);
 
   /// @param filter  refuses the faces that the output cannot show.
   /// @return the font's face, or the one of its family that comes closest to bold or italic. Where
@@ -160,6 +169,7 @@ class FontRegistry {
   std::map<FaceKey, FontID> ids_;
   Names fullNames_;
   Names families_;
+  Names installed_;
   std::deque<KnownStyle> styles_;
   std::size_t standInCount_ = 0;  // remembered in all styles
 };

@@ -141,6 +141,38 @@ TEST(FontRegistry, FindsAStandInAgainAfterItForgotMany) {
   EXPECT_EQ(after->typeface, before->typeface);
 }
 
+TEST(FontRegistry, TellsWhatIsInstalledFromWhatHasAStandIn) {
+  FontRegistry registry;
+  EXPECT_NE(registry.FindByFamily("Arial"), kNoFont);
+  EXPECT_EQ(registry.FindInstalled("Arial"), kNoFont);
+  EXPECT_EQ(registry.FindInstalled("Liberation Sans"), registry.FindByFamily("Liberation Sans"));
+  EXPECT_EQ(registry.FindInstalled(""), kNoFont);
+}
+
+TEST(FontRegistry, FindsWhatIsInstalledByItsFullName) {
+  FontRegistry registry;
+  const FontID bold = registry.FindInstalled("Liberation Sans Bold");
+  EXPECT_EQ(NameOf(registry, bold), "LiberationSans-Bold");
+}
+
+TEST(FontRegistry, FindsWhatWasInstalledMeanwhile) {
+  test::OtherFonts fonts({test::kDejaVuSans});
+  std::chrono::steady_clock::time_point now;
+  FontRegistry registry(OpenInstalledFonts, [&now] { return now; });
+  EXPECT_EQ(registry.FindInstalled("Junction"), kNoFont);
+  fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
+  now += FontRegistry::kCheckInterval;
+  EXPECT_NE(registry.FindInstalled("Junction"), kNoFont);
+}
+
+TEST(FontRegistry, NamesTheFamilyOfAStyle) {
+  FontRegistry registry;
+  const FontID arial = registry.FindByFamily("Arial");
+  EXPECT_EQ(registry.Style(arial, true, false, AnyFont).Family(), "Liberation Sans");
+  FontRegistry empty = RegistryOf({});
+  EXPECT_EQ(empty.Style(kDefaultFont, false, false, AnyFont).Family(), "Helvetica");
+}
+
 TEST(FontRegistry, GivesEqualNamesOneFont) {
   FontRegistry registry;
   EXPECT_EQ(registry.FindByFamily("Arial"), registry.FindByFullName("Liberation Sans"));
