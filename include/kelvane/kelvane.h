@@ -120,7 +120,8 @@ KELVANE_EXPORT const void* kelvane_result_data(const kelvane_result* result, siz
 /*
  * Returns the report, borrowed from the result: a JSON object on one line, zero-terminated, UTF-8.
  * "left_out", "only_nearly" and "damaged" list what the page lacks, "remarks" what else there is to
- * say; with them are the page's size in points, the number of records and the time taken.
+ * say, "fonts" the fonts "asked" for and "used"; with them are the page's size in points, the
+ * number of records and the time taken.
  * result: not NULL.
  */
 KELVANE_EXPORT const char* kelvane_result_report(const kelvane_result* result);

@@ -43,6 +43,20 @@ void AddRemarks(const Report& report, JsonWriter& json) {
   json.EndArray();
 }
 
+void AddFonts(const Report& report, JsonWriter& json) {
+  json.Key("fonts");
+  json.BeginArray();
+  for (const FontUse& use : report.Fonts()) {
+    json.BeginObject();
+    json.Key("asked");
+    json.Text(use.asked);
+    json.Key("used");
+    json.Text(use.used);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
 void AddPage(const CGSize& size, JsonWriter& json) {
   json.Key("page");
   json.BeginObject();
@@ -63,6 +77,7 @@ void AddDocument(const PictureConversion& conversion, JsonWriter& json) {
   AddRecordsThat(Omission::kOnlyNearly, "only_nearly", conversion.report, json);
   AddRecordsThat(Omission::kDamaged, "damaged", conversion.report, json);
   AddRemarks(conversion.report, json);
+  AddFonts(conversion.report, json);
 }
 
 }  // namespace

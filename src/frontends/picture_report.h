@@ -6,8 +6,7 @@
 
 namespace kelvane {
 
-/// @return what came of a picture as a JSON object on one line, in UTF-8. Fonts are not in it: no
-///         text is drawn yet.
+/// @return what came of a picture as a JSON object on one line, in UTF-8.
 std::string ReportAsJson(const PictureConversion& conversion);
 
 }  // namespace kelvane

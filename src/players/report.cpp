@@ -19,6 +19,12 @@ void Report::Remark(std::string_view words) {
   if (std::ranges::find(remarks_, words) == remarks_.end()) remarks_.emplace_back(words);
 }
 
+void Report::UsedFonts(const std::vector<FontUse>& uses) {
+  for (const FontUse& use : uses) {
+    if (knownFonts_.insert(use).second) fonts_.push_back(use);
+  }
+}
+
 std::vector<ReportedRecords> Report::Records() const {
   std::vector<ReportedRecords> records;
   records.reserve(counts_.size());

@@ -2,10 +2,13 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <vector>
+
+#include "gdi/font_use.h"
 
 namespace kelvane {
 
@@ -36,9 +39,15 @@ class Report {
   /// Says something about the file as a whole, once however often it is said.
   void Remark(std::string_view words);
 
+  /// Adds what became of names of fonts, each pair of names once. None of it is an omission.
+  void UsedFonts(const std::vector<FontUse>& uses);
+
   /// @return all of them, in the order of kind, type and reason.
   [[nodiscard]] std::vector<ReportedRecords> Records() const;
   [[nodiscard]] const std::vector<std::string>& Remarks() const { return remarks_; }
+
+  /// @return those that were used, in the order of their first use.
+  [[nodiscard]] const std::vector<FontUse>& Fonts() const { return fonts_; }
 
   /// True when the page shows all that Windows would, if only nearly.
   [[nodiscard]] bool IsWhole() const;
@@ -58,6 +67,8 @@ class Report {
 
   std::map<Key, std::size_t, Before> counts_;
   std::vector<std::string> remarks_;
+  std::vector<FontUse> fonts_;
+  std::set<FontUse> knownFonts_;  // the same, to be found
 };
 
 }  // namespace kelvane

@@ -24,7 +24,7 @@ PictureConversion Converted() {
 TEST(PictureReport, IsAnObjectOnOneLine) {
   EXPECT_EQ(ReportAsJson(Converted()),
             R"({"status":0,"format":"pdf","page":{"width":595.276,"height":100},"records":12,)"
-            R"("left_out":[],"only_nearly":[],"damaged":[],"remarks":[],)"
+            R"("left_out":[],"only_nearly":[],"damaged":[],"remarks":[],"fonts":[],)"
             R"("bytes":3456,"milliseconds":1.235})");
 }
 
@@ -55,6 +55,14 @@ TEST(PictureReport, ListsRemarks) {
   conversion.report.Remark("a \"b\"");
   EXPECT_EQ(nlohmann::ordered_json::parse(ReportAsJson(conversion))["remarks"].dump(),
             R"(["a \"b\""])");
+}
+
+TEST(PictureReport, ListsFontsThatWereAskedForAndUsed) {
+  PictureConversion conversion = Converted();
+  conversion.report.UsedFonts({{"Arial", "Liberation Sans"}, {"\u660E\u671D", "\"Mincho\""}});
+  EXPECT_EQ(nlohmann::ordered_json::parse(ReportAsJson(conversion))["fonts"].dump(),
+            R"([{"asked":"Arial","used":"Liberation Sans"},)"
+            "{\"asked\":\"\u660E\u671D\",\"used\":\"\\\"Mincho\\\"\"}]");
 }
 
 TEST(PictureReport, SaysOfAFailureOnlyWhatIsKnown) {

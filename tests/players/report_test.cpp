@@ -44,6 +44,22 @@ TEST(Report, IsWholeUntilSomethingIsMissingOrDamaged) {
   EXPECT_FALSE(damaged.IsWhole());
 }
 
+TEST(Report, IsWholeWhateverFontIsUsed) {
+  Report report;
+  report.UsedFonts({{"Arial", "DejaVu Sans"}});
+  EXPECT_TRUE(report.IsWhole());
+}
+
+TEST(Report, NamesFontsOnceInTheOrderOfTheirFirstUse) {
+  const FontUse times = {"Times New Roman", "Liberation Serif"};
+  const FontUse arial = {"Arial", "Liberation Sans"};
+  const FontUse otherArial = {"Arial", "DejaVu Sans"};
+  Report report;
+  report.UsedFonts({times, arial, times});
+  report.UsedFonts({arial, otherArial});
+  EXPECT_EQ(report.Fonts(), (std::vector<FontUse>{times, arial, otherArial}));
+}
+
 TEST(Report, SaysEachRemarkOnce) {
   Report report;
   report.Remark("the frame is empty");

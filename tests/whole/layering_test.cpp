@@ -1,6 +1,6 @@
 // Includes point one way. A folder may include itself and what stands below it:
 //
-//     frontends > players > metafile, quartz
+//     frontends > players > gdi
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
 //     frontends/inspection > metafile
@@ -43,8 +43,8 @@ const Arrows& Floors() {
       {"platform/trace", {"platform/quartz"}},
       {"platform/appkit", {"platform/corefoundation"}},
       {"gdi", {"metafile", "platform/quartz"}},
-      {"players", {"platform/quartz"}},
-      {"players/emf", {"players", "metafile/emf", "gdi"}},
+      {"players", {"gdi"}},
+      {"players/emf", {"players", "metafile/emf"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},
       {"classic/context", {"classic/playable"}},
