@@ -15,7 +15,7 @@ inline constexpr int kUpright = 0;
 inline constexpr int kItalic = 100;
 inline constexpr int kNormalWidth = 100;
 
-/// A face that is installed, a regular one unless something else is said.
+/// A face that there is, a regular one that is installed unless something else is said.
 struct InstalledFace {
   std::string path;
   unsigned index = 0;  // the member of a collection
@@ -23,6 +23,7 @@ struct InstalledFace {
   int weight = kRegularWeight;
   int slant = kUpright;
   int width = kNormalWidth;
+  bool isPreferred = false;  // before one that is as close, of the same family
 };
 
 /// Faces in an order, with what each can show.

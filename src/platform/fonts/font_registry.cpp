@@ -52,7 +52,7 @@ FontRegistry& FontRegistry::Shared() {
   return *kShared;
 }
 
-FontRegistry::FontRegistry() : FontRegistry(OpenInstalledFonts) {}
+FontRegistry::FontRegistry() : FontRegistry([] { return OpenInstalledFonts(); }) {}
 
 FontRegistry::FontRegistry(CatalogOpener openCatalog)
     : FontRegistry(std::move(openCatalog), CoarseTime) {}
@@ -153,7 +153,7 @@ std::optional<InstalledFace> FontRegistry::Closest(std::vector<InstalledFace> fa
                                                    const InstalledFace& wanted,
                                                    CGFontFilter filter) {
   std::ranges::sort(faces, {}, [&](const InstalledFace& face) {
-    return std::tuple(Distance(face, wanted), face.path, face.index);
+    return std::tuple(Distance(face, wanted), !face.isPreferred, face.path, face.index);
   });
   const auto closest = std::ranges::find_if(
       faces, [&](const auto& face) { return OpenShown(face, filter) != nullptr; });

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <filesystem>
+#include <map>
 #include <new>
+#include <set>
+#include <tuple>
 #include <utility>
 
 #include <fontconfig/fontconfig.h>
@@ -115,24 +119,51 @@ Pattern NewPattern() {
   return pattern;
 }
 
+/// Font files by their paths.
+using Files = std::set<std::string>;
+
 class FontconfigFaces final : public FaceSet {
  public:
-  /// @param set  may be null; faces that cannot be read are left out. @param covered  all that the
-  ///             faces show together; may be null.
-  explicit FontconfigFaces(FontSet set, std::shared_ptr<const Characters> covered = nullptr)
+  /// @param set  may be null; faces that cannot be read are left out. @param preferred  those of
+  ///             the faces to be preferred. @param covered  all that the faces show together; may
+  ///             be null.
+  FontconfigFaces(FontSet set, const Files& preferred,
+                  std::shared_ptr<const Characters> covered = nullptr)
       : set_(std::move(set)), covered_(std::move(covered)) {
     // What is asked of every face for each character is looked up once: looking up a property takes
     // longer than the question.
     for (int i = 0; set_ && i < set_->nfont; ++i) {
       const FcPattern* const pattern = set_->fonts[i];
-      if (IsReadable(pattern)) faces_.push_back({pattern, CharacterSetOf(pattern)});
+      if (!IsReadable(pattern)) continue;
+      const bool isPreferred = !preferred.empty() && preferred.contains(StringOf(pattern, FC_FILE));
+      faces_.push_back({pattern, CharacterSetOf(pattern), isPreferred});
+    }
+  }
+
+  /// Has the preferred faces change places with others of their family and style that came before
+  /// them.
+  void PutPreferredFirst() {
+    std::map<std::tuple<std::string, int, int, int>, std::vector<std::size_t>> alike;
+    for (std::size_t i = 0; i < faces_.size(); ++i) {
+      const InstalledFace face = At(i);
+      alike[{face.family, face.weight, face.slant, face.width}].push_back(i);
+    }
+    for (const auto& [style, places] : alike) {
+      std::vector<Face> faces;
+      for (const std::size_t place : places)
+        faces.push_back(faces_[place]);
+      std::ranges::stable_partition(faces, &Face::isPreferred);
+      for (std::size_t i = 0; i < places.size(); ++i)
+        faces_[places[i]] = faces[i];
     }
   }
 
   [[nodiscard]] std::size_t Size() const override { return faces_.size(); }
 
   [[nodiscard]] InstalledFace At(std::size_t index) const override {
-    return FaceOf(faces_[index].pattern);
+    InstalledFace face = FaceOf(faces_[index].pattern);
+    face.isPreferred = faces_[index].isPreferred;
+    return face;
   }
 
   [[nodiscard]] bool Covers(std::size_t index, char32_t character) const override {
@@ -149,6 +180,7 @@ class FontconfigFaces final : public FaceSet {
   struct Face {
     const FcPattern* pattern;
     const FcCharSet* characters;
+    bool isPreferred;
   };
 
   FontSet set_;
@@ -194,12 +226,40 @@ std::vector<WatchedPath> PathsBehind(FcConfig* config) {
   return paths;
 }
 
+// Fontconfig does not tell of the folders below one that was added. Links are not followed: they
+// may lead round in a circle.
+void WatchTree(std::vector<WatchedPath>& paths, const std::string& directory) {
+  namespace fs = std::filesystem;
+  paths.push_back({directory, LastChange(directory.c_str())});
+  std::error_code error;
+  for (fs::recursive_directory_iterator entry(directory,
+                                              fs::directory_options::skip_permission_denied, error);
+       entry != fs::recursive_directory_iterator(); entry.increment(error)) {
+    if (entry->is_directory(error) && !entry->is_symlink(error)) {
+      paths.push_back({entry->path(), LastChange(entry->path().c_str())});
+    }
+  }
+}
+
+/// @return the files of the fonts that were added to those that are installed.
+Files AddedFiles(FcConfig* config) {
+  Files files;
+  const FcFontSet* const added = FcConfigGetFonts(config, FcSetApplication);
+  for (int i = 0; added != nullptr && i < added->nfont; ++i)
+    files.insert(StringOf(added->fonts[i], FC_FILE));
+  return files;
+}
+
 class FontconfigCatalog final : public FontCatalog {
  public:
   /// @param config  null when not even a fallback could be made; then there are no fonts.
   /// @param watched  what tells by a change that the fonts are others.
-  explicit FontconfigCatalog(Config config, std::vector<WatchedPath> watched)
-      : config_(std::move(config)), watched_(std::move(watched)) {}
+  /// @param preferred  the files whose faces are preferred.
+  explicit FontconfigCatalog(Config config, std::vector<WatchedPath> watched = {},
+                             Files preferred = {})
+      : config_(std::move(config)),
+        watched_(std::move(watched)),
+        preferred_(std::move(preferred)) {}
 
   [[nodiscard]] std::vector<InstalledFace> FacesOfFamily(const std::string& family) const override {
     return FacesWith(FC_FAMILY, family);
@@ -223,6 +283,7 @@ class FontconfigCatalog final : public FontCatalog {
 
   Config config_;
   std::vector<WatchedPath> watched_;
+  Files preferred_;
   std::shared_ptr<const Characters> covered_;  // by all faces together; null until it is asked
 };
 
@@ -234,7 +295,8 @@ std::vector<InstalledFace> FontconfigCatalog::FacesWith(const char* property,
   const std::unique_ptr<FcObjectSet, ObjectSetDestroyer> objects(
       FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_WEIGHT, FC_SLANT, FC_WIDTH, FC_FONTFORMAT,
                        FC_VARIABLE, nullptr));
-  const FontconfigFaces found(FontSet(FcFontList(config_.get(), pattern.get(), objects.get())));
+  const FontconfigFaces found(FontSet(FcFontList(config_.get(), pattern.get(), objects.get())),
+                              preferred_);
   std::vector<InstalledFace> faces;
   for (std::size_t i = 0; i < found.Size(); ++i)
     faces.push_back(found.At(i));
@@ -261,7 +323,7 @@ std::vector<std::string> FontconfigCatalog::Equivalents(const std::string& famil
 
 std::unique_ptr<const FaceSet> FontconfigCatalog::StandIns(const std::string& family, int weight,
                                                            int slant) {
-  if (!config_) return std::make_unique<FontconfigFaces>(nullptr);
+  if (!config_) return std::make_unique<FontconfigFaces>(nullptr, preferred_);
   const Pattern pattern = NewPattern();
   FcPatternAddString(pattern.get(), FC_FAMILY, Text(family));
   FcPatternAddInteger(pattern.get(), FC_WEIGHT, weight);
@@ -276,16 +338,24 @@ std::unique_ptr<const FaceSet> FontconfigCatalog::StandIns(const std::string& fa
   const std::unique_ptr<FcCharSet, CharacterSetDestroyer> owned(covered);
   // Whatever the order, the faces are all there are.
   if (covered_ == nullptr && covered != nullptr) covered_ = CharactersOf(*covered);
-  return std::make_unique<FontconfigFaces>(std::move(set), covered_);
+  auto faces = std::make_unique<FontconfigFaces>(std::move(set), preferred_, covered_);
+  if (!preferred_.empty()) faces->PutPreferredFirst();
+  return faces;
 }
 
 }  // namespace
 
-std::unique_ptr<FontCatalog> OpenInstalledFonts() {
+std::unique_ptr<FontCatalog> OpenInstalledFonts(const std::vector<std::string>& directories) {
   Config config(FcInitLoadConfigAndFonts());
-  std::vector<WatchedPath> watched;
-  if (config) watched = PathsBehind(config.get());
-  return std::make_unique<FontconfigCatalog>(std::move(config), std::move(watched));
+  if (!config) return std::make_unique<FontconfigCatalog>(nullptr);
+  std::vector<WatchedPath> watched = PathsBehind(config.get());
+  for (const std::string& directory : directories) {
+    WatchTree(watched, directory);
+    FcConfigAppFontAddDir(config.get(), Text(directory));
+  }
+  Files added = AddedFiles(config.get());
+  return std::make_unique<FontconfigCatalog>(std::move(config), std::move(watched),
+                                             std::move(added));
 }
 
 std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files) {
@@ -293,7 +363,7 @@ std::unique_ptr<FontCatalog> OpenFontFiles(const std::vector<std::string>& files
   if (!config) throw std::bad_alloc();
   for (const std::string& file : files)
     FcConfigAppFontAddFile(config.get(), Text(file));
-  return std::make_unique<FontconfigCatalog>(std::move(config), std::vector<WatchedPath>());
+  return std::make_unique<FontconfigCatalog>(std::move(config));
 }
 
 }  // namespace kelvane

@@ -190,7 +190,7 @@ class AFontRegistryAfterAWhile : public testing::Test {
   void LetTimePass() { now_ += FontRegistry::kCheckInterval; }
 
   test::OtherFonts fonts{{test::kLiberationSans}};
-  FontRegistry registry{OpenInstalledFonts, [this] { return now_; }};
+  FontRegistry registry{[] { return OpenInstalledFonts(); }, [this] { return now_; }};
 
  private:
   std::chrono::steady_clock::time_point now_;
