@@ -4,7 +4,7 @@
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
 //     frontends/inspection > metafile
-//     gdi > metafile, quartz
+//     gdi > metafile, fonts
 //
 // and within the classic conversion
 //
@@ -42,7 +42,7 @@ const Arrows& Floors() {
       {"platform/pdf", {"platform/quartz"}},
       {"platform/trace", {"platform/quartz"}},
       {"platform/appkit", {"platform/corefoundation"}},
-      {"gdi", {"metafile", "platform/quartz"}},
+      {"gdi", {"metafile", "platform/fonts"}},
       {"players", {"gdi"}},
       {"players/emf", {"players", "metafile/emf"}},
       {"classic/reader", {"platform/quartz"}},
