@@ -63,8 +63,9 @@ typedef struct kelvane_result kelvane_result;
 
 /*
  * The options that there are, by an index from 0: the name, the values it can have ("frame|bounds",
- * or "1..14400" for a number), the one it has unless it is set (empty when the picture decides),
- * and a line of help. The texts live as long as the process. Each returns NULL past the last one.
+ * "1..14400" for a number, "DIR" or "FILE" for a path), the one it has unless it is set (empty when
+ * there is none, or the picture decides), and a line of help. The texts live as long as the
+ * process. Each returns NULL past the last one.
  */
 KELVANE_EXPORT const char* kelvane_option_name(size_t index);
 KELVANE_EXPORT const char* kelvane_option_values(size_t index);
@@ -81,7 +82,8 @@ KELVANE_EXPORT kelvane_options* kelvane_options_new(void);
 KELVANE_EXPORT void kelvane_options_free(kelvane_options* options);
 
 /*
- * Sets an option.
+ * Sets an option. One whose values are "DIR" can be set several times, and each adds a directory;
+ * any other has its last value. A file is read at once, and not looked at again.
  * options: not NULL. name, value: zero-terminated, not NULL; copied.
  * Returns KELVANE_DONE, KELVANE_REFUSED, and KELVANE_NO_DOCUMENT when memory runs out. Unless it is
  * KELVANE_DONE the options are as they were.

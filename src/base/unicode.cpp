@@ -30,6 +30,8 @@ std::size_t SequenceLength(unsigned char lead) {
   return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
 }
 
+}  // namespace
+
 bool IsUTF8(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t length = SequenceLength(static_cast<unsigned char>(bytes.front()));
@@ -41,8 +43,6 @@ bool IsUTF8(std::string_view bytes) {
   }
   return true;
 }
-
-}  // namespace
 
 std::string ToUTF8(std::string_view bytes) {
   if (IsUTF8(bytes)) return std::string(bytes);

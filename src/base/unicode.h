@@ -32,6 +32,8 @@ constexpr DecodedCharacter DecodeUTF16(std::u16string_view text, std::size_t at)
 /// @return the text as UTF-8; an unpaired surrogate becomes U+FFFD.
 std::string ToUTF8(std::u16string_view text);
 
+bool IsUTF8(std::string_view bytes);
+
 /// @return the bytes as UTF-8: as they are when they are that, or else taken for Latin-1.
 std::string ToUTF8(std::string_view bytes);
 

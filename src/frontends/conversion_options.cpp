@@ -2,15 +2,21 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <iterator>
 #include <optional>
+#include <stdexcept>
 #include <system_error>
 #include <vector>
+
+#include "frontends/font_map_file.h"
 
 namespace kelvane {
 namespace {
 
 constexpr std::string_view kTo = "..";  // between the least and the most that a number may be
+constexpr std::string_view kDirectory = "DIR";
+constexpr std::string_view kFile = "FILE";
 
 /// @return the number that all of the text is; not-a-number and infinity count as none.
 std::optional<double> NumberIn(std::string_view text) {
@@ -40,7 +46,14 @@ bool IsAmong(std::string_view value, std::string_view values) {
   return std::ranges::find(choices, value) != choices.end();
 }
 
+bool IsDirectory(std::string_view path) {
+  std::error_code error;
+  return std::filesystem::is_directory(path, error);
+}
+
 bool Allows(std::string_view values, std::string_view value) {
+  if (values == kDirectory) return IsDirectory(value);
+  if (values == kFile) return true;  // reading it tells
   const std::size_t to = values.find(kTo);
   if (to == std::string_view::npos) return IsAmong(value, values);
   const auto number = NumberIn(value);
@@ -60,6 +73,7 @@ std::string Enumeration(const std::vector<std::string_view>& names, std::string_
 
 /// What may be given, to follow "it is ".
 std::string InWords(std::string_view values) {
+  if (values == kDirectory) return "a directory that exists";
   const std::size_t to = values.find(kTo);
   if (to == std::string_view::npos) return Enumeration(Choices(values), "or");
   return std::string("a number from ")
@@ -75,10 +89,10 @@ std::string Unknown(std::string_view name) {
   return "there is no option '" + std::string(name) + "': there are " + Enumeration(names, "and");
 }
 
-std::string Refusal(const ConversionOption& option, std::string_view value) {
+std::string Refusal(const ConversionOption& option, std::string_view value,
+                    const std::string& why) {
   const char* const yet = IsAmong(value, option.coming) ? " yet" : "";
-  return std::string(option.name) + " cannot be '" + std::string(value) + "'" + yet + ": it is " +
-         InWords(option.values);
+  return std::string(option.name) + " cannot be '" + std::string(value) + "'" + yet + ": " + why;
 }
 
 // Readers of PDF show pages of up to 14400 points a side, 200 inches.
@@ -102,6 +116,20 @@ constexpr ConversionOption kOptions[] = {
      [](ConversionOptions& options, std::string_view value) {
        options.size.scale = Number(value);
      }},
+    {"font-dir", kDirectory.data(), "",
+     "looks for fonts there and below before the installed ones; may be given several times", "",
+     [](ConversionOptions& options, std::string_view value) {
+       // What it means must not depend on where the process is later.
+       options.fontDirectories.push_back(std::filesystem::canonical(value));
+     }},
+    {"font-map", kFile.data(), "", "fonts to be used for others: a line each, asked = used", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.fontMap = ReadFontMap(std::string(value));
+     }},
+    {"outline-text", "no|yes", "no", "draws text as shapes, which cannot be searched or copied", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.outlinesText = value == "yes";
+     }},
     {"strict", "no|yes", "no", "fails when anything is left out of the picture", "",
      [](ConversionOptions& options, std::string_view value) { options.strict = value == "yes"; }},
 };
@@ -115,8 +143,14 @@ std::span<const ConversionOption> ListedOptions() {
 std::string SetOption(ConversionOptions& options, std::string_view name, std::string_view value) {
   const auto* const option = std::ranges::find(kOptions, name, &ConversionOption::name);
   if (option == std::end(kOptions)) return Unknown(name);
-  if (!Allows(option->values, value)) return Refusal(*option, value);
-  option->store(options, value);
+  if (!Allows(option->values, value)) {
+    return Refusal(*option, value, "it is " + InWords(option->values));
+  }
+  try {
+    option->store(options, value);
+  } catch (const std::runtime_error& error) {
+    return Refusal(*option, value, error.what());
+  }
   return {};
 }
 

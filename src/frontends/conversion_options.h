@@ -3,7 +3,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "gdi/font_map.h"
 #include "players/page_placement.h"
 
 namespace kelvane {
@@ -13,24 +15,30 @@ struct ConversionOptions {
   std::string_view format = "pdf";  // of the document; outlives everything
   PageChoice page = PageChoice::kFrame;
   PageSizeWish size;
-  bool strict = false;  // whether a document that lacks something counts as a failure
+  std::vector<std::string> fontDirectories;  // absolute paths, looked into before installed fonts
+  FontMap fontMap;
+  bool outlinesText = false;  // whether text becomes shapes
+  bool strict = false;        // whether a document that lacks something counts as a failure
 };
 
 /// An option as the C interface lists it. The tool, its manual page and its completion follow the
 /// same list. The texts live as long as the process.
 struct ConversionOption {
   const char* name;
-  const char* values;    // "frame|bounds", or "1..14400" for a number
-  const char* standard;  // the value unless another is set; empty when the picture decides
+  const char* values;    // "frame|bounds", "1..14400" for a number, or "DIR" or "FILE" for a path
+  const char* standard;  // the value unless another is set; empty when the picture decides or none
   const char* help;      // words that fit on a line
   const char* coming;    // values that are refused as not there yet
-  void (*store)(ConversionOptions& options, std::string_view value);  // one that is allowed
+
+  /// @param value  one that is allowed. Throws std::runtime_error when what it names is refused.
+  void (*store)(ConversionOptions& options, std::string_view value);
 };
 
 /// @return all there are.
 std::span<const ConversionOption> ListedOptions();
 
-/// Sets an option by its name.
+/// Sets an option by its name; one of directories gets another, which must be there. Files are read
+/// at once.
 /// @return why it is refused, in words that name the option, the value and what is allowed; empty
 ///         when it is set. A refusal leaves the options as they were.
 std::string SetOption(ConversionOptions& options, std::string_view name, std::string_view value);

@@ -7,10 +7,12 @@
 #include <optional>
 #include <stdexcept>
 
+#include "platform/fonts/font_registries.h"
 #include "platform/pdf/cg_pdf_context.h"
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_consumer.h"
 #include "players/emf/emf_player.h"
+#include "players/text_setting.h"
 
 namespace kelvane {
 namespace {
@@ -85,7 +87,8 @@ PagePlacement PageOf(Bytes file, const EmfHeader& header, const ConversionOption
 /// Plays the records onto a page and writes that as a document. @return how many records there
 /// were.
 std::size_t WriteDocument(Bytes file, const EmfHeader& header, const PagePlacement& page,
-                          CFMutableDataRef output, Report& report) {
+                          [[maybe_unused]] const TextSetting& text, CFMutableDataRef output,
+                          Report& report) {
   CFDictionary information;
   information.texts = {{kCGPDFContextTitle, Text(header.title)},
                        {kCGPDFContextCreator, Text(header.creator)}};
@@ -124,9 +127,11 @@ void Convert(Bytes file, const ConversionOptions& options, PictureConversion& co
   const auto header = ReadEmfHeader(file);
   if (!header) return Fail(conversion, ConversionStatus::kNoPicture, WhyNone(file));
   const PagePlacement page = PageOf(file, *header, options, conversion.report);
+  const TextSetting text = {FontRegistries::Shared().For(options.fontDirectories), options.fontMap,
+                            options.outlinesText};
   conversion.document.reset(CFDataCreateMutable(kCFAllocatorDefault, 0));
   conversion.records =
-      WriteDocument(file, *header, page, conversion.document.get(), conversion.report);
+      WriteDocument(file, *header, page, text, conversion.document.get(), conversion.report);
   conversion.format = options.format;
   conversion.pageSize = page.size;
   if (options.strict && !conversion.report.IsWhole()) {

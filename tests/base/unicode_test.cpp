@@ -23,6 +23,15 @@ TEST(DecodeUTF16, LeavesHalvesInTheWrongOrderAlone) {
   EXPECT_EQ(DecodeUTF16(u"\xDD38\xD835", 0).units, 1U);
 }
 
+TEST(IsUTF8, GoesByTheFormOfSequences) {
+  EXPECT_TRUE(IsUTF8(""));
+  EXPECT_TRUE(IsUTF8("A\u00FC\u6F22\U0001D538"));
+  EXPECT_FALSE(IsUTF8("f\xFCnf"));   // no lead byte of four
+  EXPECT_FALSE(IsUTF8("a\x80"));     // a tail without a lead
+  EXPECT_FALSE(IsUTF8("\xC1\x81"));  // an ASCII letter in two bytes
+  EXPECT_FALSE(IsUTF8("\xE6\xBC"));  // ends early
+}
+
 TEST(ToUTF8, WritesOneToFourBytes) {
   EXPECT_EQ(ToUTF8(u"A\u00FC\u6F22\U0001D538"), "A\u00FC\u6F22\U0001D538");
 }

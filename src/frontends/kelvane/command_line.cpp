@@ -25,6 +25,7 @@ constexpr const char* kFooter =
     "  4  an output cannot be written";
 
 constexpr std::string_view kAnswers = "no|yes";  // the values of an option that is a flag here
+constexpr std::string_view kDirectory = "DIR";   // and of one that may be given several times
 
 std::string NamesOf(std::string_view option) {
   return (option == "format" ? "-f,--" : "--") + std::string(option);
@@ -47,11 +48,15 @@ void AddConversionOptions(CLI::App& app, CommandLine& line) {
           kelvane_option_help(i));
       continue;
     }
-    app.add_option_function<std::string>(
-           NamesOf(name),
-           [&line, name](const std::string& value) { line.options.emplace_back(name, value); },
-           HelpOf(i))
-        ->option_text(values);
+    CLI::Option* const option = app.add_option_function<std::vector<std::string>>(
+        NamesOf(name),
+        [&line, name](const std::vector<std::string>& given) {
+          for (const std::string& value : given)
+            line.options.emplace_back(name, value);
+        },
+        HelpOf(i));
+    option->option_text(values)->allow_extra_args(false);
+    if (values != kDirectory) option->take_last();
   }
 }
 

@@ -16,9 +16,9 @@ _kelvane() {
     --page)
       mapfile -t COMPREPLY < <(compgen -W 'frame bounds' -- "$current")
       return ;;
-    -d | --directory)
+    -d | --directory | --font-dir)
       mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
-    -o | --output | --report)
+    -o | --output | --report | --font-map)
       mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     -j | --jobs | --width | --height | --scale)
       return ;;
@@ -26,7 +26,7 @@ _kelvane() {
       case $current in
         -*)
           mapfile -t COMPREPLY < <(compgen -W '--output --directory --jobs --report --format --page
-            --width --height --scale --strict --help --version' -- "$current")
+            --width --height --scale --font-dir --font-map --outline-text --strict --help --version' -- "$current")
           return ;;
       esac
       mapfile -t COMPREPLY < <(

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,24 @@ TEST_F(KelvaneCommandLine, TakesTheLastOfAnOptionThatIsGivenTwice) {
   EXPECT_EQ(PageWith({"--width", "30", "--width", "40"}), "[ 0 0 40 40 ]");
 }
 
+TEST_F(KelvaneCommandLine, TakesSeveralDirectoriesOfFontsOneAtATime) {
+  std::filesystem::create_directory(folder_ / "one");
+  std::filesystem::create_directory(folder_ / "two");
+  EXPECT_EQ(Run({"--font-dir", "one", "--font-dir", "two", "a.emf"}).status, 0);
+  EXPECT_EQ(Names(), (Words{"a.emf", "a.pdf", "one", "two"}));
+  EXPECT_EQ(Run({"--font-dir", "gone", "--font-dir", "two", "a.emf"}).status, 1);
+}
+
+TEST_F(KelvaneCommandLine, TakesAMapOfFonts) {
+  WriteFile(folder_ / "fonts.txt", "Arial = Liberation Sans\n");
+  EXPECT_EQ(Run({"--font-map", "fonts.txt", "a.emf"}).status, 0);
+}
+
+TEST_F(KelvaneCommandLine, TakesTheWishForOutlinesWithoutAValue) {
+  EXPECT_EQ(Run({"--outline-text", "a.emf"}).status, 0);
+  EXPECT_EQ(Names(), (Words{"a.emf", "a.pdf"}));
+}
+
 TEST_F(KelvaneCommandLine, TakesAFormatThatIsThere) {
   EXPECT_EQ(Run({"-f", "pdf", "a.emf"}).status, 0);
   EXPECT_EQ(Names(), (Words{"a.emf", "a.pdf"}));
@@ -114,6 +133,12 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"NegativeScale",
                 {"--scale", "-1", "a.emf"},
                 "kelvane: scale cannot be '-1': it is a number from 0.001 to 1000"},
+        Refusal{"DirectoryOfFontsThatIsNotThere",
+                {"--font-dir", "gone", "a.emf"},
+                "kelvane: font-dir cannot be 'gone': it is a directory that exists"},
+        Refusal{"MapOfFontsThatIsNone",
+                {"--font-map", "a.emf", "a.emf"},
+                "kelvane: font-map cannot be 'a.emf': line 1 is not UTF-8"},
         Refusal{"FormatToCome",
                 {"-f", "svg", "a.emf"},
                 "kelvane: format cannot be 'svg' yet: it is pdf"},

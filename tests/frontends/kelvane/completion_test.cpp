@@ -92,7 +92,9 @@ TEST_F(KelvaneCompletion, OffersFoldersForADirectoryAndFilesForAnOutput) {
   std::filesystem::create_directory(folder_ / "folder");
   Write("file", {});
   EXPECT_EQ(OffersFor({"kelvane", "-d", "f"}), Offers{"folder"});
+  EXPECT_EQ(OffersFor({"kelvane", "--font-dir", "f"}), Offers{"folder"});
   EXPECT_EQ(OffersFor({"kelvane", "-o", "f"}), (Offers{"file", "folder"}));
+  EXPECT_EQ(OffersFor({"kelvane", "--font-map", "f"}), (Offers{"file", "folder"}));
 }
 
 TEST_F(KelvaneCompletion, OffersNothingForANumber) {
