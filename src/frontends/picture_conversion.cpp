@@ -62,8 +62,8 @@ void Remark(PageTrouble trouble, Report& report) {
 
 /// The page of a picture whose header tells of none.
 PagePlacement PageOfWhatIsDrawn(Bytes file, const PictureGeometry& picture,
-                                const PageSizeWish& wish, Report& report) {
-  const auto area = DrawnArea(file);
+                                const PageSizeWish& wish, const TextSetting& text, Report& report) {
+  const auto area = DrawnArea(file, text);
   const auto page = area ? PlaceAreaOnPage(picture, *area, wish) : std::nullopt;
   if (page) {
     report.Remark("the header tells of no page: it is what is drawn");
@@ -76,10 +76,10 @@ PagePlacement PageOfWhatIsDrawn(Bytes file, const PictureGeometry& picture,
 }
 
 PagePlacement PageOf(Bytes file, const EmfHeader& header, const ConversionOptions& options,
-                     Report& report) {
+                     const TextSetting& text, Report& report) {
   const PictureGeometry picture = GeometryOf(header);
   const auto page = PlaceOnPage(picture, options.page, options.size);
-  if (!page) return PageOfWhatIsDrawn(file, picture, options.size, report);
+  if (!page) return PageOfWhatIsDrawn(file, picture, options.size, text, report);
   Remark(page->trouble, report);
   return *page;
 }
@@ -87,8 +87,7 @@ PagePlacement PageOf(Bytes file, const EmfHeader& header, const ConversionOption
 /// Plays the records onto a page and writes that as a document. @return how many records there
 /// were.
 std::size_t WriteDocument(Bytes file, const EmfHeader& header, const PagePlacement& page,
-                          [[maybe_unused]] const TextSetting& text, CFMutableDataRef output,
-                          Report& report) {
+                          const TextSetting& text, CFMutableDataRef output, Report& report) {
   CFDictionary information;
   information.texts = {{kCGPDFContextTitle, Text(header.title)},
                        {kCGPDFContextCreator, Text(header.creator)}};
@@ -97,7 +96,7 @@ std::size_t WriteDocument(Bytes file, const EmfHeader& header, const PagePlaceme
   const CFOwned<CGContext> surface(CGPDFContextCreate(consumer.get(), &box, &information));
   if (!surface) throw std::runtime_error("the page has no area");
   CGContextBeginPage(surface.get(), &box);
-  const std::size_t records = PlayEmf(file, page, *surface, report);
+  const std::size_t records = PlayEmf(file, page, text, *surface, report);
   CGContextEndPage(surface.get());
   CGPDFContextClose(surface.get());
   return records;
@@ -126,9 +125,9 @@ void Convert(Bytes file, const ConversionOptions& options, PictureConversion& co
   }
   const auto header = ReadEmfHeader(file);
   if (!header) return Fail(conversion, ConversionStatus::kNoPicture, WhyNone(file));
-  const PagePlacement page = PageOf(file, *header, options, conversion.report);
   const TextSetting text = {FontRegistries::Shared().For(options.fontDirectories), options.fontMap,
                             options.outlinesText};
+  const PagePlacement page = PageOf(file, *header, options, text, conversion.report);
   conversion.document.reset(CFDataCreateMutable(kCFAllocatorDefault, 0));
   conversion.records =
       WriteDocument(file, *header, page, text, conversion.document.get(), conversion.report);

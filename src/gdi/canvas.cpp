@@ -73,6 +73,11 @@ void Canvas::Load(CGPath& path) {
   surface_.SwapPath(path);
 }
 
+CGPoint Canvas::RoundOnPage(CGPoint point) const {
+  return {std::rint(point.x * partsOfAPoint_) / partsOfAPoint_,
+          std::rint(point.y * partsOfAPoint_) / partsOfAPoint_};
+}
+
 bool Canvas::Afford(std::size_t parts) {
   const bool isAfforded = repeats_.Take(parts);
   hasRunOut_ = hasRunOut_ || !isAfforded;

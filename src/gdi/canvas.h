@@ -42,6 +42,9 @@ class Canvas {
   /// @param path  empty afterwards, with memory for the next one.
   void Load(CGPath& path);
 
+  /// @return a point of the page as those of paths are stored.
+  [[nodiscard]] CGPoint RoundOnPage(CGPoint point) const;
+
   /// Cuts what follows to a clip.
   /// @return false when nothing is left to be seen, or the clip cannot be afforded any more.
   bool BringClip(const ClipState& clip);

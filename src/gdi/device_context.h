@@ -12,11 +12,14 @@
 #include "gdi/pending_marks.h"
 #include "gdi/shortfall.h"
 #include "gdi/steps.h"
+#include "gdi/written_text.h"
 #include "metafile/gdi_enumerations.h"
 #include "metafile/gdi_types.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
+
+class FontBook;
 
 /// A path bracket that is open.
 struct OpenBracket {
@@ -48,10 +51,13 @@ struct DeviceState {
   TextAlign textAlign = TA_NOUPDATECP;
   ArcDirection arcDirection = AD_COUNTERCLOCKWISE;
   float miterLimit = 10;
-  PointD currentPosition;     // logical units
-  bool figureIsOpen = false;  // a line to somewhere goes on with the figure that ends there
-  PointD figureStart;         // logical units; of that figure
-  PointL brushOrigin;         // device units
+  std::int32_t extraOfBreaks = 0;     // logical units, shared out among the breaks of a line
+  std::int32_t breaks = 0;            // spaces
+  std::int32_t extraOfCharacter = 0;  // logical units
+  PointD currentPosition;             // logical units
+  bool figureIsOpen = false;          // a line to somewhere goes on with the figure that ends there
+  PointD figureStart;                 // logical units; of that figure
+  PointL brushOrigin;                 // device units
 
   /// The path that was finished last and is not used up, in device units; null without one.
   std::shared_ptr<const CGPath> path;
@@ -69,13 +75,16 @@ struct DeviceContext {
   ObjectTable objects;
   DeviceState state;
   SavedStates<DeviceState> saved;
-  Canvas* canvas;  // null draws nothing
+  Canvas* canvas;             // null draws nothing
+  FontBook* fonts = nullptr;  // null writes nothing
+  bool outlinesText = false;  // glyphs become shapes
 
   PendingMarks pending;
   CGPath bracketPath;               // of the open bracket, device units
   std::uint64_t bracketSerial = 0;  // of the bracket that bracketPath belongs to
   std::uint64_t bracketsBegun = 0;
-  CGPath scratch;  // of the call at hand; kept for its memory
+  CGPath scratch;    // of the call at hand; kept for its memory
+  WrittenText text;  // likewise
 
   /// What has not come out as it should, for whoever reports it, and clears it.
   Shortfalls shortfalls;

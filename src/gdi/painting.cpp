@@ -131,10 +131,7 @@ class PathPainter {
 };
 
 bool CanPaint(DeviceContext& device, const CGPath& path) {
-  if (device.canvas == nullptr || !path.HasSegments()) return false;
-  const bool shows = device.canvas->BringClip(device.state.clip);
-  if (!shows && device.canvas->HasRunOut()) device.shortfalls.Add(Shortfall::kDrawnTooOften);
-  return shows;
+  return path.HasSegments() && BringClip(device);
 }
 
 void Fill(DeviceContext& device, CGPath& path, PolyFillMode fillMode, const Marks& marks) {
@@ -148,6 +145,13 @@ PenStroke WithoutDashes(PenStroke stroke) {
 }
 
 }  // namespace
+
+bool BringClip(DeviceContext& device) {
+  if (device.canvas == nullptr) return false;
+  const bool shows = device.canvas->BringClip(device.state.clip);
+  if (!shows && device.canvas->HasRunOut()) device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  return shows;
+}
 
 void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind) {
   if (!CanPaint(device, path)) return path.Clear();

@@ -12,6 +12,9 @@ namespace kelvane {
 
 enum class PaintKind : std::uint8_t { kFill, kStroke, kFillAndStroke };
 
+/// Cuts the page to the clip there is. @return false when nothing can be seen.
+bool BringClip(DeviceContext& device);
+
 /// Paints with the selected brush and pen under the raster operation.
 void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind);
 

@@ -12,9 +12,11 @@ enum class Shortfall : std::uint8_t {
   kRegionTooComplex,   // a region would have taken too long, and was not painted
   kPathTooComplex,     // a path's outline would have taken too long, and the path was left
   kDrawnTooOften,      // it repeats so much that it was not drawn
+  kMissingCharacters,  // no face has some of the characters
+  kForeignGlyphs,      // glyph numbers of a face that is not there
 };
 
-inline constexpr int kShortfalls = 6;
+inline constexpr int kShortfalls = 8;
 
 /// A set of them.
 class Shortfalls {

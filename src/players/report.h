@@ -36,6 +36,8 @@ class Report {
   }
   void Damaged(std::uint32_t type, std::string_view why) { Note(Omission::kDamaged, type, why); }
 
+  void Note(Omission omission, std::uint32_t type, std::string_view why);
+
   /// Says something about the file as a whole, once however often it is said.
   void Remark(std::string_view words);
 
@@ -53,7 +55,6 @@ class Report {
   [[nodiscard]] bool IsWhole() const;
 
  private:
-  void Note(Omission omission, std::uint32_t type, std::string_view why);
 
   struct Before {
     using is_transparent = void;

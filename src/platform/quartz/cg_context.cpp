@@ -7,12 +7,6 @@
 #include "platform/quartz/cg_arcs.h"
 
 namespace kelvane {
-namespace {
-
-constexpr CGAffineTransform kSlant = {1, 0, 0.2125565617F, 1, 0, 0};  // 12 degrees, as italics have
-
-}  // namespace
-
 void CGContext::BeginPage(const CGRect& mediaBox) {
   if (inPage_) EndPage();
   ResetPage();
@@ -126,7 +120,7 @@ void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
 void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
   CGGlyphRun onPage = run;
   if (std::exchange(onPage.isSlanted, false)) {
-    onPage.matrix = CGAffineTransformConcat(kSlant, run.matrix);
+    onPage.matrix = CGAffineTransformConcat(kCGSlant, run.matrix);
   }
   onPage.matrix = CGAffineTransformConcat(onPage.matrix, state_.ctm);
   const bool finite = std::isfinite(run.size) && IsFinite(onPage.matrix) &&

@@ -87,23 +87,27 @@ void CGPath::AddMappedRectangle(const CGRect& rect, const CGAffineTransform& tra
   Close();
 }
 
-CGPath CGPath::Mapped(const CGAffineTransform& transform) const {
+void CGPath::AddPath(const CGPath& other, const CGAffineTransform& transform) {
   const auto map = [&](CGPoint point) { return CGPointApplyAffineTransform(point, transform); };
-  CGPath mapped;
-  ForEach([&](Element element, const CGPoint* points) {
+  other.ForEach([&](Element element, const CGPoint* points) {
     switch (element) {
       case Element::kMove:
-        return mapped.MoveTo(map(points[0]));
+        return MoveTo(map(points[0]));
       case Element::kLine:
-        return mapped.LineTo(map(points[0]));
+        return LineTo(map(points[0]));
       case Element::kCurve:
-        return mapped.CurveTo(map(points[0]), map(points[1]), map(points[2]));
+        return CurveTo(map(points[0]), map(points[1]), map(points[2]));
       case Element::kRectangle:
-        return mapped.AddMappedRectangle({points[0], {points[1].x, points[1].y}}, transform);
+        return AddMappedRectangle({points[0], {points[1].x, points[1].y}}, transform);
       case Element::kClose:
-        return mapped.Close();
+        return Close();
     }
   });
+}
+
+CGPath CGPath::Mapped(const CGAffineTransform& transform) const {
+  CGPath mapped;
+  mapped.AddPath(*this, transform);
   return mapped;
 }
 

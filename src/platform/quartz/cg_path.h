@@ -46,6 +46,9 @@ class CGPath {
   /// Adds a rectangle as `transform` leaves it: whole, or four lines where it turns or shears.
   void AddMappedRectangle(const CGRect& rect, const CGAffineTransform& transform);
 
+  /// Adds the subpaths of another path as `transform` leaves them.
+  void AddPath(const CGPath& other, const CGAffineTransform& transform);
+
   /// @return the path with every point mapped.
   [[nodiscard]] CGPath Mapped(const CGAffineTransform& transform) const;
 

@@ -9,9 +9,10 @@ using HandlersByType = std::array<PlayEmfRecord, kEmfRecordTypes>;
 
 HandlersByType MakeHandlers() {
   HandlersByType handlers{};
-  for (const auto& table : {EmfLineHandlers(), EmfShapeHandlers(), EmfPathHandlers(),
-                            EmfClipHandlers(), EmfStateHandlers(), EmfObjectHandlers(),
-                            EmfBitmapHandlers(), EmfCommentHandlers(), EmfUnplayedHandlers()}) {
+  for (const auto& table :
+       {EmfLineHandlers(), EmfShapeHandlers(), EmfPathHandlers(), EmfClipHandlers(),
+        EmfStateHandlers(), EmfObjectHandlers(), EmfBitmapHandlers(), EmfTextHandlers(),
+        EmfCommentHandlers(), EmfUnplayedHandlers()}) {
     for (const EmfHandler& row : table)
       handlers[row.type] = row.play;
   }

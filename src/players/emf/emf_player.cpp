@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "gdi/canvas.h"
+#include "gdi/font_book.h"
 #include "gdi/painting.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
@@ -31,21 +32,29 @@ DeviceResolution ResolutionOf(const PictureGeometry& picture) {
           DotsPerInch(picture.devicePixelsHigh, picture.deviceMillimetersHigh)};
 }
 
-/// By shortfall.
-constexpr std::array<std::string_view, kShortfalls> kShortfallWords = {
-    "its raster operation on these colours is only near",
-    "the bitmap of a brush or pen cannot be read",
-    "its clip is too complex and was left as it was",
-    "its region is too complex and was not painted",
-    "its path is too complex to be widened",
-    "what it repeats was drawn too often, and not again",
+struct ShortfallWords {
+  std::string_view why;
+  Omission omission = Omission::kOnlyNearly;
 };
+
+/// By shortfall.
+constexpr std::array<ShortfallWords, kShortfalls> kShortfallWords = {{
+    {"its raster operation on these colours is only near"},
+    {"the bitmap of a brush or pen cannot be read"},
+    {"its clip is too complex and was left as it was"},
+    {"its region is too complex and was not painted"},
+    {"its path is too complex to be widened"},
+    {"what it repeats was drawn too often, and not again"},
+    {"no font has some of its characters"},
+    {"its text is glyph numbers of a font that is not there", Omission::kLeftOut},
+}};
 
 void ReportShortfalls(EmfPlayback& playback) {
   Shortfalls& shortfalls = playback.device.shortfalls;
   if (shortfalls.IsEmpty()) return;
   for (std::size_t i = 0; i < kShortfallWords.size(); ++i) {
-    if (shortfalls.Has(static_cast<Shortfall>(i))) playback.OnlyNearly(kShortfallWords[i]);
+    if (!shortfalls.Has(static_cast<Shortfall>(i))) continue;
+    playback.report.Note(kShortfallWords[i].omission, playback.type, kShortfallWords[i].why);
   }
   shortfalls.Clear();
 }
@@ -98,13 +107,17 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
 /// @param whole  what can be seen, device units.
 std::size_t PlayOnto(CGContext& surface, const CGAffineTransform& deviceToPage,
                      std::span<const unsigned char> file, const EmfHeader& header,
-                     const RectangleD& whole, Report& report) {
+                     const RectangleD& whole, const TextSetting& text, Report& report) {
   Canvas canvas(surface, deviceToPage, whole, ResolutionOf(GeometryOf(header)));
   canvas.AllowFor(file.size());
+  FontBook fonts(text.registry, surface.FontFilter(), text.map);
   DeviceContext device({header.device, header.millimeters, whole.left, whole.right}, &canvas);
+  device.fonts = &fonts;
+  device.outlinesText = text.outlines;
   EmfPlayback playback = {device, report};
   const std::size_t count = PlayRecords(file, playback);
   ReportComments(playback);
+  report.UsedFonts(fonts.Uses());
   return count;
 }
 
@@ -134,25 +147,26 @@ PictureGeometry GeometryOf(const EmfHeader& header) {
           static_cast<double>(header.millimeters.cy)};
 }
 
-std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file) {
+std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file,
+                                         const TextSetting& text) {
   const auto header = ReadEmfHeader(file);
   if (!header) return std::nullopt;
   constexpr double kFar = 1 << 24;  // beyond it single precision has no whole units
   const CFOwned<DrawnExtent> extent(new DrawnExtent);
   extent->BeginPage({{0, 0}, {1, 1}});
   Report unread;
-  PlayOnto(*extent, {}, file, *header, {-kFar, -kFar, kFar, kFar}, unread);
+  PlayOnto(*extent, {}, file, *header, {-kFar, -kFar, kFar, kFar}, text, unread);
   extent->EndPage();
   return extent->Area();
 }
 
 std::size_t PlayEmf(std::span<const unsigned char> file, const PagePlacement& page,
-                    CGContext& surface, Report& report) {
+                    const TextSetting& text, CGContext& surface, Report& report) {
   const auto header = ReadEmfHeader(file);
   if (!header) return 0;
   surface.SaveGState();
   const std::size_t count =
-      PlayOnto(surface, page.deviceToPage, file, *header, AreaOfPage(page), report);
+      PlayOnto(surface, page.deviceToPage, file, *header, AreaOfPage(page), text, report);
   surface.RestoreGState();
   return count;
 }

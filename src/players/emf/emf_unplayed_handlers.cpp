@@ -6,9 +6,6 @@ namespace {
 /// Of records that leave no mark on a page.
 constexpr PlayEmfRecord kNoMark = [](EmfPlayback&, ByteView&) {};
 
-constexpr PlayEmfRecord kNoText = [](EmfPlayback& p, ByteView&) {
-  p.LeftOut("text is not drawn yet");
-};
 constexpr PlayEmfRecord kNoGradient = [](EmfPlayback& p, ByteView&) {
   p.LeftOut("gradients are not drawn yet");
 };
@@ -23,19 +20,13 @@ constexpr EmfHandler kUnplayedHandlers[] = {
     {EMR_HEADER, kNoMark},
     {EMR_EOF, kNoMark},
 
-    {EMR_EXTTEXTOUTA, kNoText},
-    {EMR_EXTTEXTOUTW, kNoText},
-    {EMR_POLYTEXTOUTA, kNoText},
-    {EMR_POLYTEXTOUTW, kNoText},
-    {EMR_SMALLTEXTOUT, kNoText},
     {EMR_GRADIENTFILL, kNoGradient},
     {EMR_GLSRECORD, kNoOpenGL},
     {EMR_GLSBOUNDEDRECORD, kNoOpenGL},
     {EMR_DRAWESCAPE, kNoDriver},
 
-    // How text is set, which waits for text.
+    // How fonts are chosen on the recorder's machine.
     {EMR_SETMAPPERFLAGS, kNoMark},
-    {EMR_SETTEXTJUSTIFICATION, kNoMark},
     {EMR_FORCEUFIMAPPING, kNoMark},
     {EMR_SETLINKEDUFIS, kNoMark},
 

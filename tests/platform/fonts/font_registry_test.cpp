@@ -158,7 +158,7 @@ TEST(FontRegistry, FindsWhatIsInstalledByItsFullName) {
 TEST(FontRegistry, FindsWhatWasInstalledMeanwhile) {
   test::OtherFonts fonts({test::kDejaVuSans});
   std::chrono::steady_clock::time_point now;
-  FontRegistry registry(OpenInstalledFonts, [&now] { return now; });
+  FontRegistry registry([] { return OpenInstalledFonts(); }, [&now] { return now; });
   EXPECT_EQ(registry.FindInstalled("Junction"), kNoFont);
   fonts.Add("Junction.otf", test::ReadFile(test::kJunction));
   now += FontRegistry::kCheckInterval;

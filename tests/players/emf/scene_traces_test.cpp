@@ -14,6 +14,7 @@
 #include "support/files.h"
 #include "support/golden.h"
 #include "support/paths.h"
+#include "support/text_setting.h"
 
 namespace kelvane::test {
 namespace {
@@ -60,8 +61,8 @@ std::string TraceOfScene(const std::string& scene) {
   Report report;
   const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
   CGContextBeginPage(surface.get(), &box);
-  PlayEmf({reinterpret_cast<const unsigned char*>(file.data()), file.size()}, page, *surface,
-          report);
+  PlayEmf({reinterpret_cast<const unsigned char*>(file.data()), file.size()}, page,
+          test::InstalledFonts(), *surface, report);
   CGContextEndPage(surface.get());
   return trace + Lines(report);
 }

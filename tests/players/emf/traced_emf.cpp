@@ -8,6 +8,7 @@
 #include "metafile/emf/emf_record_type.h"
 #include "platform/trace/cg_trace_context.h"
 #include "players/emf/emf_player.h"
+#include "support/text_setting.h"
 
 namespace kelvane::test {
 namespace {
@@ -44,7 +45,7 @@ PlayedEmf Played(const std::vector<unsigned char>& file) {
   const CFOwned<CGContext> surface(CGTraceContextCreate(played.trace));
   surface->BeginPage({{0, 0}, {100, 100}});
   played.trace.clear();
-  played.records = PlayEmf(file, {{100, 100}, {}}, *surface, report);
+  played.records = PlayEmf(file, {{100, 100}, {}}, InstalledFonts(), *surface, report);
   played.report = LinesOf(report);
   played.remarks = report.Remarks();
   played.isWhole = report.IsWhole();
@@ -52,7 +53,7 @@ PlayedEmf Played(const std::vector<unsigned char>& file) {
 }
 
 std::optional<StoredRectangle> DrawnAreaOf(const std::vector<unsigned char>& file) {
-  return DrawnArea(file);
+  return DrawnArea(file, InstalledFonts());
 }
 
 bool HasEmfHeader(const std::vector<unsigned char>& file) {

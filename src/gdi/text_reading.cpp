@@ -1,0 +1,110 @@
+#include "gdi/text_reading.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "gdi/code_page.h"
+#include "gdi/symbol_encoding.h"
+
+namespace kelvane {
+namespace {
+
+constexpr char16_t kNothing = 0;  // a control character: no mark, but it keeps its advance
+
+std::u16string FaceNameOf(const LogFont& font) {
+  const std::u16string_view name(font.faceName.data(), font.faceName.size());
+  return std::u16string(name.substr(0, name.find(u'\0')));
+}
+
+PointD AdvanceOf(const TextPlacing& placing, std::size_t unit) {
+  if (!placing.advancesArePairs) return {static_cast<double>(placing.advances[unit]), 0};
+  return {static_cast<double>(placing.advances[2 * unit]),
+          static_cast<double>(placing.advances[2 * unit + 1])};
+}
+
+/// In the order that nearly all TrueType faces have, the printable characters of ASCII come third.
+char16_t CharacterOfGlyph(char16_t glyph) {
+  constexpr char16_t kFirst = 3;
+  constexpr char16_t kLast = 97;
+  constexpr char16_t kToAscii = 29;
+  return glyph >= kFirst && glyph <= kLast ? static_cast<char16_t>(glyph + kToAscii) : kNothing;
+}
+
+void TakeGlyphs(const TextFont& font, WrittenText& text) {
+  if (font.isAsAsked) {
+    text.areGlyphs = true;
+    return;
+  }
+  for (char16_t& unit : text.units) {
+    unit = CharacterOfGlyph(unit);
+    text.hasUnknownGlyphs = text.hasUnknownGlyphs || unit == kNothing;
+  }
+}
+
+/// Codes of a font of symbols become what they show. A face that has the codes keeps them.
+void TakeSymbols(const SymbolEncoding& symbols, WrittenText& text) {
+  std::u16string units;
+  std::vector<PointD> advances;
+  units.reserve(text.units.size());
+  advances.reserve(text.advances.size());
+  for (std::size_t i = 0; i < text.units.size(); ++i) {
+    const char32_t character = symbols.CharacterOf(text.units[i]);
+    const std::size_t before = units.size();
+    if (character < 0x10000) {
+      units += static_cast<char16_t>(character);
+    } else {
+      units += static_cast<char16_t>(0xD7C0 + (character >> 10));
+      units += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+    }
+    if (text.advances.empty()) continue;
+    advances.push_back(text.advances[i]);
+    advances.resize(advances.size() + units.size() - before - 1);
+  }
+  text.units = std::move(units);
+  text.advances = std::move(advances);
+}
+
+void Clear(WrittenText& text) {
+  text.advances.clear();
+  text.areGlyphs = text.hasUnknownGlyphs = false;
+}
+
+void Interpret(const TextPlacing& placing, const TextFont& font, WrittenText& text) {
+  if ((placing.options & ETO_GLYPH_INDEX) != 0) return TakeGlyphs(font, text);
+  if (font.symbols != nullptr) TakeSymbols(*font.symbols, text);
+}
+
+}  // namespace
+
+void ReadText(const TextPlacing& placing, std::u16string units, const TextFont& font,
+              WrittenText& text) {
+  Clear(text);
+  text.units = std::move(units);
+  if (!placing.advances.empty()) {
+    text.advances.reserve(text.units.size());
+    for (std::size_t i = 0; i < text.units.size(); ++i)
+      text.advances.push_back(AdvanceOf(placing, i));
+  }
+  Interpret(placing, font, text);
+}
+
+void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont& asked,
+              const TextFont& font, WrittenText& text) {
+  Clear(text);
+  DecodedBytes decoded = DecodeBytes(bytes, asked.charSet, FaceNameOf(asked));
+  text.units = std::move(decoded.text);
+  if (!placing.advances.empty()) {
+    for (std::size_t unit = 0; unit < text.units.size(); ++unit) {
+      const bool isLast = unit + 1 == text.units.size();
+      const std::size_t end = isLast ? bytes.size() : decoded.firstBytes[unit + 1];
+      PointD& advance = text.advances.emplace_back();
+      for (std::size_t byte = decoded.firstBytes[unit]; byte < end; ++byte) {
+        advance.x += AdvanceOf(placing, byte).x;
+        advance.y += AdvanceOf(placing, byte).y;
+      }
+    }
+  }
+  Interpret(placing, font, text);
+}
+
+}  // namespace kelvane
