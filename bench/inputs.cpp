@@ -142,6 +142,23 @@ std::vector<unsigned char> LabelledDiagram(std::size_t bytes) {
   return Boxes(bytes, true);
 }
 
+std::vector<unsigned char> Labels(std::size_t strings) {
+  constexpr std::u16string_view kFaces[] = {u"Arial", u"Times New Roman", u"Courier New"};
+  Metafile metafile;
+  metafile.Bounds(0, 0, 2000, 3000).SetBkMode(test::kTransparent);
+  for (std::uint32_t i = 0; i < std::size(kFaces); ++i)
+    metafile.CreateFont(i + 1, {.face = std::u16string(kFaces[i]), .height = -12});
+  for (std::size_t i = 0; i < strings; ++i) {
+    const std::string digits = "Point " + std::to_string(i * 7919 % 10'000);
+    const std::u16string text(digits.begin(), digits.end());
+    metafile.SelectObject(static_cast<std::uint32_t>(i % std::size(kFaces)) + 1);
+    metafile.TextOut(
+        {static_cast<std::int32_t>(i % 25) * 80, static_cast<std::int32_t>(i / 25) * 7}, text,
+        std::vector<std::uint32_t>(text.size(), 7));
+  }
+  return metafile.Build();
+}
+
 std::vector<unsigned char> Drawing(std::size_t bytes) {
   constexpr std::uint32_t kPen = 1;
   constexpr std::size_t kGroupSize = 28 + 44 + 4 * 200 + 28 + 4 * 61 + 40 * kLineSize;

@@ -30,6 +30,9 @@ std::vector<unsigned char> Diagram(std::size_t bytes);
 /// The same, each box with a label in one face.
 std::vector<unsigned char> LabelledDiagram(std::size_t bytes);
 
+/// Short strings in three faces in turn, each unit with its advance.
+std::vector<unsigned char> Labels(std::size_t strings);
+
 /// A metafile without records.
 Input EmptyPage();
 

@@ -24,19 +24,22 @@ Finding AgainstEmptyPage(const std::string& what, const std::vector<unsigned cha
           kSmallFileRuns, limit};
 }
 
-Finding AgainstClassic(const std::string& what, const std::vector<unsigned char>& metafile) {
+Finding AgainstClassic(const std::string& what, const std::vector<unsigned char>& metafile,
+                       int repeats, double limit) {
   return {"as Windows shows it : the classic conversion, " + what,
           SideBySide([&] { ConvertAsWindows(metafile); }, Conversion(metafile), kSmallFileRuns,
-                     kRepeats),
-          kSmallFileRuns, 1.2};
+                     repeats),
+          kSmallFileRuns, limit};
 }
 
 }  // namespace
 
 std::vector<Finding> AgainstClassicConversion() {
   constexpr std::size_t kSize = 20'000;
-  return {AgainstClassic("20 KB of shapes", Diagram(kSize)),
-          AgainstClassic("20 KB of lines and curves", Drawing(kSize))};
+  constexpr std::size_t kStrings = 10'000;
+  return {AgainstClassic("20 KB of shapes", Diagram(kSize), kRepeats, 1.2),
+          AgainstClassic("20 KB of lines and curves", Drawing(kSize), kRepeats, 1.2),
+          AgainstClassic("10,000 short strings in three fonts", Labels(kStrings), 1, 1.5)};
 }
 
 std::vector<Finding> SmallFiles() {

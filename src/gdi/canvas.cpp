@@ -32,13 +32,15 @@ CGAffineTransform IntoThePixel(CGAffineTransform matrix) {
   return matrix;
 }
 
-/// Into how many parts a point is divided: finer than any output shows, with few digits to store,
-/// and no more of them than a coordinate of the page can tell apart.
+/// Into how many parts a point is divided: finer than any output shows the page, with few digits to
+/// store.
 CGFloat PartsOfAPoint(const CGAffineTransform& deviceToPage, const RectangleD& whole) {
-  constexpr CGFloat kLargePage = 16384;
-  const auto width = static_cast<CGFloat>(whole.right - whole.left) * deviceToPage.a;
-  const auto height = static_cast<CGFloat>(whole.bottom - whole.top) * deviceToPage.d;
-  return std::max(std::abs(width), std::abs(height)) < kLargePage ? 1000 : 100;
+  constexpr CGFloat kLargePage = 1638;
+  constexpr CGFloat kHugePage = 10 * kLargePage;
+  const CGFloat width = static_cast<CGFloat>(whole.right - whole.left) * deviceToPage.a;
+  const CGFloat height = static_cast<CGFloat>(whole.bottom - whole.top) * deviceToPage.d;
+  const CGFloat side = std::max(std::abs(width), std::abs(height));
+  return side < kLargePage ? 1000.0F : side < kHugePage ? 100.0F : 10.0F;
 }
 
 /// An edge through the middle of a pixel gives the pixel to its lower right side. Rounding must not

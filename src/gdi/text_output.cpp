@@ -193,9 +193,8 @@ void WriteText(DeviceContext& device, const TextPlacing& placing, const Text& te
 }  // namespace
 
 void ExtTextOut(DeviceContext& device, const TextPlacing& placing, std::u16string text) {
-  WriteText(device, placing, text, [&](const TextFont& font) {
-    ReadText(placing, std::move(text), font, device.text);
-  });
+  WriteText(device, placing, text,
+            [&](const TextFont& font) { ReadText(placing, std::move(text), font, device.text); });
 }
 
 void ExtTextOut(DeviceContext& device, const TextPlacing& placing, const std::string& text) {

@@ -55,7 +55,6 @@ class Report {
   [[nodiscard]] bool IsWhole() const;
 
  private:
-
   struct Before {
     using is_transparent = void;
     template <class A, class B>

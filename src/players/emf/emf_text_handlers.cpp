@@ -41,8 +41,9 @@ constexpr EmfHandler kTextHandlers[] = {
     {EMR_SMALLTEXTOUT,
      Playing<DecodeSmallTextOut>([](EmfPlayback& p, const auto& r) { PlaySmallText(p, r); })},
     {EMR_SETTEXTJUSTIFICATION,
-     Playing<DecodeSetTextJustification>(
-         [](EmfPlayback& p, const auto& r) { SetTextJustification(p.device, r.breakExtra, r.breakCount); })},
+     Playing<DecodeSetTextJustification>([](EmfPlayback& p, const auto& r) {
+       SetTextJustification(p.device, r.breakExtra, r.breakCount);
+     })},
 };
 
 }  // namespace
