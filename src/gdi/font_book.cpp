@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/unicode.h"
+#include "gdi/font_finder.h"
 #include "gdi/font_names.h"
 
 namespace kelvane {
@@ -118,22 +119,26 @@ std::size_t FontBook::FontKeyHash::operator()(const FontKey& key) const {
 }
 
 const FontBook::Face& FontBook::FaceOf(const LogFont& font) {
-  const FaceKey key = {std::u16string(FaceName(font)), font.pitchAndFamily,
-                       font.weight >= kLeastBold, font.italic != 0};
-  const auto known = faces_.find(key);
-  if (known != faces_.end()) return known->second;
-  if (faces_.size() >= kMostFonts) faces_.clear();
-  return faces_.emplace(key, MakeFace(key)).first->second;
+  FaceKey key = {std::u16string(FaceName(font)), font.pitchAndFamily, font.weight >= kLeastBold,
+                 font.italic != 0};
+  const std::string asked = ToUTF8(std::get<0>(key));
+  auto face = faces_.find(key);
+  if (face == faces_.end() && finder_.IsSpent()) {
+    std::get<0>(key).clear();  // unknown names need no face each
+    face = faces_.find(key);
+  }
+  if (face == faces_.end()) face = faces_.emplace(key, MakeFace(key)).first;
+  NoteUse({asked, face->second.text.style->Family()});
+  return face->second;
 }
 
 FontBook::Face FontBook::MakeFace(const FaceKey& key) {
   const auto& [name, kind, isBold, isItalic] = key;
-  const FoundFont found = FindFont(registry_, map_, name, kind);
+  const FoundFont found = finder_.Find(name, kind);
   const FontStyle& style = registry_.Style(found.font, isBold || found.isBold, isItalic, filter_);
   // The output may have refused the family that was found.
   const FontStyle& any = registry_.Style(found.font, false, false, AnyFont);
   const bool isOriginal = found.isOriginal && style.Family() == any.Family();
-  NoteUse({ToUTF8(name), style.Family()});
   Face face = {Measured(style), AverageWidth(*style.Face().typeface, isOriginal)};
   face.text.isAsAsked = isOriginal;
   face.text.isVertical = name.starts_with(u'@');

@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "gdi/font_finder.h"
 #include "gdi/font_map.h"
 #include "gdi/font_use.h"
 #include "metafile/gdi_objects.h"
@@ -51,7 +52,7 @@ class FontBook {
   /// @param registry  borrowed, of the faces that there are. @param filter  of the output.
   /// @param map       borrowed; the user's wishes, which come before all else.
   FontBook(FontRegistry& registry, CGFontFilter filter, const FontMap& map)
-      : registry_(registry), filter_(filter), map_(map) {}
+      : registry_(registry), filter_(filter), finder_(registry, map) {}
 
   /// @param pixel  logical units in 1/96 inch, by which the default height is set; above 0.
   /// @return the font as it is drawn. It lives at least until the book has resolved kMostFonts
@@ -87,7 +88,7 @@ class FontBook {
 
   FontRegistry& registry_;
   CGFontFilter filter_;
-  const FontMap& map_;
+  FontFinder finder_;
   Fonts fonts_;
   Fonts formerFonts_;  // still in use, perhaps
   std::map<FaceKey, Face> faces_;

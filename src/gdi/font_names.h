@@ -1,27 +1,44 @@
 #pragma once
 
+#include <array>
+#include <optional>
+#include <string>
 #include <string_view>
 
-#include "gdi/font_map.h"
 #include "metafile/gdi_objects.h"
-#include "platform/fonts/font_registry.h"
 
 namespace kelvane {
 
-/// What the name of a logical font led to.
-struct FoundFont {
-  FontID font = kDefaultFont;
-  bool isOriginal = false;        // the very font that Windows would take
-  bool isBold = false;            // whatever weight is asked for
-  std::u16string_view name = {};  // of several between semicolons the one that counted; borrowed
+// What Windows takes names of fonts for, whatever fonts there are. Names are UTF-8, and compared
+// without regard to blanks and case.
+
+/// A name behind which Windows keeps a font that is not made of outlines, or another font. What it
+/// stands for is looked for before anything that has the name or stands for it elsewhere.
+struct WindowsFontName {
+  std::string_view folded;
+  std::array<std::string_view, 2> faces;  // looked for as they are, in turn; perhaps empty
+  std::string_view base;                  // looked for last, or what stands for it
+  bool isBold = false;                    // there is no other weight
 };
+
+/// @return null for a name that stands for itself.
+const WindowsFontName* FindWindowsFontName(std::string_view name);
+
+/// @return for a font of symbols the face next to which those of other faces look at home; empty
+///         for any other font.
+std::string_view BaseOfSymbols(std::string_view name);
+
+/// @return what a name has before the end that only says which script the font is wanted for;
+///         nothing when it has none.
+std::optional<std::string> WithoutScript(std::string_view name);
+
+/// @return the face of a kind, which is not known by its name.
+std::string_view FaceOfKind(PitchAndFamily kind);
+
+/// The face that there is for anything.
+inline constexpr std::string_view kFaceOfLastResort = "Arial";
 
 /// @return the name up to its end, cut to what Windows reads of it; borrowed from the font.
 std::u16string_view FaceName(const LogFont& font);
-
-/// @param faceName  one name, or several between semicolons, the first known of which counts.
-/// @param kind      of face, to go by when none is known.
-FoundFont FindFont(FontRegistry& registry, const FontMap& map, std::u16string_view faceName,
-                   PitchAndFamily kind);
 
 }  // namespace kelvane

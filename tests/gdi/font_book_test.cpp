@@ -288,5 +288,13 @@ TEST_F(AFontBook, SaysNoMoreThanAThousandNames) {
   EXPECT_EQ(book.Uses()[999].asked, ToUTF8(Numbered(999)));
 }
 
+TEST_F(AFontBook, KeepsTheFacesOfTheNamesBeforeVeryManyOthers) {
+  book.Resolve(Named(u"DejaVu Serif", -10), kPixel);
+  for (std::size_t i = 0; i < FontFinder::kMostNames; ++i)
+    book.Resolve(Named(Numbered(static_cast<int>(i))), kPixel);
+  EXPECT_EQ(FaceOf(book.Resolve(Named(u"DejaVu Serif", -20), kPixel)), "DejaVuSerif");
+  EXPECT_EQ(FaceOf(book.Resolve(Named(u"DejaVu Sans", -20), kPixel)), "LiberationSans");
+}
+
 }  // namespace
 }  // namespace kelvane
