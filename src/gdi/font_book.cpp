@@ -140,6 +140,7 @@ FontBook::Face FontBook::MakeFace(const FaceKey& key) {
   const FontStyle& any = registry_.Style(found.font, false, false, AnyFont);
   const bool isOriginal = found.isOriginal && style.Family() == any.Family();
   Face face = {Measured(style), AverageWidth(*style.Face().typeface, isOriginal)};
+  face.text.symbols = FindSymbolEncoding(found.name);
   face.text.isAsAsked = isOriginal;
   face.text.isVertical = name.starts_with(u'@');
   return face;

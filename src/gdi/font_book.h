@@ -11,12 +11,11 @@
 #include "gdi/font_finder.h"
 #include "gdi/font_map.h"
 #include "gdi/font_use.h"
+#include "gdi/symbol_encoding.h"
 #include "metafile/gdi_objects.h"
 #include "platform/fonts/font_registry.h"
 
 namespace kelvane {
-
-struct SymbolEncoding;
 
 /// A line along text, in ems, y upwards from the baseline.
 struct TextRule {

@@ -41,7 +41,9 @@ std::optional<FoundFont> FontFinder::FindKnown(std::u16string_view faceName) {
   for (std::u16string_view rest = faceName; !rest.empty();) {
     const std::size_t end = std::min(rest.find(u';'), rest.size());
     const std::u16string_view name = WithoutMark(Trimmed(rest.substr(0, end)));
-    if (auto found = FindOne(ToUTF8(name))) {
+    auto found = FindOne(ToUTF8(name));
+    if (!found) found = FindInstead(BaseOfSymbols(name));
+    if (found) {
       found->name = name;
       return found;
     }
@@ -54,8 +56,6 @@ std::optional<FoundFont> FontFinder::FindKnown(std::u16string_view faceName) {
 std::optional<FoundFont> FontFinder::FindOne(const std::string& name) {
   if (auto found = FindWished(name)) return found;
   if (auto found = FindNamed(name)) return found;
-  const std::string_view base = BaseOfSymbols(name);
-  if (!base.empty()) return FindInstead(base);
   const auto shorter = WithoutScript(name);
   return shorter ? FindOne(*shorter) : std::nullopt;
 }
@@ -83,7 +83,7 @@ std::optional<FoundFont> FontFinder::FindNamed(std::string_view name) {
   return found;
 }
 
-/// @param name  not the one that was asked for.
+/// @param name  not the one that was asked for; perhaps empty.
 std::optional<FoundFont> FontFinder::FindInstead(std::string_view name) {
   auto found = FindNamed(name);
   if (found) found->isOriginal = false;

@@ -4,6 +4,8 @@
 #include <iterator>
 
 #include "gdi/font_map.h"
+#include "gdi/symbol_encoding.h"
+#include "gdi/symbol_tables.h"
 
 namespace kelvane {
 namespace {
@@ -34,35 +36,21 @@ constexpr WindowsFontName kWindowsNames[] = {
     {"tmsrmn", {"MS Serif"}, kSerif},
 };
 
-struct SymbolFontName {
-  std::string_view folded;
-  std::string_view base;
-};
-
-constexpr SymbolFontName kSymbolNames[] = {
-    {"euclidextra", kSerif}, {"euclidsymbol", kSerif}, {"fences", kSerif},
-    {"mtextra", kSerif},     {"symbol", kSerif},       {"webdings", kSans},
-    {"wingdings", kSans},    {"wingdings2", kSans},    {"wingdings3", kSans},
-};
-
 constexpr std::string_view kScripts[] = {" Baltic", " CE", " Cyr", " Greek", " Tur"};
-
-/// @return the table's row for the name; null for none.
-template <class Row, std::size_t kSize>
-const Row* FindRow(const Row (&table)[kSize], std::string_view name) {
-  const Row* const row = std::ranges::find(table, FoldFontName(name), &Row::folded);
-  return row == std::end(table) ? nullptr : row;
-}
 
 }  // namespace
 
 const WindowsFontName* FindWindowsFontName(std::string_view name) {
-  return FindRow(kWindowsNames, name);
+  const auto* const row =
+      std::ranges::find(kWindowsNames, FoldFontName(name), &WindowsFontName::folded);
+  return row == std::end(kWindowsNames) ? nullptr : row;
 }
 
-std::string_view BaseOfSymbols(std::string_view name) {
-  const SymbolFontName* const row = FindRow(kSymbolNames, name);
-  return row == nullptr ? std::string_view() : row->base;
+std::string_view BaseOfSymbols(std::u16string_view name) {
+  const SymbolEncoding* const symbols = FindSymbolEncoding(name);
+  if (symbols == nullptr) return {};
+  const bool isForFormulas = symbols == &kSymbol || symbols == &kMTExtra;
+  return isForFormulas ? kSerif : kSans;
 }
 
 std::optional<std::string> WithoutScript(std::string_view name) {

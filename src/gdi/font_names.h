@@ -26,7 +26,7 @@ const WindowsFontName* FindWindowsFontName(std::string_view name);
 
 /// @return for a font of symbols the face next to which those of other faces look at home; empty
 ///         for any other font.
-std::string_view BaseOfSymbols(std::string_view name);
+std::string_view BaseOfSymbols(std::u16string_view name);
 
 /// @return what a name has before the end that only says which script the font is wanted for;
 ///         nothing when it has none.

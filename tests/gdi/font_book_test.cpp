@@ -238,6 +238,15 @@ TEST_F(AFontBook, TellsAFaceOfSymbols) {
   EXPECT_FALSE(book.Resolve(Named(u"Liberation Sans"), kPixel).hasSymbolGlyphs);
 }
 
+TEST_F(AFontBook, TellsWhatCodesOfSymbolsMean) {
+  const TextFont& symbol = book.Resolve(Named(u"Symbol"), kPixel);
+  EXPECT_EQ(symbol.symbols, FindSymbolEncoding(u"Symbol"));
+  EXPECT_FALSE(symbol.hasSymbolGlyphs);
+  EXPECT_EQ(book.Resolve(Named(u"Nowhere;Wingdings"), kPixel).symbols,
+            FindSymbolEncoding(u"Wingdings"));
+  EXPECT_EQ(book.Resolve(Named(u"Arial;Wingdings"), kPixel).symbols, nullptr);
+}
+
 TEST_F(AFontBook, SaysOnceWhatWasTakenForEachName) {
   for (const auto* const name : {u"Times", u"Arial", u"Times", u"", u"\xD800", u"A;Junction"}) {
     book.Resolve(Named(name, -10), kPixel);
