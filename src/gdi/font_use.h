@@ -1,7 +1,7 @@
 #pragma once
 
-#include <compare>
 #include <string>
+#include <tuple>
 
 namespace kelvane {
 
@@ -10,7 +10,10 @@ struct FontUse {
   std::string asked;
   std::string used;  // the family of the face that is drawn from
 
-  friend auto operator<=>(const FontUse&, const FontUse&) = default;
+  friend bool operator==(const FontUse&, const FontUse&) = default;
+  friend bool operator<(const FontUse& one, const FontUse& other) {
+    return std::tie(one.asked, one.used) < std::tie(other.asked, other.used);
+  }
 };
 
 }  // namespace kelvane
