@@ -89,12 +89,14 @@ GdiObject& ObjectTable::Stock(StockObject handle) {
 void ObjectTable::MakeStockFonts() {
   constexpr std::int32_t kRegular = 400;
   constexpr std::int32_t kBold = 700;
+  // Made of pixels, these are as high as text without a height, whatever the mapping.
+  constexpr std::int32_t kScreen = 0;
   Stock(OEM_FIXED_FONT) = Font(u"Terminal", 12, kRegular, OEM_CHARSET);
   Stock(ANSI_FIXED_FONT) = Font(u"Courier", 12, kRegular, ANSI_CHARSET);
   Stock(ANSI_VAR_FONT) = Font(u"MS Sans Serif", 12, kRegular, ANSI_CHARSET);
-  Stock(SYSTEM_FONT) = Font(u"System", 16, kBold, ANSI_CHARSET);
-  Stock(DEVICE_DEFAULT_FONT) = Font(u"System", 16, kBold, ANSI_CHARSET);
-  Stock(SYSTEM_FIXED_FONT) = Font(u"Fixedsys", 16, kRegular, ANSI_CHARSET);
+  Stock(SYSTEM_FONT) = Font(u"System", kScreen, kBold, ANSI_CHARSET);
+  Stock(DEVICE_DEFAULT_FONT) = Font(u"System", kScreen, kBold, ANSI_CHARSET);
+  Stock(SYSTEM_FIXED_FONT) = Font(u"Fixedsys", kScreen, kRegular, ANSI_CHARSET);
   Stock(DEFAULT_GUI_FONT) = Font(u"MS Shell Dlg", -11, kRegular, ANSI_CHARSET);
 }
 

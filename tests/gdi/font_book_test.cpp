@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "base/unicode.h"
+#include "gdi/object_table.h"
 #include "platform/fonts/fontconfig_catalog.h"
 #include "support/files.h"
 #include "support/fonts.h"
@@ -245,6 +246,14 @@ TEST_F(AFontBook, TellsWhatCodesOfSymbolsMean) {
   EXPECT_EQ(book.Resolve(Named(u"Nowhere;Wingdings"), kPixel).symbols,
             FindSymbolEncoding(u"Wingdings"));
   EXPECT_EQ(book.Resolve(Named(u"Arial;Wingdings"), kPixel).symbols, nullptr);
+}
+
+// A hundredth of a millimetre is a logical unit, and a pixel 26.46 of them.
+TEST_F(AFontBook, HasTheSystemsFontInPixelsWhateverTheMapping) {
+  const ObjectTable objects;
+  const TextFont& font = book.Resolve(*objects.Find<const LogFont>(SYSTEM_FONT), 2540.0 / 96);
+  EXPECT_NEAR(font.ascent + font.descent, 16 * 2540.0 / 96, kNear);
+  EXPECT_EQ(FaceOf(font), "LiberationSans-Bold");
 }
 
 TEST_F(AFontBook, SaysOnceWhatWasTakenForEachName) {

@@ -125,8 +125,8 @@ TEST(StockObjects, HaveSevenFonts) {
     std::int32_t height;
   } rows[] = {
       {OEM_FIXED_FONT, u"Terminal", 12},        {ANSI_FIXED_FONT, u"Courier", 12},
-      {ANSI_VAR_FONT, u"MS Sans Serif", 12},    {SYSTEM_FONT, u"System", 16},
-      {DEVICE_DEFAULT_FONT, u"System", 16},     {SYSTEM_FIXED_FONT, u"Fixedsys", 16},
+      {ANSI_VAR_FONT, u"MS Sans Serif", 12},    {SYSTEM_FONT, u"System", 0},
+      {DEVICE_DEFAULT_FONT, u"System", 0},      {SYSTEM_FIXED_FONT, u"Fixedsys", 0},
       {DEFAULT_GUI_FONT, u"MS Shell Dlg", -11},
   };
   for (const auto& [handle, face, height] : rows) {
