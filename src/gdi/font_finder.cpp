@@ -18,6 +18,13 @@ std::u16string_view WithoutMark(std::u16string_view name) {
   return name.starts_with(u'@') ? name.substr(1) : name;
 }
 
+/// True when a face has the symbols by their codes, or as the characters that they are.
+bool Shows(const Typeface& face, const SymbolEncoding& symbols) {
+  constexpr char16_t kAnyCode = u'a';
+  return face.Font()->Description().hasSymbolCodes ||
+         face.GlyphFor(symbols.CharacterOf(kAnyCode)).has_value();
+}
+
 }  // namespace
 
 FoundFont FontFinder::Find(std::u16string_view faceName, PitchAndFamily kind) {
@@ -41,8 +48,8 @@ std::optional<FoundFont> FontFinder::FindKnown(std::u16string_view faceName) {
   for (std::u16string_view rest = faceName; !rest.empty();) {
     const std::size_t end = std::min(rest.find(u';'), rest.size());
     const std::u16string_view name = WithoutMark(Trimmed(rest.substr(0, end)));
-    auto found = FindOne(ToUTF8(name));
-    if (!found) found = FindInstead(BaseOfSymbols(name));
+    const SymbolEncoding* const symbols = FindSymbolEncoding(name);
+    auto found = symbols == nullptr ? FindOne(ToUTF8(name)) : FindSymbols(ToUTF8(name), *symbols);
     if (found) {
       found->name = name;
       return found;
@@ -58,6 +65,18 @@ std::optional<FoundFont> FontFinder::FindOne(const std::string& name) {
   if (auto found = FindNamed(name)) return found;
   const auto shorter = WithoutScript(name);
   return shorter ? FindOne(*shorter) : std::nullopt;
+}
+
+// What stands elsewhere for a font of symbols may have them in the place of letters and signs.
+std::optional<FoundFont> FontFinder::FindSymbols(const std::string& name,
+                                                 const SymbolEncoding& symbols) {
+  if (auto found = FindWished(name)) return found;
+  const auto found = FindInstalled(name);
+  if (found) {
+    const StyledFace& face = registry_.Style(found->font, false, false, AnyFont).Face();
+    if (Shows(*face.typeface, symbols)) return found;
+  }
+  return FindInstead(BaseOfSymbols(symbols));
 }
 
 // A wish is taken by the letter where it can be: a font is had by its name even if Windows means
@@ -83,7 +102,7 @@ std::optional<FoundFont> FontFinder::FindNamed(std::string_view name) {
   return found;
 }
 
-/// @param name  not the one that was asked for; perhaps empty.
+/// @param name  not the one that was asked for.
 std::optional<FoundFont> FontFinder::FindInstead(std::string_view name) {
   auto found = FindNamed(name);
   if (found) found->isOriginal = false;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "gdi/font_map.h"
+#include "gdi/symbol_encoding.h"
 #include "metafile/gdi_objects.h"
 #include "platform/fonts/font_registry.h"
 
@@ -39,6 +40,7 @@ class FontFinder {
  private:
   std::optional<FoundFont> FindKnown(std::u16string_view faceName);
   std::optional<FoundFont> FindOne(const std::string& name);
+  std::optional<FoundFont> FindSymbols(const std::string& name, const SymbolEncoding& symbols);
   std::optional<FoundFont> FindWished(const std::string& name);
   std::optional<FoundFont> FindNamed(std::string_view name);
   std::optional<FoundFont> FindInstead(std::string_view name);

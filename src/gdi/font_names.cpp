@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "gdi/font_map.h"
-#include "gdi/symbol_encoding.h"
 #include "gdi/symbol_tables.h"
 
 namespace kelvane {
@@ -46,10 +45,8 @@ const WindowsFontName* FindWindowsFontName(std::string_view name) {
   return row == std::end(kWindowsNames) ? nullptr : row;
 }
 
-std::string_view BaseOfSymbols(std::u16string_view name) {
-  const SymbolEncoding* const symbols = FindSymbolEncoding(name);
-  if (symbols == nullptr) return {};
-  const bool isForFormulas = symbols == &kSymbol || symbols == &kMTExtra;
+std::string_view BaseOfSymbols(const SymbolEncoding& symbols) {
+  const bool isForFormulas = &symbols == &kSymbol || &symbols == &kMTExtra;
   return isForFormulas ? kSerif : kSans;
 }
 

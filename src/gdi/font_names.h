@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "gdi/symbol_encoding.h"
 #include "metafile/gdi_objects.h"
 
 namespace kelvane {
@@ -24,9 +25,8 @@ struct WindowsFontName {
 /// @return null for a name that stands for itself.
 const WindowsFontName* FindWindowsFontName(std::string_view name);
 
-/// @return for a font of symbols the face next to which those of other faces look at home; empty
-///         for any other font.
-std::string_view BaseOfSymbols(std::u16string_view name);
+/// @return the face next to which symbols from other faces look at home.
+std::string_view BaseOfSymbols(const SymbolEncoding& symbols);
 
 /// @return what a name has before the end that only says which script the font is wanted for;
 ///         nothing when it has none.

@@ -220,13 +220,43 @@ TEST_F(AFontName, OfSymbolsLeadsToLettersThatGoWithThem) {
   EXPECT_EQ(Find(u"Symbol;Arial").name, u"Symbol");
 }
 
-TEST(AFontNameOfSymbols, IsThatOfAnInstalledFontFirst) {
-  const test::OtherFonts fonts({test::kLiberationSans, test::kJunction},
-                               Renamed("Junction", "Symbol"));
+TEST(AFontNameOfSymbols, IsThatOfAnInstalledFontWithTheirCharacters) {
+  const test::OtherFonts fonts({test::kLiberationSans, test::kDejaVuSans},
+                               Renamed("DejaVu Sans", "Symbol"));
   FontRegistry registry;
   const FoundFont found = FontFinder(registry, {}).Find(u"Symbol", kAnyKind);
   EXPECT_EQ(FamilyOf(registry, found), "Symbol");
   EXPECT_TRUE(found.isOriginal);
+}
+
+TEST(AFontNameOfSymbols, IsThatOfAnInstalledFontWithTheirCodes) {
+  constexpr std::size_t kEncodingOfThirdSubtable = 4 + 2 * 8 + 2;  // which is Windows' Unicode one
+  test::OtherFonts fonts({}, Renamed("Liberation Sans", "Wingdings"));
+  fonts.Add("font.ttf",
+            test::WithField(test::kLiberationSans, "cmap", kEncodingOfThirdSubtable, 0));
+  FontRegistry registry;
+  const FoundFont found = FontFinder(registry, {}).Find(u"Wingdings", kAnyKind);
+  EXPECT_TRUE(found.isOriginal);
+}
+
+// Junction has no Greek letters: as a font of symbols, it would have them in the place of Latin
+// ones, and a cross in the place of a dot.
+TEST(AFontNameOfSymbols, IsNotThatOfAFontWithSymbolsInThePlaceOfLetters) {
+  test::OtherFonts fonts({test::kLiberationSans, test::kJunction}, Renamed("Junction", "Symbol"));
+  fonts.Alias("Times New Roman", "Liberation Sans");
+  FontRegistry registry;
+  ASSERT_NE(registry.FindInstalled("Symbol"), kNoFont);
+  const FoundFont found = FontFinder(registry, {}).Find(u"Symbol", kAnyKind);
+  EXPECT_EQ(FamilyOf(registry, found), "Liberation Sans");
+}
+
+TEST(AFontNameOfSymbols, DoesNotLeadToWhatStandsForItElsewhere) {
+  test::OtherFonts fonts({test::kLiberationSans, test::kJunction});
+  fonts.Alias("Symbol", "Junction");
+  fonts.Alias("Times New Roman", "Liberation Sans");
+  FontRegistry registry;
+  const FoundFont found = FontFinder(registry, {}).Find(u"Symbol", kAnyKind);
+  EXPECT_EQ(FamilyOf(registry, found), "Liberation Sans");
 }
 
 TEST_F(AFontName, MayBeNoUnicode) {
