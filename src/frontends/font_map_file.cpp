@@ -14,7 +14,7 @@
 namespace kelvane {
 namespace {
 
-constexpr std::size_t kMostBytes = 1024 * 1024;
+constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
 
 struct FileCloser {
   void operator()(std::FILE* file) const noexcept { (void)std::fclose(file); }

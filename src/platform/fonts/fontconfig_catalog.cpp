@@ -152,7 +152,8 @@ class FontconfigFaces final : public FaceSet {
       std::vector<Face> faces;
       for (const std::size_t place : places)
         faces.push_back(faces_[place]);
-      std::ranges::stable_partition(faces, &Face::isPreferred);
+      std::stable_partition(faces.begin(), faces.end(),
+                            [](const Face& face) { return face.isPreferred; });
       for (std::size_t i = 0; i < places.size(); ++i)
         faces_[places[i]] = faces[i];
     }
