@@ -10,7 +10,7 @@
 namespace kelvane {
 namespace {
 
-constexpr std::size_t kMebibyte = 1024 * 1024;
+constexpr std::size_t kMebibyte = std::size_t{1024} * 1024;
 
 /// @return what is said of a text that is refused; empty when it is not.
 std::string ComplaintAbout(std::string_view text) {

@@ -32,8 +32,7 @@ class FontDirectories : public testing::Test {
   [[nodiscard]] std::vector<std::string> Directories() const { return {directory.Path()}; }
 
   FontRegistry Registry() {
-    return FontRegistry([this] { return OpenInstalledFonts(Directories()); },
-                        [this] { return now; });
+    return {[this] { return OpenInstalledFonts(Directories()); }, [this] { return now; }};
   }
 
   test::OtherFonts installed{{test::kLiberationSans}};
