@@ -42,6 +42,7 @@ CLASSIC = "kelvaneConverter"  # writes beside its input
 class Tools:
     converter: Path
     inspector: Path
+    page: str = "frame"  # what becomes the page, as the converter's option has it
 
 
 @dataclass(frozen=True)
@@ -69,7 +70,7 @@ def page_text(tools: Tools, metafile: Path) -> str:
         if tools.converter.name == CLASSIC:
             output_of([tools.converter, shutil.copyfile(metafile, document.with_suffix(".emf"))], "no document")
         else:
-            output_of([tools.converter, "-o", document, metafile], "no document")
+            output_of([tools.converter, "--page", tools.page, "-o", document, metafile], "no document")
         return output_of(["pdftotext", "-raw", "-enc", "UTF-8", document, "-"], "no text").decode()
 
 
@@ -128,6 +129,7 @@ def arguments() -> argparse.Namespace:
     parser.add_argument("paths", nargs="*", type=Path, metavar="PATH", help="metafiles, folders of them (the scenes)")
     parser.add_argument("--tool", type=Path, required=True, help=f"the converter: kelvane, or {CLASSIC}")
     parser.add_argument("--inspector", type=Path, help="the kelvane that dumps records (the one beside the converter)")
+    parser.add_argument("--page", default="frame", help="what becomes the page: frame, or bounds, which may show more")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), metavar="N", help="so many at once")
     parser.add_argument("--most", type=float, metavar="PERCENT", help="fail when more of the words are missing")
     return parser.parse_args()
@@ -136,7 +138,7 @@ def arguments() -> argparse.Namespace:
 def main() -> int:
     options = arguments()
     converter = options.tool.resolve()
-    tools = Tools(converter, options.inspector or converter.with_name("kelvane"))
+    tools = Tools(converter, options.inspector or converter.with_name("kelvane"), options.page)
     metafiles = list(metafiles_in(options.paths or [subjects.SCENES]))
     with Pool(options.jobs) as pool:
         verdicts = pool.map(partial(verdict_on, tools=tools), metafiles, chunksize=1)

@@ -199,7 +199,7 @@ class Files(unittest.TestCase):
     def tool_of(self, dump: list[str], content: str) -> Path:
         (self.folder / "dump").write_text("".join(line + "\n" for line in dump))
         (self.folder / "page").write_bytes(pdf(content))
-        return self.tool('if [ "$1" = dump ]; then cat dump; else cp page "$2"; fi')
+        return self.tool('if [ "$1" = dump ]; then cat dump; else cp page "$4"; fi')
 
     def test_have_a_tally_and_texts_apart(self) -> None:
         apart = [text_out("1:3"), font(1, "Symbol"), select(1), text_out('"a"')]
@@ -217,6 +217,12 @@ class Files(unittest.TestCase):
     def test_have_text_as_often_as_it_is_drawn(self) -> None:
         content = "BT /F 12 Tf 20 20 Td (bold) Tj .3 0 Td (bold) Tj ET"
         self.assertEqual(self.verdict(self.tool_of([text_out('"bold"')] * 2, content)).tally.missing, [])
+
+    def test_have_the_page_that_is_asked_for(self) -> None:
+        tool = self.tool('if [ "$1" = dump ]; then exit 0; fi; [ "$1 $2" = "--page bounds" ] && exit 4; exit 5')
+        tools = words.Tools(tool, tool, "bounds")
+        self.assertEqual(words.verdict_on(self.folder / "plan.emf", tools).trouble, "no document: exit status 4")
+        self.assertEqual(self.verdict(tool).trouble, "no document: exit status 5")
 
     def test_without_a_document_lack_all_their_words(self) -> None:
         (self.folder / "dump").write_text(text_out('"one two"') + "\n")
