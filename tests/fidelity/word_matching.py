@@ -50,12 +50,14 @@ class PageText:
 class Tally:
     words: int = 0
     missing: list[str] = field(default_factory=list)
+    beyond: int = 0  # found only beyond the page
     torn: int = 0  # found only when blanks do not count
     scattered: int = 0  # records of which all words were found, but not behind each other
 
     def add(self, other: "Tally") -> None:
         self.words += other.words
         self.missing += other.missing
+        self.beyond += other.beyond
         self.torn += other.torn
         self.scattered += other.scattered
 

@@ -4,7 +4,8 @@
 Words are what blanks separate. They are compared as text: ligatures count as their letters, wide and narrow letters
 and all kinds of blanks are the same, and what shows nothing (controls, marks of direction) does not count. The text of
 the PDF is that of pdftotext -raw, in the order of drawing, which is that of the records: a line stays a line at any
-angle, and text that is drawn twice is there twice. It lacks what lies beyond the page.
+angle, and text that is drawn twice is there twice. What it has only when the page is made larger lies "beyond" it, and
+is not missing: metafiles draw there, too.
 
 Each record is looked for as a whole, the longest first, and then its words; what was found is found once. A word that
 is there only when blanks do not count, split or joined to that of another record, is "torn" and not missing. A record
@@ -12,11 +13,13 @@ of which all words are there, but not behind each other, is "scattered". Apart a
 by their codes: in fonts of symbols, of glyph numbers, and in path brackets. Bytes are decoded by the character set of
 their font.
 
-Columns: words, missing, their share, torn, scattered; then the first of the missing words, or why there is no document.
+Columns: words, missing, their share, beyond, torn, scattered; then the first of the missing words, or why there is no
+document.
 """
 
 import argparse
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -64,14 +67,30 @@ def output_of(command: list[str | Path], trouble: str) -> bytes:
     return done.stdout
 
 
-def page_text(tools: Tools, metafile: Path) -> str:
+def widened(document: bytes) -> bytes:
+    """With a page that has all there is on it. Without a start of its table readers make a new one."""
+    wide = re.sub(rb"/MediaBox ?\[[^]]*\]", b"/MediaBox [-99999 -99999 99999 99999]", document, count=1)
+    return wide.replace(b"startxref", b"")
+
+
+def words_on(document: Path) -> list[str]:
+    return words_of(output_of(["pdftotext", "-raw", "-enc", "UTF-8", document, "-"], "no text").decode())
+
+
+def tally_of(records: list[list[str]], tools: Tools, metafile: Path) -> Tally:
     with tempfile.TemporaryDirectory() as name:
         document = Path(name) / "page.pdf"
         if tools.converter.name == CLASSIC:
             output_of([tools.converter, shutil.copyfile(metafile, document.with_suffix(".emf"))], "no document")
         else:
             output_of([tools.converter, "--page", tools.page, "-o", document, metafile], "no document")
-        return output_of(["pdftotext", "-raw", "-enc", "UTF-8", document, "-"], "no text").decode()
+        shown = compare(records, words_on(document))
+        if not shown.missing:
+            return shown
+        document.write_bytes(widened(document.read_bytes()))
+        drawn = compare(records, words_on(document))
+        drawn.beyond = len(shown.missing) - len(drawn.missing)
+        return drawn
 
 
 def texts_of(tools: Tools, metafile: Path) -> list[Text]:
@@ -86,7 +105,7 @@ def verdict_on(metafile: Path, tools: Tools) -> Verdict:
         apart = Counter(text.kind for text in texts if text.kind != Kind.WORDS)
         records = [words_of(text.characters) for text in texts if text.kind == Kind.WORDS]
         tally = compare(records, [])  # all is missing, unless there is a page
-        tally = compare(records, words_of(page_text(tools, metafile)))
+        tally = tally_of(records, tools, metafile)
     except pictures.Failure as failure:
         trouble = str(failure)
     return Verdict(metafile, tally, apart, trouble)
@@ -103,12 +122,14 @@ def metafiles_in(paths: list[Path]) -> Iterator[Path]:
 
 def numbers(tally: Tally) -> str:
     missing = f"{tally.words:6} words {len(tally.missing):6} missing {tally.share:6.1%}"
-    return f"{missing} {tally.torn:5} torn {tally.scattered:4} scattered"
+    return f"{missing} {tally.beyond:5} beyond {tally.torn:5} torn {tally.scattered:4} scattered"
 
 
 def print_table(verdicts: list[Verdict]) -> None:
     """Files that have words, or trouble."""
-    for verdict in sorted(verdicts, key=lambda verdict: (-verdict.tally.share, verdict.metafile)):
+    for verdict in sorted(
+        verdicts, key=lambda verdict: (-verdict.tally.share, -verdict.tally.beyond, verdict.metafile)
+    ):
         if verdict.tally.words or verdict.trouble:
             note = verdict.trouble or " ".join(verdict.tally.missing[:SHOWN])
             print(f"{verdict.metafile.stem[-48:]:48} {numbers(verdict.tally)}  {note}".rstrip())

@@ -159,9 +159,9 @@ class Matching(unittest.TestCase):
         self.assertEqual(Tally().share, 0)
 
     def test_adds_up(self) -> None:
-        total = Tally(3, ["a"], 1, 0)
-        total.add(Tally(1, ["b"], 0, 1))
-        self.assertEqual(total, Tally(4, ["a", "b"], 1, 1))
+        total = Tally(3, ["a"], beyond=2, torn=1)
+        total.add(Tally(1, ["b"], beyond=1, scattered=1))
+        self.assertEqual(total, Tally(4, ["a", "b"], beyond=3, torn=1, scattered=1))
         self.assertEqual(total.share, 0.5)
 
 
@@ -218,6 +218,11 @@ class Files(unittest.TestCase):
         content = "BT /F 12 Tf 20 20 Td (bold) Tj .3 0 Td (bold) Tj ET"
         self.assertEqual(self.verdict(self.tool_of([text_out('"bold"')] * 2, content)).tally.missing, [])
 
+    def test_may_draw_beyond_the_page(self) -> None:
+        content = "BT /F 12 Tf 20 200 Td (on) Tj 0 200 Td (above) Tj -900 -500 Td (below) Tj ET"
+        dump = [text_out('"on above"'), text_out('"below"'), text_out('"gone"')]
+        self.assertEqual(self.verdict(self.tool_of(dump, content)).tally, Tally(4, ["gone"], beyond=2))
+
     def test_have_the_page_that_is_asked_for(self) -> None:
         tool = self.tool('if [ "$1" = dump ]; then exit 0; fi; [ "$1 $2" = "--page bounds" ] && exit 4; exit 5')
         tools = words.Tools(tool, tool, "bounds")
@@ -260,8 +265,8 @@ class Files(unittest.TestCase):
         status, printed = self.run_with()
         self.assertEqual(status, 0)
         lines = [" ".join(line.split()) for line in printed.splitlines()]
-        self.assertEqual(lines[0], "plan 2 words 1 missing 50.0% 0 torn 0 scattered gone")
-        self.assertEqual(lines[1], "== 1 files 2 words 1 missing 50.0% 0 torn 0 scattered")
+        self.assertEqual(lines[0], "plan 2 words 1 missing 50.0% 0 beyond 0 torn 0 scattered gone")
+        self.assertEqual(lines[1], "== 1 files 2 words 1 missing 50.0% 0 beyond 0 torn 0 scattered")
 
     def test_may_lack_no_more_than_is_said(self) -> None:
         self.assertEqual(self.run_with("--most", "50")[0], 0)
