@@ -56,12 +56,19 @@ TextFrame CompatibleFrame(const LogFont& font, const TextFont& face, const Trans
           Scaled(upright, face.em * yScale), alongScale > 0 ? width / alongScale : 0};
 }
 
+/// A layout from right to left mirrors the page, but what is written on it stays readable.
+TransformD WithoutLayout(const Mapping& mapping) {
+  const bool isMirrored = (mapping.LayoutFlags() & LAYOUT_RTL) != 0;
+  return isMirrored ? mapping.ToDevice().Then({-1, 0, 0, 1}) : mapping.ToDevice();
+}
+
 }  // namespace
 
 TextFrame FrameOf(const LogFont& font, const TextFont& face, const Mapping& mapping,
                   GraphicsMode mode) {
-  return mode == GM_ADVANCED ? AdvancedFrame(font, face, mapping.ToDevice())
-                             : CompatibleFrame(font, face, mapping.ToDevice());
+  const TransformD toDevice = WithoutLayout(mapping);
+  return mode == GM_ADVANCED ? AdvancedFrame(font, face, toDevice)
+                             : CompatibleFrame(font, face, toDevice);
 }
 
 }  // namespace kelvane
