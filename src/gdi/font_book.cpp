@@ -10,6 +10,7 @@
 #include "base/unicode.h"
 #include "gdi/font_finder.h"
 #include "gdi/font_names.h"
+#include "gdi/symbol_encoding.h"
 
 namespace kelvane {
 namespace {
@@ -89,6 +90,12 @@ TextFont Measured(const FontStyle& style) {
   return font;
 }
 
+/// A font that is not there and of which only is known that it has symbols.
+bool IsSymbolOfNoName(const LogFont& font, const TextFont& text) {
+  return font.charSet == SYMBOL_CHARSET && text.symbols == nullptr && !text.hasSymbolGlyphs &&
+         !text.isAsAsked;
+}
+
 /// @param height  of a logical font; above 0 the cell's, below the em's.
 double EmOf(double height, double pixel, double cellInEms) {
   if (height < 0) return -height;
@@ -103,6 +110,7 @@ const TextFont& FontBook::Resolve(const LogFont& font, double pixel) {
   if (known != fonts_.end()) return known->second;
   const Face& face = FaceOf(font);
   TextFont text = face.text;
+  if (IsSymbolOfNoName(font, text)) text.symbols = FindSymbolEncoding(u"Symbol");
   text.em = EmOf(font.height, pixel, text.ascent + text.descent);
   text.ascent *= text.em;
   text.descent *= text.em;
@@ -140,8 +148,8 @@ FontBook::Face FontBook::MakeFace(const FaceKey& key) {
   const FontStyle& any = registry_.Style(found.font, false, false, AnyFont);
   const bool isOriginal = found.isOriginal && style.Family() == any.Family();
   Face face = {Measured(style), AverageWidth(*style.Face().typeface, isOriginal)};
-  face.text.symbols = FindSymbolEncoding(found.name);
   face.text.isAsAsked = isOriginal;
+  if (!face.text.hasSymbolGlyphs) face.text.symbols = FindSymbolEncoding(found.name);
   face.text.isVertical = name.starts_with(u'@');
   return face;
 }

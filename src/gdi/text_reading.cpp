@@ -41,14 +41,19 @@ void TakeGlyphs(const TextFont& font, WrittenText& text) {
   }
 }
 
-/// Codes of a font of symbols become what they show. A face that has the codes keeps them.
+constexpr bool IsSymbolCode(char16_t unit) {
+  return unit < 0x100 || (unit >= 0xF000 && unit < 0xF100);
+}
+
+/// Codes of a font of symbols become what they show, other characters stay.
 void TakeSymbols(const SymbolEncoding& symbols, WrittenText& text) {
   std::u16string units;
   std::vector<PointD> advances;
   units.reserve(text.units.size());
   advances.reserve(text.advances.size());
   for (std::size_t i = 0; i < text.units.size(); ++i) {
-    const char32_t character = symbols.CharacterOf(text.units[i]);
+    const char16_t unit = text.units[i];
+    const char32_t character = IsSymbolCode(unit) ? symbols.CharacterOf(unit) : unit;
     const std::size_t before = units.size();
     if (character < 0x10000) {
       units += static_cast<char16_t>(character);
@@ -91,7 +96,9 @@ void ReadText(const TextPlacing& placing, std::u16string units, const TextFont& 
 void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont& asked,
               const TextFont& font, WrittenText& text) {
   Clear(text);
-  DecodedBytes decoded = DecodeBytes(bytes, asked.charSet, FaceNameOf(asked));
+  const bool areSymbols = font.symbols != nullptr || font.hasSymbolGlyphs;
+  DecodedBytes decoded =
+      DecodeBytes(bytes, areSymbols ? SYMBOL_CHARSET : asked.charSet, FaceNameOf(asked));
   text.units = std::move(decoded.text);
   if (!placing.advances.empty()) {
     for (std::size_t unit = 0; unit < text.units.size(); ++unit) {

@@ -8,6 +8,7 @@
 
 #include "base/unicode.h"
 #include "gdi/object_table.h"
+#include "gdi/symbol_encoding.h"
 #include "platform/fonts/fontconfig_catalog.h"
 #include "support/files.h"
 #include "support/fonts.h"
@@ -254,6 +255,29 @@ TEST_F(AFontBook, HasTheSystemsFontInPixelsWhateverTheMapping) {
   const TextFont& font = book.Resolve(*objects.Find<const LogFont>(SYSTEM_FONT), 2540.0 / 96);
   EXPECT_NEAR(font.ascent + font.descent, 16 * 2540.0 / 96, kNear);
   EXPECT_EQ(FaceOf(font), "LiberationSans-Bold");
+}
+
+TEST_F(AFontBook, TakesUnknownSymbolsForThoseOfSymbol) {
+  const auto symbolsOf = [&](std::u16string_view name) {
+    LogFont font = Named(name);
+    font.charSet = SYMBOL_CHARSET;
+    return book.Resolve(font, kPixel).symbols;
+  };
+  EXPECT_EQ(symbolsOf(u"Nowhere"), FindSymbolEncoding(u"Symbol"));
+  EXPECT_EQ(symbolsOf(u"Webdings"), FindSymbolEncoding(u"Webdings"));
+  EXPECT_EQ(symbolsOf(u"Liberation Sans"), nullptr);
+}
+
+TEST(AFontOfSymbols, KeepsItsCodesWhereItIsThere) {
+  constexpr std::size_t kEncodingOfThirdSubtable = 4 + 2 * 8 + 2;  // which is Windows' Unicode one
+  const test::TemporaryFolder folder;
+  test::WriteFile(folder / "font",
+                  test::WithField(test::kLiberationSans, "cmap", kEncodingOfThirdSubtable, 0));
+  FontRegistry registry([&] { return OpenFontFiles({folder / "font"}); });
+  FontMap map;
+  map.Add("Symbol", "Liberation Sans");
+  FontBook book(registry, AnyFont, map);
+  EXPECT_EQ(book.Resolve(Named(u"Symbol"), kPixel).symbols, nullptr);
 }
 
 TEST_F(AFontBook, SaysOnceWhatWasTakenForEachName) {

@@ -52,6 +52,14 @@ class StoredNumbers : public StoredArray<std::uint32_t> {
   }
 };
 
+class StoredAdvances : public StoredArray<std::int32_t> {
+ public:
+  StoredAdvances(std::initializer_list<std::int32_t> advances) {
+    for (const std::int32_t advance : advances)
+      Add(static_cast<std::uint32_t>(advance));
+  }
+};
+
 class StoredPoints : public StoredArray<PointL> {
  public:
   StoredPoints(std::initializer_list<PointL> points) {
