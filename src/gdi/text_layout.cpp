@@ -50,7 +50,11 @@ class LinePlacer {
     const StyledFace& face = style_.Face();
     for (std::size_t at = 0; at < units_.size(); ++at) {
       const CGGlyph glyph = units_[at];
-      Put(face, {glyph, Here(), {}});
+      if (face.typeface->HasGlyph(glyph)) {
+        Put(face, {glyph, Here(), {}});
+      } else {
+        line_.lacksCharacters = true;
+      }
       Advance(at, 1, face.typeface->Font()->Advance(glyph));
     }
   }

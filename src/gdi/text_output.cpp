@@ -122,7 +122,14 @@ void AddRules(const SetLine& line, const LogFont& asked, const TextFont& font, C
   if (asked.strikeOut != 0) add(font.strikeOut);
 }
 
+/// Recorders that have no rectangle store one with its corners at 0 and -1.
+bool HasArea(const RectangleL& rectangle) {
+  return rectangle.left != rectangle.right && rectangle.top != rectangle.bottom &&
+         rectangle != RectangleL{0, 0, -1, -1};
+}
+
 void FillRectangle(DeviceContext& device, const RectangleL& rectangle) {
+  if (!HasArea(rectangle)) return;
   FigurePath figures(device.scratch, device.state.mapping.ToDevice());
   figures.AddPlainRectangle(Exactly(rectangle));
   FillWith(device, device.scratch, ALTERNATE, ResolveColor(device, device.state.backgroundColor),
@@ -164,6 +171,7 @@ void Write(DeviceContext& device, const TextPlacing& placing, const TextFont& fo
   if (device.state.bracket) return AddToBracket(device, line, font);
   const bool isClipped = (placing.options & ETO_CLIPPED) != 0;
   if (!isClipped || (placing.options & ETO_NO_RECT) != 0) return Draw(device, line, font);
+  if (!HasArea(placing.rectangle)) return;
   const ClipState clip = device.state.clip;
   IntersectClipRect(device, placing.rectangle);
   Draw(device, line, font);

@@ -61,7 +61,7 @@ WrittenText ReadBytes(std::string_view bytes, const LogFont& asked, const TextPl
 
 using Advances = std::vector<PointD>;
 
-TEST(Text, IsReadAsItStands) {
+TEST(TextOfACall, IsReadAsItStands) {
   const WrittenText text = Read(u"a\t\u03B1\xD800");
   EXPECT_EQ(text.units, u"a\t\u03B1\xD800");
   EXPECT_TRUE(text.advances.empty());
@@ -69,15 +69,15 @@ TEST(Text, IsReadAsItStands) {
   EXPECT_FALSE(text.hasUnknownGlyphs);
 }
 
-TEST(Text, HasAnAdvanceAUnit) {
+TEST(TextOfACall, HasAnAdvanceAUnit) {
   EXPECT_EQ(Read(u"abc", With({3, -5, 0})).advances, (Advances{{3, 0}, {-5, 0}, {0, 0}}));
 }
 
-TEST(Text, HasPairsOfAdvancesAlongTheLineAndUp) {
+TEST(TextOfACall, HasPairsOfAdvancesAlongTheLineAndUp) {
   EXPECT_EQ(Read(u"ab", With({3, 4, -5, -6}, true)).advances, (Advances{{3, 4}, {-5, -6}}));
 }
 
-TEST(Text, ForgetsWhatWasReadBefore) {
+TEST(TextOfACall, ForgetsWhatWasReadBefore) {
   WrittenText text = Read({3, 200}, OfGlyphs());
   ReadText({}, u"a", {}, text);
   EXPECT_FALSE(text.hasUnknownGlyphs);

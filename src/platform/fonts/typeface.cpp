@@ -93,6 +93,10 @@ std::unique_ptr<const Typeface> Typeface::StandardHelvetica() {
       new Typeface(CFShare(CGFontGetStandardHelvetica()), std::move(shaper)));
 }
 
+bool Typeface::HasGlyph(CGGlyph glyph) const {
+  return glyph < hb_face_get_glyph_count(hb_font_get_face(shaper_.get()));
+}
+
 std::optional<CGGlyph> Typeface::GlyphFor(char32_t character) const {
   hb_codepoint_t glyph = 0;
   if (hb_font_get_nominal_glyph(shaper_.get(), character, &glyph) == 0) return std::nullopt;

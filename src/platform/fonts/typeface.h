@@ -29,6 +29,9 @@ class Typeface {
   /// @return the glyph that the face maps the character to.
   [[nodiscard]] std::optional<CGGlyph> GlyphFor(char32_t character) const;
 
+  /// @return whether a glyph of the face has the number.
+  [[nodiscard]] bool HasGlyph(CGGlyph glyph) const;
+
   /// True when the face has a glyph 0 to show where another is missing.
   [[nodiscard]] bool ShowsMissing() const {
     return font_->Description().outlines != CGFontOutlines::kStandard;
