@@ -18,9 +18,10 @@ TEST(EmfHandler, IsNoneOfANumberThatIsNoRecord) {
 
 TEST(EmfHandler, StandsInOneTable) {
   std::vector<std::size_t> count(kEmfRecordTypes);
-  for (const auto& table : {EmfLineHandlers(), EmfShapeHandlers(), EmfPathHandlers(),
-                            EmfClipHandlers(), EmfStateHandlers(), EmfObjectHandlers(),
-                            EmfBitmapHandlers(), EmfCommentHandlers(), EmfUnplayedHandlers()}) {
+  for (const auto& table :
+       {EmfLineHandlers(), EmfShapeHandlers(), EmfPathHandlers(), EmfClipHandlers(),
+        EmfStateHandlers(), EmfObjectHandlers(), EmfBitmapHandlers(), EmfTextHandlers(),
+        EmfCommentHandlers(), EmfUnplayedHandlers()}) {
     for (const EmfHandler& row : table)
       EXPECT_EQ(++count[row.type], 1U) << RecordName(row.type);
   }
