@@ -48,42 +48,58 @@ PageFrame OnPage(const Canvas& canvas, const TextFrame& frame, PointD origin) {
   return {matrix, size};
 }
 
+void DrawRun(CGContext& surface, PlacedRun& run, const TransformD& lineToEms,
+             const PageFrame& page) {
+  for (CGPositionedGlyph& glyph : run.glyphs) {
+    const PointD ems = lineToEms.MapVector({glyph.origin.x, glyph.origin.y});
+    glyph.origin = {static_cast<CGFloat>(ems.x * page.size),
+                    static_cast<CGFloat>(ems.y * page.size)};
+  }
+  surface.DrawGlyphRun({run.face.typeface->Font(), page.size, page.matrix, run.glyphs,
+                        run.face.isSlanted, run.face.isEmboldened});
+}
+
+/// @return the em of a run's glyphs as they lie on the device, in units of the face.
+TransformD GlyphsToDevice(const PlacedRun& run, const TextFrame& frame) {
+  const double units = run.face.typeface->Font()->Description().unitsPerEm;
+  const TransformD matrix = {frame.glyphAlong.x / units, frame.glyphAlong.y / units,
+                             frame.glyphUp.x / units, frame.glyphUp.y / units};
+  return run.face.isSlanted ? TransformD{1, 0, kCGSlant.c, 1}.Then(matrix) : matrix;
+}
+
 }  // namespace
 
 void DrawGlyphs(DeviceContext& device, PlacedLine& line, const TextFrame& frame, PointD origin,
                 RgbColor color) {
-  const auto lineToEms = LineToEms(frame);
-  if (!lineToEms || !BringClip(device)) return;
+  if (!BringClip(device)) return;
   CGContext& surface = device.canvas->Surface();
   surface.SetFillColor(ColorOnPage(color));
   surface.SetFillPattern(nullptr);
   surface.SetBlendMode(kCGBlendModeNormal);
-  const PageFrame page = OnPage(*device.canvas, frame, origin);
   for (PlacedRun& run : line.runs) {
-    for (CGPositionedGlyph& glyph : run.glyphs) {
-      const PointD ems = lineToEms->MapVector({glyph.origin.x, glyph.origin.y});
-      glyph.origin = {static_cast<CGFloat>(ems.x * page.size),
-                      static_cast<CGFloat>(ems.y * page.size)};
-    }
-    surface.DrawGlyphRun({run.face.typeface->Font(), page.size, page.matrix, run.glyphs,
-                          run.face.isSlanted, run.face.isEmboldened});
+    const TextFrame runFrame = run.isTurned ? frame.Turned() : frame;
+    const auto lineToEms = LineToEms(runFrame);
+    if (lineToEms) DrawRun(surface, run, *lineToEms, OnPage(*device.canvas, runFrame, origin));
   }
 }
 
-void AddOutlines(const PlacedLine& line, const TextFrame& frame, PointD origin, CGPath& path) {
+bool AddOutlines(DeviceContext& device, const PlacedLine& line, const TextFrame& frame,
+                 PointD origin, CGPath& path) {
+  const bool isKept = device.state.bracket.has_value();  // which costs more than what goes out
   for (const PlacedRun& run : line.runs) {
-    const CGFont& font = *run.face.typeface->Font();
-    const double units = font.Description().unitsPerEm;
-    TransformD matrix = {frame.glyphAlong.x / units, frame.glyphAlong.y / units,
-                         frame.glyphUp.x / units, frame.glyphUp.y / units};
-    if (run.face.isSlanted) matrix = TransformD{1, 0, kCGSlant.c, 1}.Then(matrix);
+    TransformD matrix = GlyphsToDevice(run, run.isTurned ? frame.Turned() : frame);
     for (const CGPositionedGlyph& glyph : run.glyphs) {
       const PointD place = frame.ToDevice({glyph.origin.x, glyph.origin.y});
       matrix.dx = origin.x + place.x;
       matrix.dy = origin.y + place.y;
-      path.AddPath(font.Outline(glyph.glyph), Rounded(matrix));
+      const CGPath outline = run.face.typeface->Font()->Outline(glyph.glyph);
+      const std::size_t elements = outline.Reached().elements;
+      if (device.canvas != nullptr && !device.canvas->Afford(isKept ? elements : elements / 8))
+        return false;
+      path.AddPath(outline, Rounded(matrix));
     }
   }
+  return true;
 }
 
 }  // namespace kelvane

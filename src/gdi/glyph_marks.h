@@ -14,6 +14,8 @@ void DrawGlyphs(DeviceContext& device, PlacedLine& line, const TextFrame& frame,
 
 /// Adds the outlines of a line of text to a path in device units. A face that is made bold keeps
 /// its thin outlines.
-void AddOutlines(const PlacedLine& line, const TextFrame& frame, PointD origin, CGPath& path);
+/// @return false when there are more of them than the file can afford; some are missing then.
+bool AddOutlines(DeviceContext& device, const PlacedLine& line, const TextFrame& frame,
+                 PointD origin, CGPath& path);
 
 }  // namespace kelvane

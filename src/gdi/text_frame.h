@@ -20,6 +20,11 @@ struct TextFrame {
 
   double em = 0;  // logical units of an em along the baseline, by which a face's advances count
 
+  /// The frame of glyphs that are turned a quarter to the left.
+  [[nodiscard]] constexpr TextFrame Turned() const {
+    return {along, up, glyphUp, {-glyphAlong.x, -glyphAlong.y}, em};
+  }
+
   /// @param place  in the line's own axes. @return the distance on the device.
   [[nodiscard]] constexpr PointD ToDevice(PointD place) const {
     return {place.x * along.x + place.y * up.x, place.x * along.y + place.y * up.y};

@@ -25,6 +25,18 @@ bool IsPlain(char16_t unit) {
       kRanges, [unit](const Range& range) { return unit >= range.first && unit <= range.last; });
 }
 
+/// Characters of the East that stand upright in lines that run downwards.
+bool IsWide(char32_t character) {
+  return (character >= 0x1100 && character <= 0x115F) ||
+         (character >= 0x2E80 && character <= 0xA4CF) ||
+         (character >= 0xAC00 && character <= 0xD7A3) ||
+         (character >= 0xF900 && character <= 0xFAFF) ||
+         (character >= 0xFE30 && character <= 0xFE4F) ||
+         (character >= 0xFF01 && character <= 0xFF60) ||
+         (character >= 0xFFE0 && character <= 0xFFE6) ||
+         (character >= 0x20000 && character <= 0x3FFFD);
+}
+
 /// A line on its way from left to right.
 class LinePlacer {
  public:
@@ -34,7 +46,7 @@ class LinePlacer {
         units_(text.units),
         style_(*font.style),
         em_(frame.em),
-        emUp_(font.em),
+        font_(font),
         spacing_(spacing) {}
 
   /// Characters in the order in which they stand there.
@@ -80,8 +92,10 @@ class LinePlacer {
     return {static_cast<CGFloat>(pen_.x), static_cast<CGFloat>(pen_.y)};
   }
 
-  void Put(const StyledFace& face, const CGPositionedGlyph& glyph) {
-    if (line_.runs.empty() || line_.runs.back().face != face) line_.runs.push_back({face, {}});
+  void Put(const StyledFace& face, const CGPositionedGlyph& glyph, bool isTurned = false) {
+    const bool goesOn = !line_.runs.empty() && line_.runs.back().face == face &&
+                        line_.runs.back().isTurned == isTurned;
+    if (!goesOn) line_.runs.push_back({face, {}, isTurned});
     line_.runs.back().glyphs.push_back(glyph);
   }
 
@@ -100,6 +114,7 @@ class LinePlacer {
 
   void PlaceCharacter(char32_t character, std::size_t at, std::size_t units) {
     if (MarksNothing(character) || OnlySteers(character)) return Advance(at, units, 0);
+    if (font_.isVertical && IsWide(character)) return PlaceTurned(character, at, units);
     StyledFace face = style_.Face();
     auto glyph = face.typeface->GlyphFor(character);
     if (!glyph) {
@@ -110,6 +125,18 @@ class LinePlacer {
     if (glyph || face.typeface->ShowsMissing())
       Put(face, {glyph.value_or(0), Here(), units_.substr(at, units)});
     Advance(at, units, face.typeface->Font()->Advance(glyph.value_or(0)));
+  }
+
+  /// A turned glyph has its foot to the right; its cell is as long as the line is high.
+  void PlaceTurned(char32_t character, std::size_t at, std::size_t units) {
+    const StyledFace face = FaceFor(character, style_, true);
+    const auto glyph = face.typeface->VerticalGlyphFor(character);
+    line_.lacksCharacters = line_.lacksCharacters || !glyph;
+    const CGPoint foot = {static_cast<CGFloat>(pen_.x + font_.ascent),
+                          static_cast<CGFloat>(pen_.y - font_.descent)};
+    if (glyph || face.typeface->ShowsMissing())
+      Put(face, {glyph.value_or(0), foot, units_.substr(at, units)}, true);
+    Advance(at, units, (font_.ascent + font_.descent) / em_);
   }
 
   /// Glyphs of one cluster keep their places around its pen; each cluster moves on as its
@@ -124,7 +151,7 @@ class LinePlacer {
         line_.lacksCharacters = line_.lacksCharacters || glyph.glyph == 0;
         Put(run.face, {glyph.glyph,
                        {static_cast<CGFloat>(pen_.x + (glyph.origin.x - from) * em_),
-                        static_cast<CGFloat>(pen_.y + glyph.origin.y * emUp_)},
+                        static_cast<CGFloat>(pen_.y + glyph.origin.y * font_.em)},
                        glyph.text});
         natural += run.moves[i].by;
         ++i;
@@ -141,8 +168,8 @@ class LinePlacer {
   const WrittenText& text_;
   std::u16string_view units_;
   const FontStyle& style_;
-  double em_;    // logical units along the baseline
-  double emUp_;  // logical units up
+  double em_;  // logical units along the baseline
+  const TextFont& font_;
   Spacing spacing_;
   PointD pen_;
   PlacedLine line_;
@@ -155,7 +182,7 @@ PlacedLine PlaceText(const WrittenText& text, const TextFont& font, const TextFr
   LinePlacer placer(text, font, frame, spacing);
   if (text.areGlyphs) {
     placer.PlaceGlyphs();
-  } else if (reading.isOrdered ||
+  } else if (reading.isOrdered || font.isVertical ||
              (!reading.isLeftwards && std::ranges::all_of(text.units, IsPlain))) {
     placer.PlaceInOrder();
   } else {

@@ -15,6 +15,7 @@ namespace kelvane {
 struct PlacedRun {
   StyledFace face;
   std::vector<CGPositionedGlyph> glyphs;
+  bool isTurned = false;  // a quarter to the left, as in lines that run downwards
 };
 
 /// A line of text with each glyph in its place.

@@ -140,7 +140,8 @@ void FillRectangle(DeviceContext& device, const RectangleL& rectangle) {
 void AddToBracket(DeviceContext& device, const SetLine& line, const TextFont& font) {
   CGPath& path = device.bracketPath;
   if (device.state.backgroundMode == OPAQUE) AddCell(line, font, path);
-  AddOutlines(line.placed, line.frame, line.origin, path);
+  if (!AddOutlines(device, line.placed, line.frame, line.origin, path))
+    device.shortfalls.Add(Shortfall::kDrawnTooOften);
   AddRules(line, *device.state.font, font, path);
   device.state.figureIsOpen = false;
 }
@@ -154,7 +155,8 @@ void Draw(DeviceContext& device, SetLine& line, const TextFont& font) {
   }
   const RgbColor color = ResolveColor(device, state.textColor);
   if (device.outlinesText) {
-    AddOutlines(line.placed, line.frame, line.origin, device.scratch);
+    if (!AddOutlines(device, line.placed, line.frame, line.origin, device.scratch))
+      device.shortfalls.Add(Shortfall::kDrawnTooOften);
   } else {
     DrawGlyphs(device, line.placed, line.frame, line.origin, color);
   }

@@ -282,7 +282,7 @@ TEST(ALineOfText, JoinsArabicLettersAndSetsThemFromRightToLeft) {
   const Line letters(u"\u0628\u0639", kOfManyScripts);
   const PlacedLine line = letters.Place();
   ASSERT_EQ(line.runs.size(), 1U);
-  const auto& [face, glyphs] = line.runs.front();
+  const auto& [face, glyphs, isTurned] = line.runs.front();
   ASSERT_EQ(glyphs.size(), 2U);
   EXPECT_EQ(ToUTF8(glyphs[0].text), "\u0639");
   EXPECT_EQ(ToUTF8(glyphs[1].text), "\u0628");
@@ -295,9 +295,24 @@ TEST(ALineOfText, JoinsArabicLettersAndSetsThemFromRightToLeft) {
 TEST(ALineOfText, LeavesArabicLettersAloneWhenItIsInOrder) {
   const Line letters = Line(u"\u0628\u0639", kOfManyScripts).InOrder();
   const PlacedLine line = letters.Place();
-  const auto& [face, glyphs] = line.runs.front();
+  const auto& [face, glyphs, isTurned] = line.runs.front();
   EXPECT_EQ(glyphs[0].glyph, face.typeface->GlyphFor(0x0628));
   EXPECT_EQ(glyphs[1].glyph, face.typeface->GlyphFor(0x0639));
+}
+
+// The character is in no face of Liberation; its box is as wide as the cell is high.
+TEST(AVerticalLine, TurnsWideCharactersAlone) {
+  constexpr int kAscent = 1854;
+  constexpr int kDescent = 434;
+  const Line letters(u"A\u4E00A", u"@Liberation Sans");
+  const PlacedLine line = letters.Place();
+  ASSERT_EQ(line.runs.size(), 3U);
+  EXPECT_FALSE(line.runs[0].isTurned);
+  EXPECT_TRUE(line.runs[1].isTurned);
+  EXPECT_FALSE(line.runs[2].isTurned);
+  EXPECT_EQ(line.runs[1].glyphs.at(0).origin, (CGPoint{kLiberationUpperA + kAscent, -kDescent}));
+  EXPECT_EQ(line.runs[2].glyphs.at(0).origin.x, kLiberationUpperA + kAscent + kDescent);
+  EXPECT_EQ(line.end.x, 2 * kLiberationUpperA + kAscent + kDescent);
 }
 
 TEST(ALigature, MovesByTheAdvancesOfItsLetters) {

@@ -93,6 +93,20 @@ std::unique_ptr<const Typeface> Typeface::StandardHelvetica() {
       new Typeface(CFShare(CGFontGetStandardHelvetica()), std::move(shaper)));
 }
 
+std::optional<CGGlyph> Typeface::VerticalGlyphFor(char32_t character) const {
+  if (!GlyphFor(character)) return std::nullopt;
+  const HarfBuzzOwned<hb_buffer_t> buffer(hb_buffer_create());
+  const hb_codepoint_t text = character;
+  hb_buffer_add_codepoints(buffer.get(), &text, 1, 0, 1);
+  hb_buffer_set_direction(buffer.get(), HB_DIRECTION_TTB);  // which takes the vertical forms
+  hb_buffer_guess_segment_properties(buffer.get());
+  hb_shape(shaper_.get(), buffer.get(), nullptr, 0);
+  unsigned count = 0;
+  const hb_glyph_info_t* const glyphs = hb_buffer_get_glyph_infos(buffer.get(), &count);
+  if (count != 1) return GlyphFor(character);
+  return static_cast<CGGlyph>(glyphs[0].codepoint);
+}
+
 bool Typeface::HasGlyph(CGGlyph glyph) const {
   return glyph < hb_face_get_glyph_count(hb_font_get_face(shaper_.get()));
 }

@@ -29,6 +29,10 @@ class Typeface {
   /// @return the glyph that the face maps the character to.
   [[nodiscard]] std::optional<CGGlyph> GlyphFor(char32_t character) const;
 
+  /// @return the glyph of the character in lines that run downwards: another one where the face
+  ///         has it.
+  [[nodiscard]] std::optional<CGGlyph> VerticalGlyphFor(char32_t character) const;
+
   /// @return whether a glyph of the face has the number.
   [[nodiscard]] bool HasGlyph(CGGlyph glyph) const;
 
