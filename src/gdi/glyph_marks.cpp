@@ -16,7 +16,12 @@ std::optional<TransformD> LineToEms(const TextFrame& frame) {
   const auto deviceToEms = emsToDevice.Inverse();
   if (!deviceToEms) return std::nullopt;
   const TransformD lineToDevice = {frame.along.x, frame.along.y, frame.up.x, frame.up.y};
-  return lineToDevice.Then(*deviceToEms);
+  TransformD lineToEms = lineToDevice.Then(*deviceToEms);
+  // Glyphs that turn with their line do not leave it by the last digits of a sine.
+  constexpr double kNoise = 1e-9;
+  if (std::abs(lineToEms.m12) < kNoise * std::abs(lineToEms.m11)) lineToEms.m12 = 0;
+  if (std::abs(lineToEms.m21) < kNoise * std::abs(lineToEms.m22)) lineToEms.m21 = 0;
+  return lineToEms;
 }
 
 CGAffineTransform Rounded(const TransformD& t) {

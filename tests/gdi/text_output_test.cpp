@@ -114,6 +114,12 @@ TEST_F(Text, TurnsWithItsAlignment) {
   EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-117 883\n");
 }
 
+TEST_F(Text, StaysOnItsLineHoweverThatTurns) {
+  device.Select(2, Turned(337));
+  Write({}, u"AA");
+  EXPECT_EQ(LinesWith(device.Take(), "").back(), "  at 683 0");
+}
+
 TEST_F(Text, LiesBelowItsTopWhereYGrowsUpwards) {
   SetMapMode(device, MM_ANISOTROPIC);
   SetViewportExtEx(device, {1, -1});
