@@ -8,6 +8,12 @@ using test::Bytes;
 using test::Metafile;
 using enum test::EmrType;
 
+// Types that the builder has no verb for.
+constexpr std::uint32_t kEmrPolyTextOutA = 96;
+constexpr std::uint32_t kEmrPolyTextOutW = 97;
+constexpr std::uint32_t kEmrSmallTextOut = 108;
+constexpr std::uint32_t kEmrSetTextJustification = 120;
+
 // Object indexes 1 to 4 are what the records below create and select.
 
 void AddFigures(Metafile& metafile) {
@@ -81,6 +87,14 @@ void AddBitmaps(Metafile& metafile) {
 void AddText(Metafile& metafile) {
   metafile.TextOut({10, 20}, u"Text", {5, 6, 7, 8}).TextOut({10, 20}, u"a\u0301\u05D0\u4E2D\u0634");
   metafile.TextOut({0, 0}, u"\xD83D\xDE00\xDC00\xD800 x", {1}).TextOutA({30, 40}, "ab\1c", {9, 9});
+  for (const std::uint32_t type : {kEmrPolyTextOutA, kEmrPolyTextOutW}) {
+    Bytes texts = Bytes().Zeros(16).U32(1).F32(1).F32(1).U32(1).PointL(10, 20).U32(2).U32(80);
+    metafile.Record(type, texts.U32(6).Rectangle(1, 2, 30, 40).U32(84).Utf16(u"ab").I32(5).I32(6));
+  }
+  const Bytes small = Bytes().PointL(10, 20).U32(2);
+  metafile.Record(kEmrSmallTextOut, Bytes(small).U32(0x300).U32(2).F32(1).F32(1).Each({65, 66}));
+  metafile.Record(kEmrSmallTextOut, Bytes(small).U32(2).U32(1).F32(1).F32(1).Zeros(16).U32(65));
+  metafile.Record(kEmrSetTextJustification, Bytes().I32(10).I32(2));
   metafile.Record(EMR_GDICOMMENT, Bytes().U32(4).U32(0x2B464D45));
 }
 

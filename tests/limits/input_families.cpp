@@ -259,6 +259,14 @@ File FontNames(std::size_t size) {
   });
 }
 
+// A font of its own for each text, all of one face.
+File FontSizes(std::size_t size) {
+  return Repeated(size, 332 + 12 + 80, [](Metafile& metafile, std::size_t i) {
+    const FontAttributes font = {.height = -1 - Signed(i % 1000), .escapement = Signed(i / 1000)};
+    metafile.CreateFont(1, font).SelectObject(1).TextOut({1, 2}, u"a");
+  });
+}
+
 // Bitmaps.
 
 File WholeBitmaps(std::size_t size) {
@@ -351,6 +359,7 @@ const std::vector<InputFamily>& InputFamilies() {
       {"right_to_left", true, RightToLeft},
       {"narrow_text", true, NarrowText},
       {"font_names", true, FontNames},
+      {"font_sizes", true, FontSizes},
       {"whole_bitmaps", false, WholeBitmaps},
       {"small_bitmaps", false, SmallBitmaps},
       {"a_truncated_bitmap", false, ATruncatedBitmap},
