@@ -1,5 +1,6 @@
 #include "frontends/picture_conversion.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "support/files.h"
+#include "support/fonts.h"
 #include "support/metafile.h"
 #include "support/pdf.h"
 
@@ -202,6 +204,47 @@ INSTANTIATE_TEST_SUITE_P(
         NoPicture{"HalfAHeader", CutShort(60), "its header is damaged"},
         NoPicture{"AnotherSignature", WithField(FileOfALine(), 40, 0), "its header is damaged"}),
     [](const auto& row) { return row.param.test; });
+
+// Text, by the options that a user has for it.
+
+File FileWithText(const std::u16string& face) {
+  return Metafile()
+      .Bounds(0, 0, 200, 50)
+      .CreateFont(1, {.face = face})
+      .SelectObject(1)
+      .TextOut({5, 5}, u"Junction")
+      .Build();
+}
+
+// The directory's fonts are listed once; a file that is gone cannot be opened again.
+TEST(PictureConversion, OpensNoFontAnewForAnotherFile) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "font.otf", ReadFile(kJunction));
+  ConversionOptions options;
+  options.fontDirectories = {folder.Path()};
+  const PictureConversion first = ConvertPicture(FileWithText(u"Junction"), options);
+  ASSERT_THAT(first.report.Fonts(), ElementsAre(FontUse{"Junction", "Junction"}));
+  std::filesystem::remove(folder / "font.otf");
+  EXPECT_EQ(DocumentIn(ConvertPicture(FileWithText(u"Junction"), options)), DocumentIn(first));
+}
+
+TEST(PictureConversion, TakesFontsByTheUsersWishes) {
+  ConversionOptions options;
+  options.fontMap.Add("Arial", "DejaVu Sans");
+  EXPECT_THAT(ConvertPicture(FileWithText(u"Arial"), options).report.Fonts(),
+              ElementsAre(FontUse{"Arial", "DejaVu Sans"}));
+}
+
+TEST(PictureConversion, DrawsTextAsShapesWhenAsked) {
+  const File file = FileWithText(u"Arial");
+  const Pdf text(DocumentIn(ConvertPicture(file, {})));
+  ConversionOptions options;
+  options.outlinesText = true;
+  const Pdf shapes(DocumentIn(ConvertPicture(file, options)));
+  EXPECT_THAT(text.Content(), testing::HasSubstr(" Tf\n"));
+  EXPECT_THAT(shapes.Content(), testing::Not(testing::HasSubstr(" Tf\n")));
+  EXPECT_THAT(shapes.Content(), testing::HasSubstr(" c\n"));
+}
 
 }  // namespace
 }  // namespace kelvane::test

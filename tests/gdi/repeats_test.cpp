@@ -4,11 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include "gdi/attributes.h"
 #include "gdi/clipping.h"
+#include "gdi/font_book.h"
 #include "gdi/lines.h"
 #include "gdi/path_brackets.h"
 #include "gdi/shapes.h"
 #include "gdi/stored_array.h"
+#include "gdi/text_output.h"
 #include "gdi/traced_device.h"
 
 namespace kelvane {
@@ -62,6 +65,21 @@ TEST(Repeats, OfALargeClipEndWhenTheyTakeTooMuch) {
   EXPECT_GT(clips, 100U);
   EXPECT_LT(clips, kManyTimes);
   EXPECT_TRUE(device->shortfalls.Has(Shortfall::kDrawnTooOften));
+}
+
+// Each of its letters has more than ten elements.
+TEST(TextInABracket, EndsWhenItsOutlinesTakeTooMuch) {
+  const FontMap noWishes;
+  FontBook fonts(FontRegistry::Shared(), AnyFont, noWishes);
+  TracedDevice device;
+  device->fonts = &fonts;
+  SetBkMode(device, TRANSPARENT);
+  BeginPath(device);
+  for (int i = 0; i < kManyTimes; ++i)
+    ExtTextOut(device, {}, std::u16string(kManyPoints / 10, u'B'));
+  EndPath(device);
+  EXPECT_TRUE(device->shortfalls.Has(Shortfall::kDrawnTooOften));
+  EXPECT_LT(device->state.path->Reached().elements, 1U << 23);
 }
 
 TEST(Repeats, OfSmallThingsGoOn) {
