@@ -41,7 +41,7 @@ PageFrame OnPage(const Canvas& canvas, const TextFrame& frame, PointD origin) {
   const TransformD ems = {frame.glyphAlong.x, frame.glyphAlong.y, frame.glyphUp.x,
                           frame.glyphUp.y,    origin.x,           origin.y};
   TransformD onPage = ems.Then(deviceToPage);
-  const auto size = static_cast<CGFloat>(std::hypot(onPage.m21, onPage.m22));
+  const double size = std::hypot(onPage.m21, onPage.m22);
   onPage.m11 /= size;
   onPage.m12 /= size;
   onPage.m21 /= size;
@@ -50,7 +50,7 @@ PageFrame OnPage(const Canvas& canvas, const TextFrame& frame, PointD origin) {
   const CGPoint rounded = canvas.RoundOnPage({matrix.tx, matrix.ty});
   matrix.tx = rounded.x;
   matrix.ty = rounded.y;
-  return {matrix, size};
+  return {matrix, static_cast<CGFloat>(size)};
 }
 
 void DrawRun(CGContext& surface, PlacedRun& run, const TransformD& lineToEms,

@@ -41,8 +41,9 @@ bool IsWide(char32_t character) {
 class LinePlacer {
  public:
   LinePlacer(const WrittenText& text, const TextFont& font, const TextFrame& frame,
-             const Spacing& spacing)
-      : text_(text),
+             const Spacing& spacing, const std::function<void(PlacedLine&)>& take)
+      : take_(take),
+        text_(text),
         units_(text.units),
         style_(*font.style),
         em_(frame.em),
@@ -55,6 +56,7 @@ class LinePlacer {
       const DecodedCharacter decoded = DecodeUTF16(units_, at);
       PlaceCharacter(decoded.character, at, decoded.units);
       at += decoded.units;
+      EndPieceIfFull();
     }
   }
 
@@ -68,6 +70,7 @@ class LinePlacer {
         line_.lacksCharacters = true;
       }
       Advance(at, 1, face.typeface->Font()->Advance(glyph));
+      EndPieceIfFull();
     }
   }
 
@@ -76,18 +79,27 @@ class LinePlacer {
     double pen = 0;
     for (std::u16string_view rest = units_; !rest.empty();) {
       const std::u16string_view piece = FirstPiece(rest);
+      const PointD behind = Behind(units_.size() - rest.size(), piece.size());
       for (const ShapedRun& run : ShapeLine(piece, style_, setting, pen))
         PlaceRun(run);
+      if (!text_.advances.empty()) pen_ = behind;  // what makes no glyph has advances, too
       rest.remove_prefix(piece.size());
+      EndPieceIfFull();
     }
   }
 
-  PlacedLine Take() {
+  void EndPiece() {
     line_.end = pen_;
-    return std::move(line_);
+    take_(line_);
+    line_.runs.clear();
+    glyphs_ = 0;
   }
 
  private:
+  void EndPieceIfFull() {
+    if (glyphs_ >= kMostUnitsOfAPiece) EndPiece();
+  }
+
   [[nodiscard]] CGPoint Here() const {
     return {static_cast<CGFloat>(pen_.x), static_cast<CGFloat>(pen_.y)};
   }
@@ -97,13 +109,21 @@ class LinePlacer {
                         line_.runs.back().isTurned == isTurned;
     if (!goesOn) line_.runs.push_back({face, {}, isTurned});
     line_.runs.back().glyphs.push_back(glyph);
+    ++glyphs_;
+  }
+
+  /// @return where the pen comes by the advances of units that are given; here without any.
+  [[nodiscard]] PointD Behind(std::size_t start, std::size_t units) const {
+    PointD pen = pen_;
+    for (std::size_t i = start; i < start + units && i < text_.advances.size(); ++i)
+      pen = {pen.x + text_.advances[i].x, pen.y + text_.advances[i].y};
+    return pen;
   }
 
   /// @param natural  the advance of the face, ems.
   void Advance(std::size_t start, std::size_t units, double natural) {
     if (!text_.advances.empty()) {
-      for (std::size_t i = start; i < start + units; ++i)
-        pen_ = {pen_.x + text_.advances[i].x, pen_.y + text_.advances[i].y};
+      pen_ = Behind(start, units);
       return;
     }
     double width = natural * em_;
@@ -165,6 +185,7 @@ class LinePlacer {
     }
   }
 
+  const std::function<void(PlacedLine&)>& take_;
   const WrittenText& text_;
   std::u16string_view units_;
   const FontStyle& style_;
@@ -172,14 +193,16 @@ class LinePlacer {
   const TextFont& font_;
   Spacing spacing_;
   PointD pen_;
-  PlacedLine line_;
+  PlacedLine line_;         // since the last piece
+  std::size_t glyphs_ = 0;  // in it
 };
 
 }  // namespace
 
-PlacedLine PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
-                     const Spacing& spacing, const Reading& reading) {
-  LinePlacer placer(text, font, frame, spacing);
+void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
+               const Spacing& spacing, const Reading& reading,
+               const std::function<void(PlacedLine& piece)>& take) {
+  LinePlacer placer(text, font, frame, spacing, take);
   if (text.areGlyphs) {
     placer.PlaceGlyphs();
   } else if (reading.isOrdered || font.isVertical ||
@@ -189,7 +212,7 @@ PlacedLine PlaceText(const WrittenText& text, const TextFont& font, const TextFr
     placer.PlaceShaped(reading.isLeftwards ? LineDirection::kLeftwards
                                            : LineDirection::kRightwards);
   }
-  return placer.Take();
+  placer.EndPiece();
 }
 
 }  // namespace kelvane

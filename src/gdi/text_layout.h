@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "gdi/font_book.h"
@@ -18,11 +20,11 @@ struct PlacedRun {
   bool isTurned = false;  // a quarter to the left, as in lines that run downwards
 };
 
-/// A line of text with each glyph in its place.
+/// A line of text, or a piece of a long one, with each glyph in its place.
 struct PlacedLine {
   std::vector<PlacedRun> runs;
   PointD end;                    // where the pen is left, in the line's own axes
-  bool lacksCharacters = false;  // some are in no face
+  bool lacksCharacters = false;  // some, so far, are in no face
 };
 
 /// What is added where a face's own advances count.
@@ -38,8 +40,14 @@ struct Reading {
   bool isLeftwards = false;
 };
 
-/// @param text  borrowed; the glyphs of the line refer to it.
-PlacedLine PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
-                     const Spacing& spacing, const Reading& reading);
+/// Lines beyond it are placed in pieces, so that they need no memory in proportion.
+inline constexpr std::size_t kMostUnitsOfAPiece = 2000;
+
+/// @param text  borrowed; the glyphs refer to it.
+/// @param take  gets each piece in turn, with places in the axes of the whole line; a line that is
+///              not long is one.
+void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
+               const Spacing& spacing, const Reading& reading,
+               const std::function<void(PlacedLine& piece)>& take);
 
 }  // namespace kelvane

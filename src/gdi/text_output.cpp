@@ -20,9 +20,12 @@ namespace {
 
 /// A line of text that is set and knows where it goes.
 struct SetLine {
-  PlacedLine placed;
   TextFrame frame;
-  PointD origin;  // device units, of the line's own axes
+  Spacing spacing;
+  Reading reading;
+  PlacedLine placed;    // its last piece; of a line that is not long, all of it
+  bool isLong = false;  // so that its pieces are to be placed anew when they are wanted
+  PointD origin;        // device units, of the line's own axes
 };
 
 enum class Side : std::uint8_t { kLeft, kRight, kCenter };
@@ -68,8 +71,13 @@ SetLine Set(DeviceContext& device, const TextPlacing& placing, const TextFont& f
   DeviceState& state = device.state;
   SetLine line;
   line.frame = FrameOf(*state.font, font, state.mapping, placing.graphicsMode);
-  line.placed = PlaceText(device.text, font, line.frame, SpacingOf(state, line.frame),
-                          ReadingOf(state, placing));
+  line.spacing = SpacingOf(state, line.frame);
+  line.reading = ReadingOf(state, placing);
+  int pieces = 0;
+  PlaceText(device.text, font, line.frame, line.spacing, line.reading, [&](PlacedLine& piece) {
+    line.placed = std::move(piece);
+    line.isLong = ++pieces > 1;
+  });
   const bool isAtCurrent = (state.textAlign & TA_UPDATECP) != 0;
   const PointD logical = isAtCurrent ? state.currentPosition : Exactly(placing.reference);
   const PointD reference = state.mapping.ToDevice().Map(logical);
@@ -136,12 +144,24 @@ void FillRectangle(DeviceContext& device, const RectangleL& rectangle) {
            R2_COPYPEN);
 }
 
-/// Within a bracket text is what its outlines enclose; the cell around it is one of them.
-void AddToBracket(DeviceContext& device, const SetLine& line, const TextFont& font) {
+/// Calls `draw` with each piece of a line.
+template <class Draw>
+void ForEachPiece(DeviceContext& device, SetLine& line, const TextFont& font, Draw draw) {
+  if (!line.isLong) return draw(line.placed);
+  PlaceText(device.text, font, line.frame, line.spacing, line.reading, draw);
+}
+
+void AddOutlines(DeviceContext& device, SetLine& line, const TextFont& font, CGPath& path) {
+  ForEachPiece(device, line, font, [&](const PlacedLine& piece) {
+    if (!AddOutlines(device, piece, line.frame, line.origin, path))
+      device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  });
+}
+
+/// Within a bracket text is its outlines, without a background.
+void AddToBracket(DeviceContext& device, SetLine& line, const TextFont& font) {
   CGPath& path = device.bracketPath;
-  if (device.state.backgroundMode == OPAQUE) AddCell(line, font, path);
-  if (!AddOutlines(device, line.placed, line.frame, line.origin, path))
-    device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  AddOutlines(device, line, font, path);
   AddRules(line, *device.state.font, font, path);
   device.state.figureIsOpen = false;
 }
@@ -155,10 +175,11 @@ void Draw(DeviceContext& device, SetLine& line, const TextFont& font) {
   }
   const RgbColor color = ResolveColor(device, state.textColor);
   if (device.outlinesText) {
-    if (!AddOutlines(device, line.placed, line.frame, line.origin, device.scratch))
-      device.shortfalls.Add(Shortfall::kDrawnTooOften);
+    AddOutlines(device, line, font, device.scratch);
   } else {
-    DrawGlyphs(device, line.placed, line.frame, line.origin, color);
+    ForEachPiece(device, line, font, [&](PlacedLine& piece) {
+      DrawGlyphs(device, piece, line.frame, line.origin, color);
+    });
   }
   AddRules(line, *state.font, font, device.scratch);
   FillWith(device, device.scratch, WINDING, color, R2_COPYPEN);

@@ -1,6 +1,7 @@
 #include "gdi/text_layout.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -95,9 +96,15 @@ class Line {
     return *this;
   }
 
-  /// Borrows the text of this line.
+  void PlacePieces(const std::function<void(PlacedLine&)>& take) const {
+    PlaceText(text_, font_, frame_, spacing_, reading_, take);
+  }
+
+  /// Borrows the text of this line, which is not long.
   [[nodiscard]] PlacedLine Place() const {
-    return PlaceText(text_, font_, frame_, spacing_, reading_);
+    PlacedLine line;
+    PlacePieces([&line](const PlacedLine& piece) { line = piece; });
+    return line;
   }
 
   [[nodiscard]] std::string Placed() const { return Words(Place()); }
@@ -313,6 +320,27 @@ TEST(AVerticalLine, TurnsWideCharactersAlone) {
   EXPECT_EQ(line.runs[1].glyphs.at(0).origin, (CGPoint{kLiberationUpperA + kAscent, -kDescent}));
   EXPECT_EQ(line.runs[2].glyphs.at(0).origin.x, kLiberationUpperA + kAscent + kDescent);
   EXPECT_EQ(line.end.x, 2 * kLiberationUpperA + kAscent + kDescent);
+}
+
+TEST(AShapedLine, EndsBehindTheAdvancesOfWhatMakesNoGlyph) {
+  const Line letters = Line(u"\u05D0\x01\u05D1", kOfManyScripts).With(Along({10, 20, 40}));
+  EXPECT_EQ(letters.Place().end.x, 70);
+}
+
+TEST(ALongLine, IsPlacedInPiecesAsAWhole) {
+  const std::u16string units(3 * kMostUnitsOfAPiece + 1, u'A');
+  std::size_t glyphs = 0;
+  double end = 0;
+  Line(units).PlacePieces([&](const PlacedLine& piece) {
+    for (const PlacedRun& run : piece.runs) {
+      EXPECT_LE(run.glyphs.size(), kMostUnitsOfAPiece);
+      for (const CGPositionedGlyph& glyph : run.glyphs)
+        EXPECT_EQ(glyph.origin.x, static_cast<CGFloat>(glyphs++) * kLiberationUpperA);
+    }
+    end = piece.end.x;
+  });
+  EXPECT_EQ(glyphs, units.size());
+  EXPECT_EQ(end, static_cast<double>(units.size()) * kLiberationUpperA);
 }
 
 TEST(ALigature, MovesByTheAdvancesOfItsLetters) {

@@ -36,8 +36,8 @@ struct Limit {
 
 constexpr Limit kAnyInput = {64, 96 * kMebibyte};
 constexpr Limit kPlainInput = {12, 48 * kMebibyte};  // well-formed, without bitmaps
-constexpr Limit kPlayedInput = {5, 48 * kMebibyte};  // as Windows shows it
-constexpr std::size_t kPlayedGrowth = 20;            // nested clips take 17, all else less than 9
+constexpr Limit kPlayedInput = kPlainInput;          // as Windows shows it, whatever it is
+constexpr std::size_t kPlayedGrowth = 20;  // nested clips take 17, Hebrew 14, all else less
 
 std::size_t PeakInMemory(const File& file) {
   const std::size_t before = LiveBytes();
