@@ -48,6 +48,14 @@ TEST(Typeface, HasNoGlyphForWhatItLacks) {
   EXPECT_FALSE(Typeface::Open(test::kLiberationSans, 0)->GlyphFor(U'\u6F22').has_value());
 }
 
+TEST(Typeface, HasTheGlyphsThatItCounts) {
+  const auto face = Typeface::Open(test::kLiberationSans, 0);  // 681 of them
+  EXPECT_TRUE(face->HasGlyph(0));
+  EXPECT_TRUE(face->HasGlyph(680));
+  EXPECT_FALSE(face->HasGlyph(681));
+  EXPECT_FALSE(face->HasGlyph(0xFFFF));
+}
+
 TEST(StandardTypeface, MapsCharactersToWinAnsi) {
   const auto face = Typeface::StandardHelvetica();
   EXPECT_EQ(face->GlyphFor(U'\u20AC'), 0x80);
