@@ -188,7 +188,8 @@ void Draw(DeviceContext& device, SetLine& line, const TextFont& font) {
 /// Writes what device.text holds.
 void Write(DeviceContext& device, const TextPlacing& placing, const TextFont& font) {
   SetLine line = Set(device, placing, font);
-  if (line.placed.lacksCharacters) device.shortfalls.Add(Shortfall::kMissingCharacters);
+  if (line.placed.lacksCharacters || device.text.hasUnknownSymbols)
+    device.shortfalls.Add(Shortfall::kMissingCharacters);
   if (device.text.hasUnknownGlyphs) device.shortfalls.Add(Shortfall::kForeignGlyphs);
   if (!std::isfinite(line.origin.x) || !std::isfinite(line.origin.y)) return;
   if (device.state.bracket) return AddToBracket(device, line, font);

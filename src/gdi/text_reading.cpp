@@ -4,17 +4,13 @@
 #include <utility>
 
 #include "gdi/code_page.h"
+#include "gdi/font_names.h"
 #include "gdi/symbol_encoding.h"
 
 namespace kelvane {
 namespace {
 
 constexpr char16_t kNothing = 0;  // a control character: no mark, but it keeps its advance
-
-std::u16string FaceNameOf(const LogFont& font) {
-  const std::u16string_view name(font.faceName.data(), font.faceName.size());
-  return std::u16string(name.substr(0, name.find(u'\0')));
-}
 
 PointD AdvanceOf(const TextPlacing& placing, std::size_t unit) {
   if (!placing.advancesArePairs) return {static_cast<double>(placing.advances[unit]), 0};
@@ -54,6 +50,7 @@ void TakeSymbols(const SymbolEncoding& symbols, WrittenText& text) {
   for (std::size_t i = 0; i < text.units.size(); ++i) {
     const char16_t unit = text.units[i];
     const char32_t character = IsSymbolCode(unit) ? symbols.CharacterOf(unit) : unit;
+    text.hasUnknownSymbols = text.hasUnknownSymbols || (character == 0 && unit >= u' ');
     const std::size_t before = units.size();
     if (character < 0x10000) {
       units += static_cast<char16_t>(character);
@@ -71,7 +68,7 @@ void TakeSymbols(const SymbolEncoding& symbols, WrittenText& text) {
 
 void Clear(WrittenText& text) {
   text.advances.clear();
-  text.areGlyphs = text.hasUnknownGlyphs = false;
+  text.areGlyphs = text.hasUnknownGlyphs = text.hasUnknownSymbols = false;
 }
 
 void Interpret(const TextPlacing& placing, const TextFont& font, WrittenText& text) {
@@ -98,7 +95,7 @@ void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont&
   Clear(text);
   const bool areSymbols = font.symbols != nullptr || font.hasSymbolGlyphs;
   DecodedBytes decoded =
-      DecodeBytes(bytes, areSymbols ? SYMBOL_CHARSET : asked.charSet, FaceNameOf(asked));
+      DecodeBytes(bytes, areSymbols ? SYMBOL_CHARSET : asked.charSet, FaceName(asked));
   text.units = std::move(decoded.text);
   if (!placing.advances.empty()) {
     for (std::size_t unit = 0; unit < text.units.size(); ++unit) {

@@ -12,7 +12,8 @@ struct WrittenText {
   std::u16string units;
   std::vector<PointD> advances;  // logical units, along the baseline and up, one a unit; or none
   bool areGlyphs = false;
-  bool hasUnknownGlyphs = false;  // numbers that mean nothing in the face that is there
+  bool hasUnknownGlyphs = false;   // numbers that mean nothing in the face that is there
+  bool hasUnknownSymbols = false;  // codes for which no character is known
 };
 
 }  // namespace kelvane

@@ -160,7 +160,9 @@ TEST(GlyphNumbers, AreNoCodesOfSymbols) {
 // Symbols.
 
 TEST(CodesOfSymbols, BecomeWhatTheyShow) {
-  EXPECT_EQ(Read(u"aS", {}, OfSymbols(u"Symbol")).units, u"\u03B1\u03A3");
+  const WrittenText text = Read(u"aS", {}, OfSymbols(u"Symbol"));
+  EXPECT_EQ(text.units, u"\u03B1\u03A3");
+  EXPECT_FALSE(text.hasUnknownSymbols);
 }
 
 TEST(CodesOfSymbols, MeanTheSameInThePrivateUseArea) {
@@ -174,6 +176,7 @@ TEST(CodesOfSymbols, AreOnlyThoseOfAByte) {
 
 TEST(CodesOfSymbols, WithoutAMeaningKeepTheirPlace) {
   const WrittenText text = Read(u"\ta\x7F", With({1, 2, 3}), OfSymbols(u"Symbol"));
+  EXPECT_TRUE(text.hasUnknownSymbols);
   EXPECT_EQ(text.units, std::u16string({0, 0x03B1, 0}));
   EXPECT_EQ(text.advances, (Advances{{1, 0}, {2, 0}, {3, 0}}));
 }

@@ -44,15 +44,15 @@ const CGFontDescription& Description(const StyledFace& face) {
   return face.typeface->Font()->Description();
 }
 
-std::string NameOf(FontRegistry& registry, FontID font, bool isBold = false) {
+std::string PostScriptNameOf(FontRegistry& registry, FontID font, bool isBold = false) {
   return Description(registry.Style(font, isBold, false, AnyFont).Face()).postScriptName;
 }
 
 TEST_F(FontDirectories, HaveFontsThatAreNotInstalled) {
   Add("Junction.otf", test::kJunction);
   FontRegistry registry = Registry();
-  EXPECT_EQ(NameOf(registry, registry.FindByFamily("Junction")), "Junction");
-  EXPECT_EQ(NameOf(registry, registry.FindByFamily("Liberation Sans")), "LiberationSans");
+  EXPECT_EQ(PostScriptNameOf(registry, registry.FindByFamily("Junction")), "Junction");
+  EXPECT_EQ(PostScriptNameOf(registry, registry.FindByFamily("Liberation Sans")), "LiberationSans");
 }
 
 TEST_F(FontDirectories, HaveFontsInTheFoldersBelow) {
@@ -89,7 +89,7 @@ TEST_F(FontDirectories, LeaveAStyleThatTheyLackToTheInstalledFonts) {
   installed.Add("Bold.ttf", test::ReadFile(test::kLiberationSansBold));
   Add("Regular.ttf", test::kLiberationSans);
   FontRegistry registry = Registry();
-  EXPECT_EQ(NameOf(registry, registry.FindByFamily("Liberation Sans"), true),
+  EXPECT_EQ(PostScriptNameOf(registry, registry.FindByFamily("Liberation Sans"), true),
             "LiberationSans-Bold");
 }
 
@@ -126,7 +126,7 @@ TEST_F(FontDirectories, AreSeenToChange) {
 TEST_F(FontDirectories, HaveNoFontsWhenTheyAreGone) {
   const FontRegistry::CatalogOpener open = [this] { return OpenInstalledFonts({directory / "x"}); };
   FontRegistry registry(open);
-  EXPECT_EQ(NameOf(registry, registry.FindByFamily("Liberation Sans")), "LiberationSans");
+  EXPECT_EQ(PostScriptNameOf(registry, registry.FindByFamily("Liberation Sans")), "LiberationSans");
 }
 
 }  // namespace
