@@ -12,6 +12,13 @@ std::string FoldFontName(std::string_view name) {
   return folded;
 }
 
+FontMap::FontMap() = default;
+FontMap::FontMap(const FontMap& other) = default;
+FontMap::FontMap(FontMap&& other) noexcept = default;
+FontMap& FontMap::operator=(const FontMap& other) = default;
+FontMap& FontMap::operator=(FontMap&& other) noexcept = default;
+FontMap::~FontMap() = default;
+
 void FontMap::Add(std::string_view asked, std::string_view used) {
   used_.insert_or_assign(FoldFontName(asked), std::string(used));
 }

@@ -14,6 +14,14 @@ std::string FoldFontName(std::string_view name);
 /// blanks and the case of ASCII letters.
 class FontMap {
  public:
+  // Not inline: the library would export what the standard library makes of them.
+  FontMap();
+  FontMap(const FontMap& other);
+  FontMap(FontMap&& other) noexcept;
+  FontMap& operator=(const FontMap& other);
+  FontMap& operator=(FontMap&& other) noexcept;
+  ~FontMap();
+
   /// A later wish for the same name counts; an empty one takes back those before.
   void Add(std::string_view asked, std::string_view used);
 

@@ -228,7 +228,7 @@ TEST_P(AHostileText, LeavesAPageOfWhatFollowsIt) {
   for (const char* const text : {"--page=bounds", "--outline-text"}) {
     const ToolResult result = Run({"--page=bounds", text, "a.emf"});
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_LT(result.processorSeconds, 2);
+    EXPECT_LT(result.processorSeconds, 5);  // also under a sanitizer
     EXPECT_EQ(ComplaintsAbout(folder_ / "a.pdf"), "");
     const std::string content = Pdf(Read("a.pdf")).Content();
     EXPECT_NE(content.find("1 98 29 -38 re\nB*\n"), std::string::npos);
