@@ -1,83 +1,20 @@
 #include "gdi/painting.h"
 
-#include <array>
 #include <cstddef>
-#include <span>
 #include <utility>
 
+#include "gdi/marks.h"
 #include "gdi/objects.h"
-#include "gdi/page_color.h"
 #include "gdi/stroking.h"
 
 namespace kelvane {
 namespace {
-
-/// A colour or a pattern, and how it comes onto the page.
-struct Mark {
-  CGColor color;
-  CGSharedPattern pattern;
-  CGBlendMode mode = kCGBlendModeNormal;
-};
-
-/// The marks that paint makes under a raster operation, one on the other.
-struct Marks {
-  std::array<Mark, 2> marks;
-  std::size_t count = 0;
-
-  [[nodiscard]] std::span<const Mark> All() const { return {marks.data(), count}; }
-  [[nodiscard]] bool IsOneOpaque() const {
-    return count == 1 && marks[0].mode == kCGBlendModeNormal;
-  }
-};
 
 constexpr bool Fills(PaintKind kind) {
   return kind != PaintKind::kStroke;
 }
 constexpr bool Strokes(PaintKind kind) {
   return kind != PaintKind::kFill;
-}
-
-/// A bitmap counts as one with colours of all kinds.
-bool IsExact(BinaryRasterOperation operation, const BrushPaint& paint) {
-  constexpr RgbColor kAnyColor = {1, 1, 1};
-  if (paint.kind == Brush::Kind::kPattern) return IsExact(operation, kAnyColor);
-  return IsExact(operation, paint.color) &&
-         (!paint.background || IsExact(operation, *paint.background));
-}
-
-Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation) {
-  Marks found;
-  if (paint.kind == Brush::Kind::kNull) return found;
-  if (!IsExact(operation, paint)) device.shortfalls.Add(Shortfall::kBlendedColors);
-  for (const RasterStep& step : StepsOf(operation)) {
-    Mark mark = {ColorOnPage(ColorOf(step.color, paint.color)), nullptr, step.mode};
-    if (paint.kind != Brush::Kind::kSolid) {
-      mark.pattern = device.canvas->PatternOf(paint, device.state.brushOrigin, step.color);
-      if (mark.pattern == nullptr) {
-        device.shortfalls.Add(device.canvas->HasRunOut() ? Shortfall::kDrawnTooOften
-                                                         : Shortfall::kUnreadablePattern);
-        return {};
-      }
-    }
-    found.marks[found.count++] = std::move(mark);
-  }
-  return found;
-}
-
-Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation) {
-  return MarksOf(device, {.kind = Brush::Kind::kSolid, .color = color}, operation);
-}
-
-void SetFill(CGContext& surface, const Mark& mark) {
-  surface.SetFillColor(mark.color);
-  surface.SetFillPattern(mark.pattern);
-  surface.SetBlendMode(mark.mode);
-}
-
-void SetStroke(CGContext& surface, const Mark& mark) {
-  surface.SetStrokeColor(mark.color);
-  surface.SetStrokePattern(mark.pattern);
-  surface.SetBlendMode(mark.mode);
 }
 
 CGPathDrawingMode FillingMode(PolyFillMode fillMode) {
