@@ -47,6 +47,10 @@ bool IsExtreme(std::uint8_t channel) {
   return channel == 0 || channel == 255;
 }
 
+std::uint32_t CodeOf(TernaryRasterOperation operation) {
+  return operation >> 16 & 0xFF;
+}
+
 std::uint8_t Inverse(std::uint8_t channel) {
   return static_cast<std::uint8_t>(~channel);
 }
@@ -77,14 +81,49 @@ RgbColor ColorOf(RasterStep::Color color, RgbColor paint) {
   return {255, 255, 255};
 }
 
-// The byte has a bit for each of paint, source and destination; it looks at the source unless the
-// bits for both of its values are the same. The four bits left are the operation's number less 1.
+// The code's byte has the result's bit for each three bits of paint, source and destination.
+
+BinaryRasterOperation WhereSourceIs(bool isSet, TernaryRasterOperation operation) {
+  const std::uint32_t code = CodeOf(operation) >> (isSet ? 2 : 0);
+  return static_cast<BinaryRasterOperation>(R2_BLACK + ((code & 3) | (code >> 4 & 3) << 2));
+}
+
+BinaryRasterOperation WherePaintIs(bool isSet, TernaryRasterOperation operation) {
+  return static_cast<BinaryRasterOperation>(R2_BLACK +
+                                            (CodeOf(operation) >> (isSet ? 4 : 0) & 0xF));
+}
+
 std::optional<BinaryRasterOperation> WithoutSource(TernaryRasterOperation operation) {
-  const std::uint32_t code = operation >> 16 & 0xFF;
-  const std::uint32_t sourceUnset = code & 0x33;
-  const std::uint32_t sourceSet = code >> 2 & 0x33;
-  if (sourceUnset != sourceSet) return std::nullopt;
-  return static_cast<BinaryRasterOperation>(R2_BLACK + (sourceUnset >> 2 | (sourceUnset & 3)));
+  const BinaryRasterOperation found = WhereSourceIs(false, operation);
+  if (found != WhereSourceIs(true, operation)) return std::nullopt;
+  return found;
+}
+
+std::optional<BinaryRasterOperation> WithoutPaint(TernaryRasterOperation operation) {
+  const BinaryRasterOperation found = WherePaintIs(false, operation);
+  if (found != WherePaintIs(true, operation)) return std::nullopt;
+  return found;
+}
+
+bool NeedsDestination(TernaryRasterOperation operation) {
+  constexpr std::uint32_t kUnset = 0x55;  // the bits of what is where the destination's are unset
+  const std::uint32_t code = CodeOf(operation);
+  return (code & kUnset) != (code >> 1 & kUnset);
+}
+
+RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source) {
+  return {Combine(operation, paint.red, source.red), Combine(operation, paint.green, source.green),
+          Combine(operation, paint.blue, source.blue)};
+}
+
+std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source) {
+  const std::uint32_t code = CodeOf(operation);
+  std::uint32_t result = 0;
+  if ((code & 0x01) != 0) result |= ~std::uint32_t{paint} & ~std::uint32_t{source};
+  if ((code & 0x04) != 0) result |= ~std::uint32_t{paint} & source;
+  if ((code & 0x10) != 0) result |= paint & ~std::uint32_t{source};
+  if ((code & 0x40) != 0) result |= paint & source;
+  return static_cast<std::uint8_t>(result);
 }
 
 }  // namespace kelvane

@@ -29,8 +29,34 @@ bool IsExact(BinaryRasterOperation operation, RgbColor paint);
 /// @return the colour of a step's mark.
 RgbColor ColorOf(RasterStep::Color color, RgbColor paint);
 
+// Of a ternary operation only bits 16 to 23 count: files hold others below, and flags above.
+
+/// @return the operation on paint and destination that a ternary one is where the source's bits are
+///         all set, or all unset.
+BinaryRasterOperation WhereSourceIs(bool isSet, TernaryRasterOperation operation);
+
+/// @return the operation on source, which takes the paint's place, and destination that a ternary
+///         one is where the paint's bits are all set, or all unset.
+BinaryRasterOperation WherePaintIs(bool isSet, TernaryRasterOperation operation);
+
 /// @return the operation on paint and destination that a ternary one without a source is; nothing
 ///         when it looks at the source.
 std::optional<BinaryRasterOperation> WithoutSource(TernaryRasterOperation operation);
+
+/// @return the operation on source, which takes the paint's place, and destination that a ternary
+///         one without paint is; nothing when it looks at the paint.
+std::optional<BinaryRasterOperation> WithoutPaint(TernaryRasterOperation operation);
+
+bool NeedsDestination(TernaryRasterOperation operation);
+
+/// @param operation  one that does not look at the destination. @return a colour bit by bit.
+RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source);
+std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source);
+
+/// @return whether the operation's result is the same whatever the paint.
+constexpr bool IgnoresPaint(BinaryRasterOperation operation) {
+  return operation == R2_BLACK || operation == R2_NOT || operation == R2_NOP ||
+         operation == R2_WHITE;
+}
 
 }  // namespace kelvane

@@ -7,6 +7,7 @@
 #include "gdi/drawing.h"
 #include "gdi/exactly.h"
 #include "gdi/objects.h"
+#include "gdi/raster_operation.h"
 
 namespace kelvane {
 namespace {
@@ -139,7 +140,11 @@ void PatBlt(DeviceContext& device, PointL corner, SizeL size, BinaryRasterOperat
   if (box.left == box.right || box.top == box.bottom) return;
   FigurePath figures(device.scratch, device.state.mapping.ToDevice());
   figures.AddPlainRectangle(box);
-  FillWith(device, device.scratch, WINDING, *device.state.brush, operation);
+  if (IgnoresPaint(operation)) {  // even a brush that is none
+    FillWith(device, device.scratch, WINDING, RgbColor(), operation);
+  } else {
+    FillWith(device, device.scratch, WINDING, *device.state.brush, operation);
+  }
 }
 
 }  // namespace kelvane

@@ -115,6 +115,50 @@ TEST(TernaryOperation, IsABinaryOneWhereverItDoesNotLookAtTheSource) {
   }
 }
 
+constexpr auto Ternary(unsigned code) {
+  return static_cast<TernaryRasterOperation>(code << 16);
+}
+
+TEST(TernaryOperation, IsABinaryOneOfPaintForEachBitOfTheSource) {
+  for (unsigned code = 0; code <= kAll; ++code)
+    for (const unsigned source : {0U, 1U})
+      for (const unsigned paint : {0U, 1U})
+        for (const unsigned destination : {0U, 1U})
+          EXPECT_EQ(ByBits(WhereSourceIs(source == 1, Ternary(code)), paint, destination) & 1,
+                    TernaryBit(code, paint, source, destination))
+              << code;
+}
+
+TEST(TernaryOperation, IsABinaryOneOfTheSourceForEachBitOfPaint) {
+  for (unsigned code = 0; code <= kAll; ++code)
+    for (const unsigned paint : {0U, 1U})
+      for (const unsigned source : {0U, 1U})
+        for (const unsigned destination : {0U, 1U})
+          EXPECT_EQ(ByBits(WherePaintIs(paint == 1, Ternary(code)), source, destination) & 1,
+                    TernaryBit(code, paint, source, destination))
+              << code;
+}
+
+TEST(TernaryOperation, TellsWhatItLooksAt) {
+  EXPECT_EQ(WithoutPaint(SRCAND), R2_MASKPEN);
+  EXPECT_EQ(WithoutPaint(MERGECOPY), std::nullopt);
+  EXPECT_TRUE(NeedsDestination(SRCAND));
+  EXPECT_TRUE(NeedsDestination(DSTINVERT));
+  EXPECT_FALSE(NeedsDestination(SRCCOPY));
+  EXPECT_FALSE(NeedsDestination(MERGECOPY));
+  EXPECT_FALSE(NeedsDestination(BLACKNESS));
+}
+
+TEST(TernaryOperation, CombinesPaintAndSourceBitByBit) {
+  for (unsigned code = 0; code <= kAll; ++code) {
+    if (NeedsDestination(Ternary(code))) continue;
+    const unsigned combined = Combine(Ternary(code), std::uint8_t{0xCC}, std::uint8_t{0xAA});
+    const unsigned expected = TernaryBit(code, 1, 1, 0) << 7 | TernaryBit(code, 1, 0, 0) << 6 |
+                              TernaryBit(code, 0, 1, 0) << 5 | TernaryBit(code, 0, 0, 0) << 4;
+    EXPECT_EQ(combined, expected | expected >> 4) << code;
+  }
+}
+
 TEST(TernaryOperation, IsKnownByItsThirdByteAlone) {
   EXPECT_EQ(WithoutSource(static_cast<TernaryRasterOperation>(0x00F00021)), R2_COPYPEN);
   EXPECT_EQ(WithoutSource(static_cast<TernaryRasterOperation>(0xC0F00013)), R2_COPYPEN);
