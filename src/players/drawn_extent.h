@@ -26,9 +26,11 @@ class DrawnExtent final : public CGContext {
   void PageEnds() override {}
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override;
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override;
+  void ShadingDrawn(const CGShading& shading) override;
   void GlyphsDrawn(const CGGlyphRun& run) override;
 
   void Add(CGPoint point, double margin);
+  void AddBox(const StoredRectangle& box, double margin);
 
   std::optional<StoredRectangle> area_;
 };

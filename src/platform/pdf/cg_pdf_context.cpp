@@ -10,6 +10,7 @@
 #include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_pattern.h"
 #include "platform/pdf/pdf_resources.h"
+#include "platform/pdf/pdf_shading.h"
 #include "platform/pdf/pdf_writer.h"
 #include "platform/quartz/cg_clip_writer.h"
 #include "platform/quartz/cg_value_writer.h"
@@ -123,8 +124,13 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
     QPDFObjectHandle stream = writer_.AddImage(image);
     if (stream.isNull()) return;
-    BeginMark({}, State());
+    BeginMark({.fill = image.isMask}, State());
     DrawXObject(resources_.NameOf(stream, kPdfImage), matrix);
+  }
+
+  void ShadingDrawn(const CGShading& shading) override {
+    BeginMark({}, State());
+    content_.Shade(resources_.NameOf(AddShading(writer_, shading), kPdfShading));
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {

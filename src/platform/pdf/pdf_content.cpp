@@ -137,6 +137,11 @@ void PdfContent::DrawXObject(std::string_view name) {
   WriteNamed(name, " Do\n");
 }
 
+void PdfContent::Shade(std::string_view name) {
+  EndText();
+  WriteNamed(name, " sh\n");
+}
+
 void PdfContent::ShowGlyph(const PdfTextStyle& style, CGPoint origin, std::uint16_t code,
                            int width) {
   const auto gap = line_.Gap(style, origin);

@@ -45,6 +45,7 @@ class PdfContent {
   void Paint(CGPathDrawingMode mode);               // f f* S B B*
   void Clip(bool isEvenOdd);                        // W n, W* n
   void DrawXObject(std::string_view name);          // Do
+  void Shade(std::string_view name);                // sh
 
   /// Shows a glyph at `origin` of the style's text space: BT Tf Tm TJ ET, as far as they are not
   /// shared with the glyphs before and after it. @param width  thousandths of an em, as the

@@ -17,6 +17,7 @@ inline constexpr PdfResourceKind kPdfImage = {"/XObject", "/Im"};
 inline constexpr PdfResourceKind kPdfForm = {"/XObject", "/Fm"};
 inline constexpr PdfResourceKind kPdfFont = {"/Font", "/F"};
 inline constexpr PdfResourceKind kPdfPattern = {"/Pattern", "/P"};
+inline constexpr PdfResourceKind kPdfShading = {"/Shading", "/Sh"};
 inline constexpr PdfResourceKind kPdfGraphicsState = {"/ExtGState", "/G"};
 
 /// The resources of a page or a pattern: objects by the names that its content has for them (ISO

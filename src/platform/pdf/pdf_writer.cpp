@@ -83,8 +83,9 @@ QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
 
 // Rows without padding are deflated from where they are.
 std::shared_ptr<Buffer> PdfWriter::DeflatePixels(const CGImage& image) {
-  const auto bytes = image.provider->Bytes();
-  const std::size_t rowSize = image.width * image.components;
+  const CGProvidedBytes provided = image.provider->Provide();
+  const auto bytes = provided.View();
+  const std::size_t rowSize = image.RowSize();
   if (image.bytesPerRow == rowSize && bytes.size() / rowSize >= image.height) {
     return Deflate(bytes.first(rowSize * image.height));
   }
@@ -107,19 +108,18 @@ QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
                                            image.components == 1 ? "/DeviceGray" : "/DeviceRGB"));
   dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
   if (image.interpolate) dictionary.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
-  return SharedImage(dictionary, pixels);
+  return SharedStream(dictionary, pixels);
 }
 
-// Equal pixels deflate to equal bytes, so the stored streams themselves tell whether an image is
-// new.
-QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
-                                        const std::shared_ptr<Buffer>& deflated) {
+// Equal data deflates to equal bytes, so the stored streams themselves tell whether one is new.
+QPDFObjectHandle PdfWriter::SharedStream(QPDFObjectHandle dictionary,
+                                         const std::shared_ptr<Buffer>& deflated) {
   const auto bytesOf = [](Buffer& buffer) {
     return std::string_view(reinterpret_cast<const char*>(buffer.getBuffer()), buffer.getSize());
   };
   const std::string layout = dictionary.unparse();
   const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*deflated));
-  const auto [first, last] = images_.equal_range(hash);
+  const auto [first, last] = streams_.equal_range(hash);
   for (auto known = first; known != last; ++known) {
     if (known->second.layout == layout && bytesOf(*known->second.deflated) == bytesOf(*deflated)) {
       return known->second.stream;
@@ -129,8 +129,14 @@ QPDFObjectHandle PdfWriter::SharedImage(QPDFObjectHandle dictionary,
   stream.replaceDict(dictionary);
   stream.replaceStreamData(deflated, QPDFObjectHandle::newName("/FlateDecode"),
                            QPDFObjectHandle::newNull());
-  images_.emplace(hash, StoredImage{layout, deflated, stream});
+  streams_.emplace(hash, StoredStream{layout, deflated, stream});
   return stream;
+}
+
+QPDFObjectHandle PdfWriter::AddSharedObject(QPDFObjectHandle object) {
+  const auto [entry, isNew] = objects_.try_emplace(object.unparse());
+  if (isNew) entry->second = AddObject(object);
+  return entry->second;
 }
 
 QPDFObjectHandle PdfWriter::AddGraphicsState(const CGCompositing& compositing) {

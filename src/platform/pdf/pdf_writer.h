@@ -40,6 +40,17 @@ class PdfWriter {
   /// @param data  copied, deflated. @return the new stream.
   QPDFObjectHandle AddStream(std::string_view data);
 
+  /// @param dictionary  what belongs to the stream but for the entries of its data; taken over.
+  /// @param data        deflated. @return the stream, the same one for the same of both.
+  QPDFObjectHandle AddSharedStream(const QPDFObjectHandle& dictionary,
+                                   std::span<const unsigned char> data) {
+    return SharedStream(dictionary, Deflate(data));
+  }
+
+  /// @return `object`, which refers to no other, as an object of its own; the same one for an equal
+  /// one.
+  QPDFObjectHandle AddSharedObject(QPDFObjectHandle object);
+
   /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
   /// short.
   QPDFObjectHandle AddImage(const CGImage& image);
@@ -71,7 +82,7 @@ class PdfWriter {
   void Write(CGDataConsumer& consumer);
 
  private:
-  struct StoredImage {
+  struct StoredStream {
     std::string layout;  // its dictionary without the data's own entries
     std::shared_ptr<Buffer> deflated;
     QPDFObjectHandle stream;
@@ -82,13 +93,14 @@ class PdfWriter {
   [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
   [[nodiscard]] std::shared_ptr<Buffer> DeflatePixels(const CGImage& image);
   [[nodiscard]] QPDFObjectHandle CopyOf(const CGPDFPage& page);
-  QPDFObjectHandle SharedImage(QPDFObjectHandle dictionary,
-                               const std::shared_ptr<Buffer>& deflated);
+  QPDFObjectHandle SharedStream(QPDFObjectHandle dictionary,
+                                const std::shared_ptr<Buffer>& deflated);
 
   QPDF pdf_;
   Deflater deflater_;
-  std::size_t deflatedBytes_ = 0;                             // of all streams
-  std::unordered_multimap<std::size_t, StoredImage> images_;  // by a hash of `deflated`
+  std::size_t deflatedBytes_ = 0;                               // of all streams
+  std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of `deflated`
+  std::map<std::string, QPDFObjectHandle> objects_;             // shared; as they are written
   std::map<DocumentPage, QPDFObjectHandle> forms_;
   std::map<CGCompositing, QPDFObjectHandle> graphicsStates_;
   std::map<CGFontRef, std::size_t> fontIndexes_;

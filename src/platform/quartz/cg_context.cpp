@@ -117,6 +117,11 @@ void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
   if (Shows() && IsFinite(matrix)) ImageDrawn(*image, matrix);
 }
 
+void CGContext::DrawShading(const CGShading& shading) {
+  if (!Shows()) return;
+  if (const auto onPage = Mapped(shading, state_.ctm)) ShadingDrawn(*onPage);
+}
+
 void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
   CGGlyphRun onPage = run;
   if (std::exchange(onPage.isSlanted, false)) {

@@ -14,6 +14,7 @@
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 #include "platform/quartz/cg_saved_states.h"
+#include "platform/quartz/cg_shading.h"
 
 namespace kelvane {
 
@@ -83,7 +84,11 @@ class CGContext : public CFObject {
   void DrawPath(CGPathDrawingMode mode);
   void Clip() { ClipToPath(false); }
   void EOClip() { ClipToPath(true); }
+  /// A mask is painted with the fill colour or pattern.
   void DrawImage(const CGRect& rect, CGImageRef image);
+  /// Colours all that the clip shows, or what of it a mesh covers. The shading is in user space;
+  /// one that shows nothing (see Mapped) marks nothing.
+  void DrawShading(const CGShading& shading);
   /// Draws the run; its matrix leads to user space. A run with a number that is not finite marks
   /// nothing.
   void DrawGlyphRun(const CGGlyphRun& run);
@@ -107,6 +112,8 @@ class CGContext : public CFObject {
   virtual void PathPainted(const CGPath& path, CGPathDrawingMode mode) = 0;
   /// @param matrix  maps the unit square, whose top edge is the image's top row, onto the page.
   virtual void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) = 0;
+  /// @param shading  one that shows something.
+  virtual void ShadingDrawn(const CGShading& shading) = 0;
   /// @param run  not empty; its matrix leads to page space.
   virtual void GlyphsDrawn(const CGGlyphRun& run) = 0;
 

@@ -5,6 +5,7 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_image.h"
+#include "platform/quartz/cg_shading.h"
 
 namespace kelvane {
 
@@ -152,9 +153,16 @@ inline void CGContextSetTextDrawingMode(CGContextRef c, CGTextDrawingMode mode) 
   c->SetTextDrawingMode(mode);
 }
 
-/// Draws the image upright into the rectangle. A null image marks nothing.
+/// Draws the image upright into the rectangle; a mask lets the fill colour or pattern through. A
+/// null image marks nothing.
 inline void CGContextDrawImage(CGContextRef c, const CGRect& rect, CGImageRef image) {
   if (image != nullptr) c->DrawImage(rect, image);
+}
+/// Colours all that the clip shows, or what of it a mesh covers.
+/// @param shading  user space. One with a number that is not finite, fewer than two stops, stops
+///                 out of order or no whole triangle marks nothing.
+inline void CGContextDrawShading(CGContextRef c, const CGShading& shading) {
+  c->DrawShading(shading);
 }
 
 }  // namespace kelvane

@@ -1,5 +1,7 @@
 #include "platform/quartz/cg_data_provider.h"
 
+#include <utility>
+
 namespace kelvane {
 
 CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data) {
@@ -9,6 +11,10 @@ CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data) {
 CGDataProviderRef CGDataProviderCreateWithData(void* info, const void* data, std::size_t size,
                                                CGDataProvider::ReleaseCallback release) {
   return new CGDataProvider(info, {static_cast<const unsigned char*>(data), size}, release);
+}
+
+CGDataProviderRef CGDataProviderCreateMaking(CGMakeBytes make) {
+  return make ? new CGDataProvider(std::move(make)) : nullptr;
 }
 
 }  // namespace kelvane

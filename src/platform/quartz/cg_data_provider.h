@@ -1,14 +1,38 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
+#include <utility>
+#include <variant>
+#include <vector>
 
 #include "platform/corefoundation/cf_data.h"
 
 namespace kelvane {
 
-/// Bytes that an image or a document is read from: shared from a data object, or lent by the
-/// caller.
+/// Makes bytes anew at each call; it may throw.
+using CGMakeBytes = std::function<std::vector<unsigned char>()>;
+
+/// What a provider gave: a view of bytes that stay where they are, or bytes that were made for this
+/// and go with it.
+class CGProvidedBytes {
+ public:
+  explicit CGProvidedBytes(std::span<const unsigned char> there) : bytes_(there) {}
+  explicit CGProvidedBytes(std::vector<unsigned char> made) : bytes_(std::move(made)) {}
+
+  /// Valid while this object lives.
+  [[nodiscard]] std::span<const unsigned char> View() const {
+    return std::visit([](const auto& bytes) { return std::span<const unsigned char>(bytes); },
+                      bytes_);
+  }
+
+ private:
+  std::variant<std::span<const unsigned char>, std::vector<unsigned char>> bytes_;
+};
+
+/// Bytes that an image or a document is read from: shared from a data object, lent by the caller,
+/// or made when they are asked for.
 class CGDataProvider final : public CFObject {
  public:
   using ReleaseCallback = void (*)(void* info, const void* data, std::size_t size);
@@ -17,7 +41,19 @@ class CGDataProvider final : public CFObject {
   CGDataProvider(void* info, std::span<const unsigned char> bytes, ReleaseCallback release)
       : info_(info), lent_(bytes), release_(release) {}
 
-  /// The bytes; valid while the provider lives and a shared data object does not change.
+  explicit CGDataProvider(CGMakeBytes make) : make_(std::move(make)) {}
+
+  /// True for bytes that are made each time: how many is known only then.
+  [[nodiscard]] bool MakesBytes() const { return make_ != nullptr; }
+
+  /// @return the bytes, made now where they are not there yet; the view is valid while the provider
+  ///         lives and a shared data object does not change. Throws what making them throws.
+  [[nodiscard]] CGProvidedBytes Provide() const {
+    return make_ ? CGProvidedBytes(make_()) : CGProvidedBytes(Bytes());
+  }
+
+  /// The bytes that are there, none where they are made; valid while the provider lives and a
+  /// shared data object does not change.
   [[nodiscard]] std::span<const unsigned char> Bytes() const {
     return data_ ? std::span<const unsigned char>(data_->bytes) : lent_;
   }
@@ -31,6 +67,7 @@ class CGDataProvider final : public CFObject {
   void* info_ = nullptr;
   std::span<const unsigned char> lent_;
   ReleaseCallback release_ = nullptr;
+  CGMakeBytes make_;
 };
 
 using CGDataProviderRef = const CGDataProvider*;
@@ -43,5 +80,10 @@ CGDataProviderRef CGDataProviderCreateWithCFData(CFDataRef data);
 /// @return a provider owned by the caller. Throws std::bad_alloc.
 CGDataProviderRef CGDataProviderCreateWithData(void* info, const void* data, std::size_t size,
                                                CGDataProvider::ReleaseCallback release);
+
+/// Bytes that take memory only while they are used.
+/// @param make  called each time they are asked for; equal bytes each time.
+/// @return a provider owned by the caller; null for an empty function. Throws std::bad_alloc.
+CGDataProviderRef CGDataProviderCreateMaking(CGMakeBytes make);
 
 }  // namespace kelvane

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 #include "base/number.h"
 #include "base/unicode.h"
@@ -55,10 +56,15 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
   }
 
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
-    BeginMark({}, State());
+    BeginMark({.fill = image.isMask}, State());
     LineUnder("image " + std::to_string(image.width) + ' ' + std::to_string(image.height) +
                   (image.components == 1 ? " gray" : " rgb"),
               matrix);
+  }
+
+  void ShadingDrawn(const CGShading& shading) override {
+    BeginMark({}, State());
+    std::visit([this](const auto& kind) { ShadingLines(kind); }, shading);
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
@@ -145,6 +151,18 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
       WritePath(shape.path);
     }
     Line("end-pattern", {});
+  }
+
+  void ShadingLines(const CGAxialShading& axial) {
+    Line("axial", {axial.start.x, axial.start.y, axial.end.x, axial.end.y});
+    for (const CGGradientStop& stop : axial.stops)
+      Line("  stop", {stop.location, stop.color.red, stop.color.green, stop.color.blue});
+  }
+
+  void ShadingLines(const CGTriangleMesh& mesh) {
+    Line("mesh", {});
+    for (const auto& [point, color] : mesh.vertices)
+      Line("  vertex", {point.x, point.y, color.red, color.green, color.blue});
   }
 
   void LineUnder(std::string words, const CGAffineTransform& t) {

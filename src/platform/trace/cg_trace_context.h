@@ -29,11 +29,16 @@ namespace kelvane {
 ///     rect 10 -60 20 40
 ///     close
 ///     fill, eo-fill, stroke, fill-stroke, eo-fill-stroke, clip, eo-clip    what is done with the
-///     path above stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform image 2 2
-///     rgb under a b c d tx ty text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text,
-///     face, size, matrix,
+///                                  path above
+///     stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform
+///     image 2 2 rgb under a b c d tx ty
+///     axial 0 0 50 0               colour that changes along a line: start and end
+///       stop 0 1 0 0               each colour, where it stands first
+///     mesh                         triangles
+///       vertex 10 -20 1 0 0        each corner with its colour
+///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,
 ///       at 0 0                     then each glyph's origin in text space; left out for one glyph
-///       at 0 0 at 8.6 0
+///       at 8.6 0                   at the origin
 ///     end-page
 ///
 /// @param output  borrowed; must outlive the surface. Lines are appended.
