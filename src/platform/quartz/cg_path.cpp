@@ -132,7 +132,7 @@ void CGPath::Map(const CGAffineTransform& transform) {
   }
   map(currentPoint_);
   map(subpathStart_);
-  finite_ = finite_ && std::ranges::all_of(points_, [](CGPoint p) { return kelvane::IsFinite(p); });
+  CheckPoints();
 }
 
 void CGPath::Round(CGFloat parts) {
@@ -143,6 +143,11 @@ void CGPath::Round(CGFloat parts) {
   std::ranges::for_each(points_, round);
   round(currentPoint_);
   round(subpathStart_);
+  CheckPoints();
+}
+
+void CGPath::CheckPoints() {
+  finite_ = finite_ && std::ranges::all_of(points_, [](CGPoint p) { return kelvane::IsFinite(p); });
 }
 
 void CGPath::GoBackTo(const Progress& progress) {

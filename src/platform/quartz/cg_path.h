@@ -122,6 +122,7 @@ class CGPath {
   template <class... Points>
   void Append(Element element, Points... points);
   void ReopenSubpath();
+  void CheckPoints();
   [[nodiscard]] bool OpenMoveAtEnd() const {
     return !elements_.empty() && elements_.back() == Element::kMove;
   }

@@ -266,6 +266,14 @@ TEST(CGPath, IsNotFiniteOnceMappedBeyondItsNumbers) {
   EXPECT_FALSE(path.IsFinite());
 }
 
+TEST(CGPath, IsNotFiniteOnceItCannotBeRounded) {
+  CGPath path;
+  path.MoveTo({1e36F, 0});
+  path.LineTo({0, 0});
+  path.Round(1000);
+  EXPECT_FALSE(path.IsFinite());
+}
+
 TEST(CGPath, GoesBackToWhereItWas) {
   CGPath path;
   path.MoveTo({1, 2});
