@@ -1,5 +1,7 @@
 #include "gdi/brush.h"
 
+#include <cstddef>
+
 namespace kelvane {
 namespace {
 
@@ -28,6 +30,16 @@ BrushPaint ResolveHatch(const Brush& brush, const BrushColors& colors) {
   return paint;
 }
 
+BrushPaint ResolvePattern(const Brush& brush, const Palette& palette) {
+  BrushPaint paint = {.kind = Brush::Kind::kPattern, .pattern = brush.pattern};
+  if (brush.pattern.usage == DIB_RGB_COLORS) return paint;
+  for (std::size_t i = 0; i < palette.Size(); ++i) {
+    const RgbColor color = palette.At(i);
+    paint.palette.push_back({color.red, color.green, color.blue});
+  }
+  return paint;
+}
+
 }  // namespace
 
 Brush CreateSolidBrush(ColorRef color) {
@@ -48,11 +60,11 @@ std::optional<Brush> CreateBrushIndirect(const LogBrush& brush) {
   }
 }
 
-Brush CreatePatternBrush(const PatternDib& pattern) {
+Brush CreatePatternBrush(const DibBytes& pattern) {
   return {.kind = Brush::Kind::kMonoPattern, .pattern = pattern};
 }
 
-Brush CreateDIBPatternBrushPt(const PatternDib& pattern) {
+Brush CreateDIBPatternBrushPt(const DibBytes& pattern) {
   return {.kind = Brush::Kind::kPattern, .pattern = pattern};
 }
 
@@ -70,7 +82,7 @@ BrushPaint ResolveBrush(const Brush& brush, const BrushColors& colors) {
               .background = ResolveColor(colors.background, colors.palette),
               .pattern = brush.pattern};
     case Brush::Kind::kPattern:
-      return {.kind = brush.kind, .pattern = brush.pattern};
+      return ResolvePattern(brush, colors.palette);
   }
   return {};
 }

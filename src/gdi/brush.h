@@ -2,21 +2,14 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
+#include <vector>
 
 #include "gdi/palette.h"
+#include "metafile/dib.h"
 #include "metafile/gdi_enumerations.h"
 #include "metafile/gdi_objects.h"
 
 namespace kelvane {
-
-/// A device-independent bitmap that a brush repeats, as files store it. Borrowed: it lives as long
-/// as the bytes of the file.
-struct PatternDib {
-  std::span<const unsigned char> header{};  // with the colour table
-  std::span<const unsigned char> pixels{};
-  DibUsage usage = DIB_RGB_COLORS;
-};
 
 /// What a brush is made of; colours are looked up when it paints.
 struct Brush {
@@ -29,9 +22,9 @@ struct Brush {
   };
 
   Kind kind = Kind::kNull;
-  ColorRef color{};      // of kSolid and kHatched
-  HatchStyle hatch{};    // of kHatched
-  PatternDib pattern{};  // of kMonoPattern and kPattern
+  ColorRef color{};    // of kSolid and kHatched
+  HatchStyle hatch{};  // of kHatched
+  DibBytes pattern{};  // of kMonoPattern and kPattern
 };
 
 Brush CreateSolidBrush(ColorRef color);
@@ -40,9 +33,9 @@ Brush CreateSolidBrush(ColorRef color);
 std::optional<Brush> CreateBrushIndirect(const LogBrush& brush);
 
 /// A brush of a bitmap with one bit a pixel: 0 is the text's colour, 1 the background's.
-Brush CreatePatternBrush(const PatternDib& pattern);
+Brush CreatePatternBrush(const DibBytes& pattern);
 
-Brush CreateDIBPatternBrushPt(const PatternDib& pattern);
+Brush CreateDIBPatternBrushPt(const DibBytes& pattern);
 
 /// What of a device context's state brushes look at.
 struct BrushColors {
@@ -60,8 +53,11 @@ struct BrushPaint {
   /// Of a hatch's gaps, which are left as they are without it; of the bits 1 of kMonoPattern.
   std::optional<RgbColor> background{};
 
-  HatchStyle hatch{};    // of kHatched: one of the six that are lines
-  PatternDib pattern{};  // of kMonoPattern and kPattern
+  HatchStyle hatch{};  // of kHatched: one of the six that are lines
+  DibBytes pattern{};  // of kMonoPattern and kPattern
+
+  /// Of a kPattern whose colours are numbers of a palette's: those of the one that is selected.
+  std::vector<DibColor> palette{};
 };
 
 BrushPaint ResolveBrush(const Brush& brush, const BrushColors& colors);

@@ -1,6 +1,5 @@
 #include "gdi/brush_pattern.h"
 
-#include <array>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -67,39 +66,47 @@ void Recolor(std::vector<unsigned char>& rgb, RasterStep::Color color) {
   }
 }
 
-CFOwned<const CGImage> ImageOf(DibPixels pixels) {
+CFOwned<const CGImage> ImageOf(const Dib& dib, std::vector<unsigned char> rgb) {
   const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  data->bytes = std::move(pixels.rgb);
+  data->bytes = std::move(rgb);
   const CFOwned<const CGDataProvider> provider(CGDataProviderCreateWithCFData(data.get()));
   const CFOwned<const CGColorSpace> space(CGColorSpaceCreateDeviceRGB());
-  return CFOwned<const CGImage>(CGImageCreate(pixels.width, pixels.height, 8, 24, 3 * pixels.width,
+  return CFOwned<const CGImage>(CGImageCreate(dib.Width(), dib.Height(), 8, 24, 3 * dib.Width(),
                                               space.get(), 0, provider.get(), nullptr, false,
                                               kCGRenderingIntentDefault));
 }
 
-std::optional<DibPixels> PixelsOf(const BrushPaint& paint) {
-  const PatternDib& dib = paint.pattern;
-  if (paint.kind == Brush::Kind::kMonoPattern) {
-    const RgbColor clear = paint.color;
-    const RgbColor set = paint.background.value_or(RgbColor{});
-    const std::array<DibColor, 2> colors = {
-        {{clear.red, clear.green, clear.blue}, {set.red, set.green, set.blue}}};
-    return DecodeDib(dib.header, dib.pixels, colors);
+/// The bits of a bitmap in the two colours of the device; its own do not matter.
+std::vector<unsigned char> MonoRgb(const Dib& dib, const PixelRectangle& whole,
+                                   const BrushPaint& paint) {
+  const RgbColor set = paint.background.value_or(RgbColor{});
+  std::vector<unsigned char> rgb;
+  rgb.reserve(3 * whole.width * whole.height);
+  for (const unsigned char index : DecodeIndexes(dib, whole).indexes) {
+    const RgbColor color = index == 0 ? paint.color : set;
+    rgb.insert(rgb.end(), {color.red, color.green, color.blue});
   }
-  if (dib.usage != DIB_RGB_COLORS) return std::nullopt;
-  return DecodeDib(dib.header, dib.pixels);
+  return rgb;
+}
+
+std::optional<std::vector<unsigned char>> RgbOf(const Dib& dib, const BrushPaint& paint) {
+  const PixelRectangle whole = {0, 0, dib.Width(), dib.Height()};
+  const bool isMono = paint.kind == Brush::Kind::kMonoPattern && dib.BitCount() == 1;
+  return isMono ? MonoRgb(dib, whole, paint) : DecodeRgb(dib, whole);
 }
 
 }  // namespace
 
 std::optional<CGPattern> MakePattern(const BrushPaint& paint, RasterStep::Color color) {
   if (paint.kind == Brush::Kind::kHatched) return HatchPattern(paint, color);
-  std::optional<DibPixels> pixels = PixelsOf(paint);
-  if (!pixels) return std::nullopt;
-  Recolor(pixels->rgb, color);
+  const std::optional<Dib> dib = Dib::Read(paint.pattern, paint.palette);
+  if (!dib) return std::nullopt;
+  auto rgb = RgbOf(*dib, paint);
+  if (!rgb) return std::nullopt;
+  Recolor(*rgb, color);
   CGPattern pattern;
-  pattern.cell = {static_cast<CGFloat>(pixels->width), static_cast<CGFloat>(pixels->height)};
-  pattern.image = ImageOf(*std::move(pixels));
+  pattern.cell = {static_cast<CGFloat>(dib->Width()), static_cast<CGFloat>(dib->Height())};
+  pattern.image = ImageOf(*dib, *std::move(rgb));
   return pattern;
 }
 

@@ -166,13 +166,14 @@ CGSharedPattern Canvas::CellOf(const BrushPaint& paint, RasterStep::Color color)
                        KeyOf(paint.background),
                        paint.pattern.header.data(),
                        paint.pattern.usage,
+                       paint.palette,
                        color};
-  const auto [entry, isNew] = cells_.try_emplace(key);
-  if (isNew && Afford(paint.pattern.pixels.size())) {
-    auto cell = MakePattern(paint, color);
-    if (cell) entry->second = std::make_shared<const CGPattern>(*std::move(cell));
-  }
-  return entry->second;
+  if (const auto known = cells_.find(key); known != cells_.end()) return known->second;
+  if (!Afford(paint.pattern.pixels.size() + paint.palette.size())) return nullptr;
+  auto cell = MakePattern(paint, color);
+  CGSharedPattern& entry = cells_[key];
+  if (cell) entry = std::make_shared<const CGPattern>(*std::move(cell));
+  return entry;
 }
 
 }  // namespace kelvane

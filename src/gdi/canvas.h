@@ -70,8 +70,9 @@ class Canvas {
   CGSharedPattern PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color);
 
  private:
-  using CellKey = std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t,
-                             const unsigned char*, DibUsage, RasterStep::Color>;
+  using CellKey =
+      std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t, const unsigned char*,
+                 DibUsage, std::vector<DibColor>, RasterStep::Color>;
   using PatternKey = std::tuple<const CGPattern*, std::int32_t, std::int32_t>;  // cell, origin
 
   struct WrittenCut {

@@ -16,7 +16,7 @@ PenStyle Masked(PenStyle style, PenStyle mask) {
 }
 
 /// @return the brush of the lines; nullopt when there can be none.
-std::optional<Brush> BrushOf(const LogPenEx& pen, const PatternDib& pattern) {
+std::optional<Brush> BrushOf(const LogPenEx& pen, const DibBytes& pattern) {
   switch (pen.brushStyle) {
     case BS_PATTERN:
     case BS_MONOPATTERN:
@@ -122,7 +122,7 @@ Pen CreatePenIndirect(const LogPen& pen) {
 }
 
 std::optional<Pen> ExtCreatePen(const LogPenEx& pen, ArrayView<std::uint32_t> entries,
-                                const PatternDib& pattern) {
+                                const DibBytes& pattern) {
   std::optional<Brush> brush = BrushOf(pen, pattern);
   if (!brush) return std::nullopt;
   Pen created;

@@ -30,7 +30,7 @@ Pen CreatePenIndirect(const LogPen& pen);
 /// @param pattern  the bitmap of a pen of patterns.
 /// @return nullopt for a brush style or hatch that is none.
 std::optional<Pen> ExtCreatePen(const LogPenEx& pen, ArrayView<std::uint32_t> entries,
-                                const PatternDib& pattern);
+                                const DibBytes& pattern);
 
 /// How a pen's lines are drawn. All lengths are logical units but where it says otherwise.
 struct PenStroke {

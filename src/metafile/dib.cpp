@@ -1,168 +1,234 @@
 #include "metafile/dib.h"
 
-#include <bit>
-#include <cstdlib>
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
 
-#include "metafile/byte_view.h"
-#include "metafile/gdi_enumerations.h"
+#include "metafile/direct_pixels.h"
 
 namespace kelvane {
 inline namespace metafile {
 namespace {
 
-constexpr std::uint32_t kCoreHeaderSize = 12;
-constexpr std::uint32_t kInfoHeaderSize = 40;
-constexpr std::uint32_t kMasksInHeaderSize = 52;  // headers of this size and more hold the masks
-
-struct Masks {
-  std::uint32_t red;
-  std::uint32_t green;
-  std::uint32_t blue;
-};
-
-struct DibLayout {
-  std::int64_t width = 0;
-  std::int64_t height = 0;  // negative for rows that are stored top first
-  std::uint16_t bitCount = 0;
-  DibCompression compression = BI_RGB;
-  std::uint32_t colorsUsed = 0;
-  Masks masks{};
-  std::vector<DibColor> colors;
-};
-
-/// Blue comes first, and a fourth byte means nothing.
-std::vector<DibColor> ReadColors(ByteView& bytes, std::size_t count, std::size_t entrySize) {
-  std::vector<DibColor> colors;
-  for (; count > 0 && bytes.Remaining() >= entrySize; --count) {
-    const auto entry = bytes.Read<DibColor>();
-    bytes.Skip(entrySize - sizeof(DibColor));
-    colors.push_back({entry[2], entry[1], entry[0]});
-  }
-  return colors;
-}
-
-std::size_t ColorCount(const DibLayout& layout) {
-  if (layout.bitCount > 8) return 0;
-  const std::size_t all = std::size_t{1} << layout.bitCount;
-  return layout.colorsUsed == 0 || layout.colorsUsed > all ? all : layout.colorsUsed;
-}
-
-Masks MasksOf(DibLayout& layout, ByteView& bytes) {
-  if (layout.compression == BI_BITFIELDS) {
-    return {bytes.Read<std::uint32_t>(), bytes.Read<std::uint32_t>(), bytes.Read<std::uint32_t>()};
-  }
-  if (layout.bitCount == 16) return {0x7C00, 0x03E0, 0x001F};
-  return {0xFF0000, 0x00FF00, 0x0000FF};
-}
-
-DibLayout ReadLayout(ByteView bytes) {
-  DibLayout layout;
-  const auto size = bytes.Read<std::uint32_t>();
-  if (size == kCoreHeaderSize) {
-    layout.width = bytes.Read<std::uint16_t>();
-    layout.height = bytes.Read<std::uint16_t>();
-    bytes.Skip(sizeof(std::uint16_t));  // planes
-    layout.bitCount = bytes.Read<std::uint16_t>();
-    layout.masks = MasksOf(layout, bytes);
-    layout.colors = ReadColors(bytes, ColorCount(layout), 3);
-    return layout;
-  }
-  layout.width = bytes.Read<std::int32_t>();
-  layout.height = bytes.Read<std::int32_t>();
-  bytes.Skip(sizeof(std::uint16_t));  // planes
-  layout.bitCount = bytes.Read<std::uint16_t>();
-  layout.compression = bytes.Read<DibCompression>();
-  bytes.Skip(3 * sizeof(std::uint32_t));  // size of the pixels, and their density
-  layout.colorsUsed = bytes.Read<std::uint32_t>();
-  bytes.Skip(sizeof(std::uint32_t));  // how many colours matter
-  if (bytes.IsShort() || size < kInfoHeaderSize) return {};
-  layout.masks = MasksOf(layout, bytes);
-  if (size >= kMasksInHeaderSize && layout.compression != BI_BITFIELDS) {
-    bytes.Skip(size - kInfoHeaderSize);
-  } else if (size >= kMasksInHeaderSize) {
-    bytes.Skip(size - kMasksInHeaderSize);
-  }
-  layout.colors = ReadColors(bytes, ColorCount(layout), 4);
-  return layout;
-}
-
-/// @return the bits of a mask as a channel from 0 to 255.
-std::uint8_t Channel(std::uint32_t pixel, std::uint32_t mask) {
-  if (mask == 0) return 0;
-  const int shift = std::countr_zero(mask);
-  const std::uint64_t most = mask >> shift;
-  return static_cast<std::uint8_t>(((pixel & mask) >> shift) * std::uint64_t{255} / most);
-}
-
-class RowDecoder {
- public:
-  explicit RowDecoder(const DibLayout& layout) : layout_(layout) {}
-
-  void Decode(const unsigned char* row, unsigned char* rgb) const {
-    for (std::size_t x = 0; x < static_cast<std::size_t>(layout_.width); ++x, rgb += 3) {
-      const DibColor color = layout_.bitCount <= 8 ? Indexed(row, x) : Direct(row, x);
-      rgb[0] = color[0];
-      rgb[1] = color[1];
-      rgb[2] = color[2];
-    }
-  }
-
- private:
-  [[nodiscard]] DibColor Indexed(const unsigned char* row, std::size_t x) const {
-    const std::size_t bit = x * layout_.bitCount;
-    const unsigned shift = 8U - layout_.bitCount - static_cast<unsigned>(bit % 8);
-    const std::size_t index = (row[bit / 8] >> shift) & ((1U << layout_.bitCount) - 1);
-    return index < layout_.colors.size() ? layout_.colors[index] : DibColor{};
-  }
-
-  [[nodiscard]] DibColor Direct(const unsigned char* row, std::size_t x) const {
-    const std::size_t bytes = layout_.bitCount / 8U;
-    std::uint32_t pixel = 0;
-    for (std::size_t i = 0; i < bytes; ++i)
-      pixel |= std::uint32_t{row[x * bytes + i]} << (8 * i);
-    return {Channel(pixel, layout_.masks.red), Channel(pixel, layout_.masks.green),
-            Channel(pixel, layout_.masks.blue)};
-  }
-
-  const DibLayout& layout_;
-};
-
-bool IsKnown(const DibLayout& layout) {
-  switch (layout.bitCount) {
+bool IsKnown(const DibHeader& header) {
+  switch (header.bitCount) {
     case 1:
     case 4:
     case 8:
     case 24:
-      return layout.compression == BI_RGB;
+      return header.compression == BI_RGB;
     case 16:
     case 32:
-      return layout.compression == BI_RGB || layout.compression == BI_BITFIELDS;
+      return header.compression == BI_RGB || header.compression == BI_BITFIELDS;
     default:
       return false;
   }
 }
 
+/// @return the bytes that pixels take, as far as a row fills them.
+constexpr std::uint64_t BytesOfPixels(std::uint64_t width, unsigned bitCount) {
+  return (width * bitCount + 7) / 8;
+}
+
+/// @return the bytes from one row to the next.
+constexpr std::uint64_t BytesOfRow(std::uint64_t width, unsigned bitCount) {
+  return (width * bitCount + 31) / 32 * 4;
+}
+
 }  // namespace
 
-std::optional<DibPixels> DecodeDib(std::span<const unsigned char> header,
-                                   std::span<const unsigned char> pixels,
-                                   std::span<const DibColor> colors) {
-  DibLayout layout = ReadLayout(ByteView(header));
-  if (!IsKnown(layout) || layout.width <= 0 || layout.height == 0) return std::nullopt;
-  if (!colors.empty()) layout.colors.assign(colors.begin(), colors.end());
+std::optional<Dib> Dib::Read(const DibBytes& bytes, std::span<const DibColor> palette,
+                             std::optional<std::uint32_t> rows) {
+  constexpr std::int64_t kMostRows = std::numeric_limits<std::int32_t>::max();
+  std::optional<DibHeader> header = ReadDibHeader(bytes.header, bytes.usage, palette);
+  if (!header || !IsKnown(*header)) return std::nullopt;
+  const std::int64_t width = header->width;
+  const std::int64_t stored = header->height;
+  const std::int64_t height = rows ? std::int64_t{*rows} : stored < 0 ? -stored : stored;
+  if (width <= 0 || height <= 0 || height > kMostRows) return std::nullopt;
 
-  DibPixels decoded;
-  decoded.width = static_cast<std::size_t>(layout.width);
-  decoded.height = static_cast<std::size_t>(std::abs(layout.height));
-  const std::size_t rowSize = (decoded.width * layout.bitCount + 31) / 32 * 4;
-  if (pixels.size() / rowSize < decoded.height) return std::nullopt;
-  decoded.rgb.resize(decoded.width * decoded.height * 3);
-  const RowDecoder decoder(layout);
-  for (std::size_t y = 0; y < decoded.height; ++y) {
-    const std::size_t stored = layout.height < 0 ? y : decoded.height - 1 - y;
-    decoder.Decode(pixels.data() + stored * rowSize, decoded.rgb.data() + y * decoded.width * 3);
+  Dib dib;
+  dib.header_ = *std::move(header);
+  dib.pixels_ = bytes.pixels;
+  dib.kind_ = dib.header_.bitCount <= 8 ? Content::kIndexed : Content::kDirect;
+  dib.width_ = static_cast<std::size_t>(width);
+  dib.height_ = static_cast<std::size_t>(height);
+  if (!dib.HasAllRows()) return std::nullopt;
+  return dib;
+}
+
+// What fills up the last row may be missing.
+bool Dib::HasAllRows() const {
+  const std::uint64_t last = BytesOfPixels(width_, BitCount());
+  if (pixels_.size() < last) return false;
+  return (pixels_.size() - last) / BytesOfRow(width_, BitCount()) >= height_ - 1;
+}
+
+bool Dib::IsRunLengthEncoded() const {
+  return header_.compression == BI_RLE8 || header_.compression == BI_RLE4;
+}
+
+std::span<const unsigned char> Dib::Row(std::size_t y) const {
+  const std::size_t stored = IsTopDown() ? y : height_ - 1 - y;
+  return pixels_.subspan(stored * static_cast<std::size_t>(BytesOfRow(width_, BitCount())),
+                         static_cast<std::size_t>(BytesOfPixels(width_, BitCount())));
+}
+
+namespace {
+
+template <unsigned bitCount>
+void UnpackRow(const unsigned char* row, std::size_t left, std::size_t width,
+               unsigned char* indexes) {
+  constexpr unsigned kPixels = 8 / bitCount;  // in a byte
+  for (std::size_t i = 0; i < width; ++i) {
+    const std::size_t x = left + i;
+    const unsigned shift = 8 - bitCount - static_cast<unsigned>(x % kPixels) * bitCount;
+    indexes[i] = static_cast<unsigned char>(row[x / kPixels] >> shift & ((1U << bitCount) - 1));
   }
-  return decoded;
+}
+
+/// Writes the numbers of a row's pixels, a byte each.
+void UnpackIndexes(const Dib& dib, std::size_t y, std::size_t left, std::size_t width,
+                   unsigned char* indexes) {
+  const unsigned char* row = dib.Row(y).data();
+  switch (dib.BitCount()) {
+    case 1:
+      return UnpackRow<1>(row, left, width, indexes);
+    case 4:
+      return UnpackRow<4>(row, left, width, indexes);
+    default:
+      std::copy_n(row + left, width, indexes);
+  }
+}
+
+std::vector<unsigned char> IndexedRgb(const Dib& dib, const PixelRectangle& part) {
+  std::array<DibColor, 256> colors{};  // for any byte, so that none need be looked at
+  std::ranges::copy(dib.Colors(), colors.begin());
+  std::vector<unsigned char> rgb(3 * part.width * part.height);
+  std::vector<unsigned char> indexes(part.width);
+  unsigned char* next = rgb.data();
+  for (std::size_t y = 0; y < part.height; ++y) {
+    UnpackIndexes(dib, part.top + y, part.left, part.width, indexes.data());
+    for (const unsigned char index : indexes)
+      next = std::ranges::copy(colors[index], next).out;
+  }
+  return rgb;
+}
+
+/// The pixels of rows of a part, taken apart by one who knows their masks.
+class DirectRows {
+ public:
+  DirectRows(const Dib& dib, const PixelRectangle& part)
+      : dib_(dib), part_(part), pixels_(dib.BitCount(), dib.Masks()) {}
+
+  void ToRgb(std::size_t y, unsigned char* rgb) const { pixels_.ToRgb(Start(y), part_.width, rgb); }
+  void ToAlpha(std::size_t y, unsigned char* alpha) const {
+    pixels_.ToAlpha(Start(y), part_.width, alpha);
+  }
+
+ private:
+  [[nodiscard]] const unsigned char* Start(std::size_t y) const {
+    return dib_.Row(part_.top + y).data() + part_.left * pixels_.BytesPerPixel();
+  }
+
+  const Dib& dib_;
+  const PixelRectangle& part_;
+  DirectPixels pixels_;
+};
+
+std::vector<unsigned char> DirectRgb(const Dib& dib, const PixelRectangle& part) {
+  const DirectRows rows(dib, part);
+  std::vector<unsigned char> rgb(3 * part.width * part.height);
+  for (std::size_t y = 0; y < part.height; ++y)
+    rows.ToRgb(y, rgb.data() + 3 * part.width * y);
+  return rgb;
+}
+
+/// Takes out of a colour the alpha that it was multiplied by.
+void DivideByAlpha(unsigned char* rgb, unsigned alpha) {
+  if (alpha == 255) return;
+  for (std::size_t i = 0; i < 3; ++i) {
+    const unsigned color = std::min<unsigned>(rgb[i], alpha);
+    rgb[i] = alpha == 0 ? 0 : static_cast<unsigned char>((color * 255 + alpha / 2) / alpha);
+  }
+}
+
+}  // namespace
+
+std::optional<std::vector<unsigned char>> DecodeRgb(const Dib& dib, const PixelRectangle& part) {
+  return dib.Kind() == Dib::Content::kIndexed ? IndexedRgb(dib, part) : DirectRgb(dib, part);
+}
+
+bool IsGray(const Dib& dib, const PixelRectangle& part) {
+  const DirectRows rows(dib, part);
+  std::vector<unsigned char> rgb(3 * part.width);
+  for (std::size_t y = 0; y < part.height; ++y) {
+    rows.ToRgb(y, rgb.data());
+    unsigned differences = 0;
+    for (std::size_t i = 0; i < rgb.size(); i += 3)
+      differences |= (rgb[i] ^ rgb[i + 1]) | (rgb[i] ^ rgb[i + 2]);
+    if (differences != 0) return false;
+  }
+  return true;
+}
+
+std::vector<unsigned char> DecodeGray(const Dib& dib, const PixelRectangle& part) {
+  const DirectRows rows(dib, part);
+  std::vector<unsigned char> rgb(3 * part.width);
+  std::vector<unsigned char> gray(part.width * part.height);
+  unsigned char* next = gray.data();
+  for (std::size_t y = 0; y < part.height; ++y) {
+    rows.ToRgb(y, rgb.data());
+    for (std::size_t i = 0; i < rgb.size(); i += 3)
+      *next++ = rgb[i];
+  }
+  return gray;
+}
+
+IndexedPixels DecodeIndexes(const Dib& dib, const PixelRectangle& part) {
+  IndexedPixels pixels;
+  pixels.indexes.resize(part.width * part.height);
+  for (std::size_t y = 0; y < part.height; ++y) {
+    UnpackIndexes(dib, part.top + y, part.left, part.width, pixels.indexes.data() + part.width * y);
+  }
+  return pixels;
+}
+
+std::vector<unsigned char> DecodePackedIndexes(const Dib& dib, const PixelRectangle& part) {
+  const std::size_t firstBit = part.left * dib.BitCount();
+  const std::size_t rowBits = part.width * dib.BitCount();
+  const std::size_t rowSize = (rowBits + 7) / 8;
+  const unsigned shift = firstBit % 8;
+  const auto lastByte = static_cast<unsigned char>(0xFF00U >> ((rowBits - 1) % 8 + 1));
+  std::vector<unsigned char> packed(rowSize * part.height);
+  unsigned char* next = packed.data();
+  for (std::size_t y = 0; y < part.height; ++y, next += rowSize) {
+    const std::span<const unsigned char> row = dib.Row(part.top + y).subspan(firstBit / 8);
+    for (std::size_t i = 0; i < rowSize; ++i) {
+      const unsigned following = i + 1 < row.size() ? row[i + 1] : 0;
+      next[i] = static_cast<unsigned char>((row[i] << 8 | following) << shift >> 8);
+    }
+    next[rowSize - 1] &= lastByte;
+  }
+  return packed;
+}
+
+std::optional<TranslucentPixels> DecodePremultiplied(const Dib& dib, const PixelRectangle& part) {
+  if (dib.Kind() != Dib::Content::kDirect || dib.BitCount() != 32 || dib.Masks().alpha == 0) {
+    return std::nullopt;
+  }
+  const DirectRows rows(dib, part);
+  TranslucentPixels pixels;
+  pixels.rgb.resize(3 * part.width * part.height);
+  pixels.alpha.resize(part.width * part.height);
+  for (std::size_t y = 0; y < part.height; ++y) {
+    rows.ToRgb(y, pixels.rgb.data() + 3 * part.width * y);
+    rows.ToAlpha(y, pixels.alpha.data() + part.width * y);
+  }
+  for (std::size_t i = 0; i < pixels.alpha.size(); ++i)
+    DivideByAlpha(pixels.rgb.data() + 3 * i, pixels.alpha[i]);
+  return pixels;
 }
 
 }  // namespace metafile

@@ -118,6 +118,17 @@ TEST(BrushPattern, ShowsAMonoBitmapInTextAndBackgroundColor) {
   EXPECT_EQ(PixelsOf(*pattern), (std::vector<unsigned char>{0, 0, 255, 0, 255, 0}));
 }
 
+TEST(BrushPattern, ShowsABitmapInColorsOfThePalette) {
+  const Bytes header = Bytes().BitmapHeader({.width = 2, .height = 1, .bitCount = 1}).U16(1).U16(0);
+  const Bytes pixels = Bytes().Each({0x40, 0, 0, 0});
+  const auto pattern = MakePattern({.kind = Brush::Kind::kPattern,
+                                    .pattern = {header.Data(), pixels.Data(), DIB_PAL_COLORS},
+                                    .palette = {{1, 2, 3}, {4, 5, 6}}},
+                                   RasterStep::Color::kPaint);
+  ASSERT_TRUE(pattern);
+  EXPECT_EQ(PixelsOf(*pattern), (std::vector<unsigned char>{4, 5, 6, 1, 2, 3}));
+}
+
 TEST(BrushPattern, IsNoneWithoutPixels) {
   const Bytes header = MonoHeader(2, 9);
   EXPECT_FALSE(MakePattern({.kind = Brush::Kind::kPattern, .pattern = {header.Data(), {}}},

@@ -85,5 +85,11 @@ TEST(Brush, OfABitmapKeepsItsColors) {
   EXPECT_EQ(paint.background, std::nullopt);
 }
 
+TEST(Brush, TakesThePaletteAlongWhenItsBitmapNumbersColors) {
+  const BrushPaint paint = Resolve(CreateDIBPatternBrushPt({{}, {}, DIB_PAL_COLORS}));
+  EXPECT_EQ(paint.palette, (std::vector<DibColor>{{0, 0, 255}}));
+  EXPECT_TRUE(Resolve(CreateDIBPatternBrushPt({})).palette.empty());
+}
+
 }  // namespace
 }  // namespace kelvane

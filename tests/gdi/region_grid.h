@@ -32,7 +32,7 @@ inline Pixels CombinePixels(const Pixels& a, const Pixels& b, RegionMode mode) {
   return {};
 }
 
-inline RectangleD PixelRectangle(int index) {
+inline RectangleD RectangleOfPixel(int index) {
   const int column = index % kGridSize;
   const int row = index / kGridSize;
   return {static_cast<double>(column), static_cast<double>(row), column + 1.0, row + 1.0};
@@ -46,7 +46,7 @@ template <class Shape>
 Pixels PixelsOf(const Shape& shape) {
   Pixels pixels;
   for (int i = 0; i < kGridSize * kGridSize; ++i) {
-    const RectangleD pixel = PixelRectangle(i);
+    const RectangleD pixel = RectangleOfPixel(i);
     pixels[static_cast<std::size_t>(i)] =
         Contains(shape, PointD{pixel.left + 0.5, pixel.top + 0.5});
   }

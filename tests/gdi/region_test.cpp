@@ -47,7 +47,7 @@ TEST(Region, IsTheSameValueHoweverItWasMade) {
         const Pixels pixels = PixelsOf(combined);
         std::vector<RectangleD> one;
         for (int i = 0; i < kGridSize * kGridSize; ++i) {
-          if (pixels[static_cast<std::size_t>(i)]) one.push_back(PixelRectangle(i));
+          if (pixels[static_cast<std::size_t>(i)]) one.push_back(RectangleOfPixel(i));
         }
         ASSERT_EQ(combined, UnionOf(one)) << a << ' ' << b << " mode " << mode;
       }

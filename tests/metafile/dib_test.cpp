@@ -12,9 +12,18 @@ using Channels = std::vector<unsigned char>;
 
 constexpr std::uint32_t kBitFields = 3;
 
+std::optional<Dib> Read(const Bytes& header, const Bytes& pixels) {
+  return Dib::Read({header.Data(), pixels.Data()});
+}
+
+PixelRectangle Whole(const Dib& dib) {
+  return {0, 0, dib.Width(), dib.Height()};
+}
+
 Channels Decoded(const Bytes& header, const Bytes& pixels) {
-  const auto decoded = DecodeDib(header.Data(), pixels.Data());
-  return decoded ? decoded->rgb : Channels();
+  const auto dib = Read(header, pixels);
+  if (!dib) return {};
+  return DecodeRgb(*dib, Whole(*dib)).value_or(Channels());
 }
 
 TEST(Dib, HasOneBitAPixelFromTheHighestOn) {
@@ -40,7 +49,7 @@ TEST(Dib, HasAByteAPixel) {
   EXPECT_EQ(Decoded(header, Bytes().Each({255, 2, 0, 0})), (Channels{0, 255, 0, 0, 2, 0}));
 }
 
-// 5 bits each: red 31, green 1 (255 / 31, cut), blue 0.
+// 5 bits each: red 31, green 1 (255 / 31, rounded), blue 0.
 TEST(Dib, HasFiveBitsAChannelOfSixteen) {
   const Bytes header = Bytes().BitmapHeader({.width = 2, .height = 1, .bitCount = 16});
   EXPECT_EQ(Decoded(header, Bytes().U16(0x7C20).U16(0x801F)), (Channels{255, 8, 0, 0, 0, 255}));
@@ -95,10 +104,7 @@ TEST(Dib, StoresItsLowestRowFirst) {
 
 TEST(Dib, StoresItsHighestRowFirstWithAHeightBelowZero) {
   const Bytes header = Bytes().BitmapHeader({.width = 1, .height = -2, .bitCount = 24});
-  const auto decoded = DecodeDib(header.Data(), Bytes().Each({1, 1, 1, 0, 2, 2, 2, 0}).Data());
-  ASSERT_TRUE(decoded);
-  EXPECT_EQ(decoded->height, 2U);
-  EXPECT_EQ(decoded->rgb, (Channels{1, 1, 1, 2, 2, 2}));
+  EXPECT_EQ(Decoded(header, Bytes().Each({1, 1, 1, 0, 2, 2, 2, 0})), (Channels{1, 1, 1, 2, 2, 2}));
 }
 
 TEST(Dib, HasThreeBytesAColorBehindAnOldHeader) {
@@ -114,36 +120,44 @@ TEST(Dib, IsBlackBeyondItsColors) {
   EXPECT_EQ(Decoded(header, Bytes().Each({0, 1, 0, 0})), (Channels{9, 9, 9, 0, 0, 0}));
 }
 
-TEST(Dib, TakesColorsInThePlaceOfItsOwn) {
-  const Bytes header =
-      Bytes().BitmapHeader({.width = 2, .height = 1, .bitCount = 1}).Color(9, 9, 9).Color(8, 8, 8);
-  const std::vector<DibColor> colors = {{1, 2, 3}, {4, 5, 6}};
-  const auto decoded = DecodeDib(header.Data(), Bytes().Each({0x40, 0, 0, 0}).Data(), colors);
-  ASSERT_TRUE(decoded);
-  EXPECT_EQ(decoded->rgb, (Channels{1, 2, 3, 4, 5, 6}));
+TEST(Dib, NumbersTheColorsOfAPalette) {
+  const Bytes header = Bytes().BitmapHeader({.width = 3, .height = 1, .bitCount = 1}).U16(1).U16(7);
+  const Bytes pixels = Bytes().Each({0x40, 0, 0, 0});
+  const std::vector<DibColor> palette = {{1, 2, 3}, {4, 5, 6}};
+  const auto dib = Dib::Read({header.Data(), pixels.Data(), DIB_PAL_COLORS}, palette);
+  ASSERT_TRUE(dib);
+  EXPECT_EQ(DecodeRgb(*dib, Whole(*dib)), (Channels{4, 5, 6, 1, 2, 3, 4, 5, 6}));
+}
+
+TEST(Dib, HasPixelsThatNumberTheColorsOfAPalette) {
+  const Bytes header = Bytes().BitmapHeader({.width = 3, .height = 1, .bitCount = 4});
+  const Bytes pixels = Bytes().Each({0x10, 0xF0, 0, 0});
+  const std::vector<DibColor> palette = {{1, 2, 3}, {4, 5, 6}};
+  const auto dib = Dib::Read({header.Data(), pixels.Data(), DIB_PAL_INDICES}, palette);
+  ASSERT_TRUE(dib);
+  EXPECT_EQ(DecodeRgb(*dib, Whole(*dib)), (Channels{4, 5, 6, 1, 2, 3, 1, 2, 3}));
 }
 
 TEST(Dib, IsNoneWithoutAllOfItsPixels) {
   const Bytes header = Bytes().BitmapHeader({.width = 1, .height = 2, .bitCount = 24});
-  EXPECT_TRUE(DecodeDib(header.Data(), Bytes().Zeros(8).Data()));
-  EXPECT_FALSE(DecodeDib(header.Data(), Bytes().Zeros(7).Data()));
+  EXPECT_TRUE(Read(header, Bytes().Zeros(7)));  // the last row has nothing to fill it up
+  EXPECT_FALSE(Read(header, Bytes().Zeros(6)));
   const Bytes huge = Bytes().BitmapHeader({.width = 0x7FFFFFFF, .height = 0x7FFFFFFF});
-  EXPECT_FALSE(DecodeDib(huge.Data(), Bytes().Zeros(64).Data()));
+  EXPECT_FALSE(Read(huge, Bytes().Zeros(64)));
 }
 
 TEST(Dib, IsNoneWithoutAWholeHeader) {
-  const std::vector<unsigned char> header =
-      Bytes().BitmapHeader({.width = 1, .height = 1, .bitCount = 24}).Data();
+  const Bytes header = Bytes().BitmapHeader({.width = 1, .height = 1, .bitCount = 24});
   const Bytes pixels = Bytes().Zeros(64);
   for (std::size_t size = 0; size < 40; ++size)
-    EXPECT_FALSE(DecodeDib(std::span(header).first(size), pixels.Data())) << size;
+    EXPECT_FALSE(Dib::Read({std::span(header.Data()).first(size), pixels.Data()})) << size;
 }
 
 TEST(Dib, IsNoneWithoutASize) {
   const Bytes pixels = Bytes().Zeros(64);
   for (const auto& [width, height] : {std::pair(0, 1), std::pair(-1, 1), std::pair(1, 0)}) {
     const Bytes header = Bytes().BitmapHeader({.width = width, .height = height});
-    EXPECT_FALSE(DecodeDib(header.Data(), pixels.Data())) << width << ' ' << height;
+    EXPECT_FALSE(Read(header, pixels)) << width << ' ' << height;
   }
 }
 
@@ -151,11 +165,11 @@ TEST(Dib, IsNoneInADepthOrCompressionThatIsNotKnown) {
   const Bytes pixels = Bytes().Zeros(64);
   for (const std::uint32_t depth : {0U, 2U, 3U, 15U, 31U, 64U}) {
     const Bytes header = Bytes().BitmapHeader({.bitCount = depth});
-    EXPECT_FALSE(DecodeDib(header.Data(), pixels.Data())) << depth;
+    EXPECT_FALSE(Read(header, pixels)) << depth;
   }
   for (const std::uint32_t compression : {1U, 2U, 4U, 5U, 11U}) {
     const Bytes header = Bytes().BitmapHeader({.bitCount = 8, .compression = compression});
-    EXPECT_FALSE(DecodeDib(header.Data(), pixels.Data())) << compression;
+    EXPECT_FALSE(Read(header, pixels)) << compression;
   }
 }
 

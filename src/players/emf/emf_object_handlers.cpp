@@ -10,7 +10,7 @@
 namespace kelvane {
 namespace {
 
-PatternDib PatternOf(const StoredDib& dib, DibUsage usage) {
+DibBytes PatternOf(const StoredDib& dib, DibUsage usage) {
   return {dib.header.Bytes(), dib.pixels.Bytes(), usage};
 }
 
