@@ -1,27 +1,50 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <vector>
 
-#include "gdi/clip_state.h"
 #include "gdi/geometry.h"
 #include "metafile/dib.h"
-#include "metafile/gdi_enumerations.h"
-#include "platform/quartz/cg_image.h"
+#include "metafile/gdi_types.h"
 
 namespace kelvane {
+
+/// Which pixels of a part are seen: a byte each, 0 or 1, rows top first. Null for all of them.
+using ShownPixels = std::shared_ptr<const std::vector<std::uint8_t>>;
+
+/// A part of a bitmap, which is not empty.
+struct DibPart {
+  Dib dib;
+  PixelRectangle rectangle;
+};
 
 /// A part of a bitmap on its way onto the page.
 struct Blit {
   Dib dib;
-  PixelRectangle part;   // not empty
-  TransformD toDevice;   // pixels of the bitmap to device units
-  bool isCutOut = false;  // the part lies askew in the bitmap, and only `destination` of it shows
-  RectangleD source;      // pixels: the part before it was brought to whole ones
-  bool isSmooth = false;  // enlarged, pixels run into each other
+  PixelRectangle part;  // not empty
+  TransformD toDevice;  // pixels of the bitmap to device units
 
-  /// What is seen of it; null shows all.
-  CFOwned<const CGImage> mask{};
+  /// What shows of a part that lies askew in its bitmap, or begins within a pixel: a
+  /// quadrilateral, device units.
+  std::optional<std::array<PointD, 4>> cut{};
+
+  ShownPixels shown{};
+  bool isSmooth = false;  // pixels run into each other where it is enlarged
 };
+
+/// @return what maps the unit square, whose y grows downwards, onto the part on the device.
+TransformD UnitToDevice(const Blit& blit);
+
+/// @param source        pixels; its left and top edge are the destination's, wherever they lie, so
+///                      that edges in the other order mirror. What is not in the bitmap is cut off,
+///                      and the destination with it.
+/// @param toPixels      of the source rectangle, which may be turned.
+/// @param unitToDevice  the destination.
+/// @return nullopt when there is nothing to be seen.
+std::optional<Blit> PlaceBlit(Dib dib, const RectangleD& source, const TransformD& toPixels,
+                              const TransformD& unitToDevice);
 
 }  // namespace kelvane

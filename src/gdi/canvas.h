@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -53,7 +55,13 @@ class Canvas {
   /// entered and of paths that are saved and painted, the bytes of brushes in ever new colours. A
   /// large file may have more of it.
   bool Afford(std::size_t parts);
-  void AllowFor(std::size_t fileSize) { repeats_.Add(fileSize); }
+  void AllowFor(std::size_t fileSize) {
+    repeats_.Add(fileSize);
+    pixels_.Add(8 * std::uint64_t{fileSize});
+  }
+
+  /// What bitmaps decode to: a few bytes of one that is compressed can stand for any size.
+  [[nodiscard]] bool AffordPixels(std::uint64_t bytes) { return pixels_.Take(bytes); }
 
   /// Whether something was not drawn because it could not be afforded.
   [[nodiscard]] bool HasRunOut() const { return hasRunOut_; }
@@ -91,6 +99,7 @@ class Canvas {
   double patternPixelX_;  // device units in a pixel of a brush
   double patternPixelY_;
   Steps repeats_{1U << 22};
+  Steps pixels_{1U << 24};  // bytes
   bool hasRunOut_ = false;
   std::vector<WrittenCut> written_;           // each within a state that was saved, outermost first
   std::map<CellKey, CGSharedPattern> cells_;  // a unit a pixel, wherever they lie

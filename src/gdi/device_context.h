@@ -9,6 +9,7 @@
 #include "gdi/clip_state.h"
 #include "gdi/mapping.h"
 #include "gdi/object_table.h"
+#include "gdi/pending_blits.h"
 #include "gdi/pending_marks.h"
 #include "gdi/shortfall.h"
 #include "gdi/steps.h"
@@ -80,6 +81,7 @@ struct DeviceContext {
   bool outlinesText = false;  // glyphs become shapes
 
   PendingMarks pending;
+  PendingBlits pendingBlits;
   CGPath bracketPath;               // of the open bracket, device units
   std::uint64_t bracketSerial = 0;  // of the bracket that bracketPath belongs to
   std::uint64_t bracketsBegun = 0;

@@ -84,8 +84,12 @@ PenStroke WithoutDashes(PenStroke stroke) {
 }  // namespace
 
 bool BringClip(DeviceContext& device) {
+  return BringClip(device, device.state.clip);
+}
+
+bool BringClip(DeviceContext& device, const ClipState& clip) {
   if (device.canvas == nullptr) return false;
-  const bool shows = device.canvas->BringClip(device.state.clip);
+  const bool shows = device.canvas->BringClip(clip);
   if (!shows && device.canvas->HasRunOut()) device.shortfalls.Add(Shortfall::kDrawnTooOften);
   return shows;
 }

@@ -12,8 +12,9 @@ namespace kelvane {
 
 enum class PaintKind : std::uint8_t { kFill, kStroke, kFillAndStroke };
 
-/// Cuts the page to the clip there is. @return false when nothing can be seen.
+/// Cuts the page to the clip there is, or another. @return false when nothing can be seen.
 bool BringClip(DeviceContext& device);
+bool BringClip(DeviceContext& device, const ClipState& clip);
 
 /// Paints with the selected brush and pen under the raster operation.
 void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind);

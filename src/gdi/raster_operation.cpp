@@ -47,10 +47,6 @@ bool IsExtreme(std::uint8_t channel) {
   return channel == 0 || channel == 255;
 }
 
-std::uint32_t CodeOf(TernaryRasterOperation operation) {
-  return operation >> 16 & 0xFF;
-}
-
 std::uint8_t Inverse(std::uint8_t channel) {
   return static_cast<std::uint8_t>(~channel);
 }

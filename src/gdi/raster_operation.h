@@ -29,7 +29,10 @@ bool IsExact(BinaryRasterOperation operation, RgbColor paint);
 /// @return the colour of a step's mark.
 RgbColor ColorOf(RasterStep::Color color, RgbColor paint);
 
-// Of a ternary operation only bits 16 to 23 count: files hold others below, and flags above.
+/// @return the bits of a ternary operation that count: files hold others below, and flags above.
+constexpr std::uint32_t CodeOf(TernaryRasterOperation operation) {
+  return operation >> 16 & 0xFF;
+}
 
 /// @return the operation on paint and destination that a ternary one is where the source's bits are
 ///         all set, or all unset.

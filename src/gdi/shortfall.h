@@ -14,9 +14,11 @@ enum class Shortfall : std::uint8_t {
   kDrawnTooOften,      // it repeats so much that it was not drawn
   kMissingCharacters,  // no face has some of the characters
   kForeignGlyphs,      // glyph numbers of a face that is not there
+  kUnreadableBitmap,   // a bitmap cannot be read, and was not drawn
+  kBitmapTooLarge,     // a bitmap is far larger than its data, and was not drawn
 };
 
-inline constexpr int kShortfalls = 8;
+inline constexpr int kShortfalls = 10;
 
 /// A set of them.
 class Shortfalls {

@@ -1,37 +1,49 @@
-#include "gdi/raster_operation.h"
-#include "gdi/shapes.h"
+#include "gdi/blits.h"
 #include "metafile/emf/emf_bitmap_records.h"
 #include "players/emf/emf_handler.h"
 
 namespace kelvane {
 namespace {
 
-constexpr std::string_view kNoBitmaps = "bitmaps are not drawn yet";
-
-/// Without a bitmap a blit fills its rectangle, the commonest use of it; one that needs a bitmap
-/// paints nothing then.
-void PlayBlit(EmfPlayback& p, const BlitRecord& r) {
-  const auto operation = WithoutSource(r.rop);
-  if (operation) return PatBlt(p.device, r.destination, r.size, *operation);
-  if (!r.source.dib.IsEmpty()) p.LeftOut(kNoBitmaps);
+DibBytes BytesOf(const StoredDib& dib, DibUsage usage) {
+  return {dib.header.Bytes(), dib.pixels.Bytes(), usage};
 }
 
-constexpr auto kLeaveOut = [](EmfPlayback& p, const auto&) { p.LeftOut(kNoBitmaps); };
+SourceBitmap BitmapOf(const BlitSource& source) {
+  return {BytesOf(source.dib, source.usage), source.position, source.size, source.transform};
+}
+
+MaskBitmap BitmapOf(const BlitMask& mask) {
+  return {BytesOf(mask.dib, mask.usage), mask.position};
+}
 
 constexpr EmfHandler kBitmapHandlers[] = {
-    {EMR_BITBLT, Playing<DecodeBitBlt>([](EmfPlayback& p, const auto& r) { PlayBlit(p, r); })},
-    {EMR_STRETCHBLT,
-     Playing<DecodeStretchBlt>([](EmfPlayback& p, const auto& r) { PlayBlit(p, r); })},
-    {EMR_MASKBLT, Playing<DecodeMaskBlt>(kLeaveOut)},
-    {EMR_PLGBLT, Playing<DecodePlgBlt>(kLeaveOut)},
-    {EMR_SETDIBITSTODEVICE, Playing<DecodeSetDIBitsToDevice>(kLeaveOut)},
-    {EMR_STRETCHDIBITS, Playing<DecodeStretchDIBits>([](EmfPlayback& p, const auto& r) {
-       const auto operation = WithoutSource(r.rop);
-       if (operation) return PatBlt(p.device, r.destination, r.size, *operation);
-       p.LeftOut(kNoBitmaps);
+    {EMR_BITBLT, Playing<DecodeBitBlt>([](EmfPlayback& p, const auto& r) {
+       BitBlt(p.device, r.destination, r.size, BitmapOf(r.source), r.rop);
      })},
-    {EMR_ALPHABLEND, Playing<DecodeAlphaBlend>(kLeaveOut)},
-    {EMR_TRANSPARENTBLT, Playing<DecodeTransparentBlt>(kLeaveOut)},
+    {EMR_STRETCHBLT, Playing<DecodeStretchBlt>([](EmfPlayback& p, const auto& r) {
+       StretchBlt(p.device, r.destination, r.size, BitmapOf(r.source), r.rop);
+     })},
+    {EMR_MASKBLT, Playing<DecodeMaskBlt>([](EmfPlayback& p, const auto& r) {
+       MaskBlt(p.device, r.destination, r.size, BitmapOf(r.source), BitmapOf(r.mask), r.rop4);
+     })},
+    {EMR_PLGBLT, Playing<DecodePlgBlt>([](EmfPlayback& p, const auto& r) {
+       PlgBlt(p.device, r.destination, BitmapOf(r.source), BitmapOf(r.mask));
+     })},
+    {EMR_SETDIBITSTODEVICE, Playing<DecodeSetDIBitsToDevice>([](EmfPlayback& p, const auto& r) {
+       SetDIBitsToDevice(p.device, r.destination, r.size, r.source, {r.startScan, r.scans},
+                         BytesOf(r.dib, r.usage));
+     })},
+    {EMR_STRETCHDIBITS, Playing<DecodeStretchDIBits>([](EmfPlayback& p, const auto& r) {
+       StretchDIBits(p.device, r.destination, r.size, r.source, r.sourceSize,
+                     BytesOf(r.dib, r.usage), r.rop);
+     })},
+    {EMR_ALPHABLEND, Playing<DecodeAlphaBlend>([](EmfPlayback& p, const auto& r) {
+       AlphaBlend(p.device, r.destination, r.size, BitmapOf(r.source), r.blend);
+     })},
+    {EMR_TRANSPARENTBLT, Playing<DecodeTransparentBlt>([](EmfPlayback& p, const auto& r) {
+       TransparentBlt(p.device, r.destination, r.size, BitmapOf(r.source), r.transparent);
+     })},
 };
 
 }  // namespace

@@ -19,7 +19,25 @@ HandlersByType MakeHandlers() {
   return handlers;
 }
 
+using FamiliesByType = std::array<EmfFamily, kEmfRecordTypes>;
+
+FamiliesByType MakeFamilies() {
+  FamiliesByType families{};
+  for (const auto& table : {EmfStateHandlers(), EmfObjectHandlers()}) {
+    for (const EmfHandler& row : table)
+      families[row.type] = EmfFamily::kState;
+  }
+  for (const EmfHandler& row : EmfBitmapHandlers())
+    families[row.type] = EmfFamily::kBitmap;
+  return families;
+}
+
 }  // namespace
+
+EmfFamily FamilyOf(std::uint32_t type) {
+  static const FamiliesByType kFamilies = MakeFamilies();
+  return type < kFamilies.size() ? kFamilies[type] : EmfFamily::kOther;
+}
 
 PlayEmfRecord FindEmfHandler(std::uint32_t type) {
   static const HandlersByType kHandlers = MakeHandlers();

@@ -15,7 +15,8 @@ namespace kelvane {
 struct EmfPlayback {
   DeviceContext& device;
   Report& report;
-  std::uint32_t type = 0;  // of the record at hand
+  std::uint32_t type = 0;      // of the record at hand
+  std::uint32_t blitType = 0;  // of the last bitmap record
 
   std::size_t emfPlusRecords = 0;
   bool hasEmfHalf = false;  // whether EMF records have what EMF+ has
@@ -66,6 +67,15 @@ std::span<const EmfHandler> EmfCommentHandlers();
 
 /// Records that leave no mark, or none yet.
 std::span<const EmfHandler> EmfUnplayedHandlers();
+
+/// What a record may do to bitmaps that wait for others to be one picture with them.
+enum class EmfFamily : std::uint8_t {
+  kOther,   // ends the waiting
+  kState,   // only changes what later records draw with
+  kBitmap,  // may be one of the others
+};
+
+EmfFamily FamilyOf(std::uint32_t type);
 
 /// @param type  as stored. @return null for a record that is in no table.
 PlayEmfRecord FindEmfHandler(std::uint32_t type);

@@ -47,6 +47,8 @@ constexpr std::array<ShortfallWords, kShortfalls> kShortfallWords = {{
     {"what it repeats was drawn too often, and not again"},
     {"no font has some of its characters"},
     {"its text is glyph numbers of a font that is not there", Omission::kLeftOut},
+    {"its bitmap cannot be read", Omission::kLeftOut},
+    {"its bitmap is far larger than its data", Omission::kLeftOut},
 }};
 
 void ReportShortfalls(EmfPlayback& playback) {
@@ -64,11 +66,24 @@ bool AddsToPendingMarks(std::uint32_t type) {
   return type == EMR_MOVETOEX || type == EMR_LINETO || type == EMR_SETPIXELV;
 }
 
+void FinishMarks(EmfPlayback& playback) {
+  DrawPendingMarks(playback.device);
+  ReportShortfalls(playback);
+}
+
+/// What a blit falls short of is told of its own record.
+void FinishBlits(EmfPlayback& playback) {
+  if (playback.device.pendingBlits.blits.empty()) return;
+  playback.type = playback.blitType;
+  DrawPendingBlits(playback.device);
+  ReportShortfalls(playback);
+}
+
 void Play(EmfPlayback& playback, EmfRecord& record) {
-  if (!AddsToPendingMarks(record.type)) {
-    DrawPendingMarks(playback.device);
-    ReportShortfalls(playback);
-  }
+  if (!AddsToPendingMarks(record.type)) FinishMarks(playback);
+  const EmfFamily family = FamilyOf(record.type);
+  if (family == EmfFamily::kOther) FinishBlits(playback);
+  if (family == EmfFamily::kBitmap) playback.blitType = record.type;
   playback.type = record.type;
   const PlayEmfRecord play = FindEmfHandler(record.type);
   if (play == nullptr) return playback.LeftOut("it is of an unknown kind");
@@ -94,8 +109,8 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
     Play(playback, *record);
     ++count;
   }
-  DrawPendingMarks(playback.device);
-  ReportShortfalls(playback);
+  FinishMarks(playback);
+  FinishBlits(playback);
   const EmfEnd end = *records.End();
   if (end != EmfEnd::kEndRecord) {
     playback.report.Remark("the records end at byte " + std::to_string(records.Offset()) + ": " +

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+
+#include "gdi/blit.h"
+#include "gdi/blits.h"
+
+namespace kelvane {
+
+/// @param rows  how many there are, in place of what the header says.
+/// @return the bitmap with the colours of the selected palette where it asks for them; nullopt,
+///         noted as a shortfall, when it cannot be read or so little data may not be so large.
+std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes,
+                              std::optional<std::uint32_t> rows = std::nullopt);
+
+/// @return a destination in logical units as what maps the unit square onto the device.
+TransformD Destination(const DeviceContext& device, PointL corner, SizeL size);
+
+/// @return the source's part on its way to the destination; nullopt when there is nothing to be
+///         seen, or nothing to be read.
+std::optional<Blit> BlitFrom(DeviceContext& device, const SourceBitmap& source,
+                             const TransformD& unitToDevice);
+
+/// Settles what of a blit depends on the device: how it is enlarged, and that pixels which
+/// run-length encoding skips stay as they are, where nothing is scaled.
+void FinishBlit(const DeviceContext& device, Blit& blit);
+
+/// @return which pixels of a blit a mask of one bit a pixel lets be seen: those where it is set.
+///         What lies outside of the mask is not set. Null when the mask cannot be read.
+/// @param source  the position of the blit's source rectangle in its bitmap.
+ShownPixels SetPixels(DeviceContext& device, const MaskBitmap& mask, const Blit& blit,
+                      PointL source);
+
+}  // namespace kelvane

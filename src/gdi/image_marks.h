@@ -1,0 +1,21 @@
+#pragma once
+
+#include "gdi/canvas.h"
+#include "gdi/geometry.h"
+#include "platform/quartz/cg_blend_mode.h"
+#include "platform/quartz/cg_image.h"
+
+namespace kelvane {
+
+/// How an image comes onto what lies below it.
+struct ImageBlending {
+  CGBlendMode mode = kCGBlendModeNormal;
+  CGFloat alpha = 1;
+};
+
+/// Draws an image, or paints through a mask in the fill colour that is set.
+/// @param unitToDevice  maps the unit square, whose y grows downwards, onto the image's place.
+void DrawImage(Canvas& canvas, const CGImage& image, const TransformD& unitToDevice,
+               const ImageBlending& blending);
+
+}  // namespace kelvane
