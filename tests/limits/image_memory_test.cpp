@@ -8,12 +8,11 @@
 #include "platform/pdf/cg_pdf_context.h"
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_consumer.h"
+#include "support/images.h"
 #include "support/surface.h"
 
 namespace kelvane::test {
 namespace {
-
-using ByteList = std::vector<unsigned char>;
 
 constexpr std::size_t kSide = 2000;  // pixels of three bytes
 constexpr std::size_t kPixels = kSide * kSide * 3;
@@ -36,8 +35,7 @@ struct Usage {
   std::size_t afterwards;
 };
 
-Usage DrawingImage(const ByteList& bytes, std::size_t bytesPerRow) {
-  const auto image = ImageOf(kSide, kSide, 3, bytes, bytesPerRow);
+Usage Drawing(const CFOwned<const CGImage>& image) {
   const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
   const CFOwned<CGDataConsumer> consumer(CGDataConsumerCreateWithCFData(data.get()));
   const CFOwned<CGContext> surface(CGPDFContextCreate(consumer.get(), &kPageBox, nullptr));
@@ -46,6 +44,15 @@ Usage DrawingImage(const ByteList& bytes, std::size_t bytesPerRow) {
   StartPeak();
   CGContextDrawImage(surface.get(), kPageBox, image.get());
   return {PeakBytes() - before, LiveBytes() - before};
+}
+
+Usage DrawingImage(const ByteList& bytes, std::size_t bytesPerRow) {
+  return Drawing(ImageOf(kSide, kSide, 3, bytes, bytesPerRow));
+}
+
+/// @return what makes the bytes of an image anew.
+CFOwned<const CGDataProvider> NoiseMaker() {
+  return CFOwned<const CGDataProvider>(CGDataProviderCreateMaking([] { return Noise(kPixels); }));
 }
 
 TEST(DrawingAnImage, TakesNoMoreThanItsPixelsDeflated) {
@@ -64,6 +71,34 @@ TEST(DrawingAnImage, TakesOneMoreCopyOfRowsWithPadding) {
   const Usage usage = DrawingImage(Noise(kSide * (kSide * 3 + 4)), kSide * 3 + 4);
   EXPECT_LT(usage.whileDrawn, 2 * kPixels + kAllowance);
   EXPECT_LT(usage.afterwards, kPixels + kAllowance);
+}
+
+TEST(DrawingAnImage, TakesPixelsThatAreMadeOnlyUntilTheyAreDeflated) {
+  const CFOwned<const CGColorSpace> rgb(CGColorSpaceCreateDeviceRGB());
+  const CFOwned<const CGImage> image(CGImageCreate(kSide, kSide, 8, 24, kSide * 3, rgb.get(), 0,
+                                                   NoiseMaker().get(), nullptr, false,
+                                                   kCGRenderingIntentDefault));
+  const Usage usage = Drawing(image);
+  EXPECT_LT(usage.whileDrawn, 2 * kPixels + kAllowance);
+  EXPECT_LT(usage.afterwards, kPixels + kAllowance);
+}
+
+TEST(DrawingAnImage, TakesAMaskAndAPictureOneAfterTheOther) {
+  const CFOwned<const CGImage> picture(CGImageCreateWithMask(
+      GrayOf(kSide * 3, kSide, NoiseMaker()).get(), GrayOf(kSide, kSide * 3, NoiseMaker()).get()));
+  const Usage usage = Drawing(picture);
+  EXPECT_LT(usage.whileDrawn, 3 * kPixels + kAllowance);  // one deflated, one made and deflated
+  EXPECT_LT(usage.afterwards, 2 * kPixels + kAllowance);
+}
+
+TEST(DrawingAnImage, TakesAJpegFileAsItLies) {
+  const ByteList file = Noise(kPixels);
+  const auto drawing = [](const CFOwned<const CGDataProvider>& provider) {
+    return Drawing(
+        CFOwned<const CGImage>(CGImageCreateWithJPEG(kSide, kSide, 3, provider.get(), false)));
+  };
+  EXPECT_LT(drawing(ProviderOf(file)).whileDrawn, kAllowance);
+  EXPECT_LT(drawing(NoiseMaker()).whileDrawn, kPixels + kAllowance);
 }
 
 }  // namespace

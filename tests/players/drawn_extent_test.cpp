@@ -88,5 +88,35 @@ TEST(DrawnExtent, IsTheBoxOfAnImageAsItIsTurned) {
             (Edges{-6, 1, -2, 4}));
 }
 
+CGAxialShading AlongTheAxis() {
+  return {{0, 0}, {1, 0}, {{0, {1, 0, 0, 1}}, {1, {0, 0, 1, 1}}}};
+}
+
+TEST(DrawnExtent, IsWhatAllClipsLeaveOfColourThatHasNoEnd) {
+  EXPECT_EQ(ExtentOf([](CGContextRef c) {
+              CGContextClipToRect(c, {{10, 20}, {50, 50}});
+              CGContextClipToRect(c, {{0, 30}, {30, 90}});
+              c->DrawShading(AlongTheAxis());
+            }),
+            (Edges{10, 30, 30, 70}));
+}
+
+TEST(DrawnExtent, IsNoneOfColourThatNoClipLimitsOrShows) {
+  EXPECT_EQ(ExtentOf([](CGContextRef c) {
+              c->DrawShading(AlongTheAxis());
+              CGContextClipToRect(c, {{0, 0}, {5, 5}});
+              CGContextClipToRect(c, {{10, 10}, {5, 5}});
+              c->DrawShading(AlongTheAxis());
+            }),
+            Edges());
+}
+
+TEST(DrawnExtent, IsTheBoxOfAMeshesCorners) {
+  EXPECT_EQ(ExtentOf([](CGContextRef c) {
+              c->DrawShading(CGTriangleMesh{{{{3, 9}, {}}, {{1, 2}, {}}, {{5, 4}, {}}}});
+            }),
+            (Edges{1, 2, 5, 9}));
+}
+
 }  // namespace
 }  // namespace kelvane::test

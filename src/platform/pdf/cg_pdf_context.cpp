@@ -8,6 +8,7 @@
 
 #include "platform/pdf/pdf_content.h"
 #include "platform/pdf/pdf_font_choice.h"
+#include "platform/pdf/pdf_image.h"
 #include "platform/pdf/pdf_pattern.h"
 #include "platform/pdf/pdf_resources.h"
 #include "platform/pdf/pdf_shading.h"
@@ -84,7 +85,6 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     page_ = writer_.AddPage(mediaBox_);
     resources_ = PdfResources(page_.getKey("/Resources"));
     patterns_ = {};
-    patternImages_ = {};
     font_ = {};
     isBlended_ = false;
     clips_ = {};
@@ -122,7 +122,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   }
 
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
-    QPDFObjectHandle stream = writer_.AddImage(image);
+    QPDFObjectHandle stream = images_.Add(image);
     if (stream.isNull()) return;
     BeginMark({.fill = image.isMask}, State());
     DrawXObject(resources_.NameOf(stream, kPdfImage), matrix);
@@ -228,7 +228,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   const std::string& NameOf(const CGSharedPattern& pattern) {
     const auto [entry, isNew] = patterns_.try_emplace(pattern);
     if (isNew) {
-      entry->second = resources_.NameOf(AddPattern(writer_, *pattern, patternImages_), kPdfPattern);
+      entry->second = resources_.NameOf(AddPattern(writer_, *pattern, images_), kPdfPattern);
     }
     return entry->second;
   }
@@ -253,6 +253,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   CFOwned<CGDataConsumer> consumer_;  // null once the document is written
   CGRect documentBox_;
   PdfWriter writer_;
+  PdfImages images_{writer_};
   CGRect mediaBox_;
   QPDFObjectHandle page_;
   std::vector<QPDFObjectHandle> contents_;  // the pieces of the page's content, in order
@@ -261,9 +262,8 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   CGValueWriter values_;    // of the content
   PdfResources resources_;  // of the page
   std::map<CGSharedPattern, std::string> patterns_;
-  PdfPatternImages patternImages_;  // of those patterns
-  PageFont font_;                   // of the last glyphs
-  bool isBlended_ = false;          // a mark on the page is mixed with what lies below it
+  PageFont font_;           // of the last glyphs
+  bool isBlended_ = false;  // a mark on the page is mixed with what lies below it
   std::optional<PendingPage> pending_;
 };
 

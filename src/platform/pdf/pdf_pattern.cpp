@@ -10,13 +10,6 @@
 namespace kelvane {
 namespace {
 
-/// Many patterns may have one image, which is deflated once.
-QPDFObjectHandle ImageOf(const CGPattern& pattern, PdfWriter& writer, PdfPatternImages& images) {
-  const auto [entry, isNew] = images.try_emplace(pattern.image.get());
-  if (isNew) entry->second = writer.AddImage(*pattern.image);
-  return entry->second;
-}
-
 void DrawImage(const CGPattern& pattern, QPDFObjectHandle image, PdfResources& resources,
                PdfContent& content) {
   if (image.isNull()) return;
@@ -36,12 +29,12 @@ void FillShapes(const CGPattern& pattern, PdfContent& content) {
 
 }  // namespace
 
-QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern, PdfPatternImages& images) {
+QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern, PdfImages& images) {
   std::string text;
   PdfContent content([&text](std::string_view piece) { text += piece; });
   PdfResources resources;
   if (pattern.image != nullptr) {
-    DrawImage(pattern, ImageOf(pattern, writer, images), resources, content);
+    DrawImage(pattern, images.Add(*pattern.image), resources, content);
   }
   FillShapes(pattern, content);
   content.Finish();

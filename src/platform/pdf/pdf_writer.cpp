@@ -18,6 +18,8 @@ namespace {
 
 constexpr std::size_t kObjectRoom = 256;  // bytes that most objects stay below, their streams apart
 
+constexpr const char* kDeflated = "/FlateDecode";
+
 // By mode (ISO 32000-1, tables 136 and 137).
 constexpr std::array<const char*, kCGBlendModes> kBlendModeNames = {
     "/Normal",     "/Multiply",   "/Screen",    "/Overlay",   "/Darken",     "/Lighten",
@@ -69,67 +71,45 @@ void PdfWriter::AddInformation(std::string_view key, std::u16string_view text) {
 
 std::shared_ptr<Buffer> PdfWriter::Deflate(std::span<const unsigned char> data) {
   const auto stream = std::make_shared<DeflatedStream>(deflater_.Deflate(data));
-  deflatedBytes_ += stream->bytes.size;
   return {stream, &stream->buffer};
+}
+
+void PdfWriter::Fill(QPDFObjectHandle stream, const std::shared_ptr<Buffer>& data,
+                     const char* filter) {
+  stream.replaceStreamData(data, QPDFObjectHandle::newName(filter), QPDFObjectHandle::newNull());
+  storedBytes_ += data->getSize();
 }
 
 QPDFObjectHandle PdfWriter::AddStream(std::string_view data) {
   auto stream = pdf_.newStream();
-  stream.replaceStreamData(
-      Deflate({reinterpret_cast<const unsigned char*>(data.data()), data.size()}),
-      QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  Fill(stream, Deflate({reinterpret_cast<const unsigned char*>(data.data()), data.size()}),
+       kDeflated);
   return stream;
 }
 
-// Rows without padding are deflated from where they are.
-std::shared_ptr<Buffer> PdfWriter::DeflatePixels(const CGImage& image) {
-  const CGProvidedBytes provided = image.provider->Provide();
-  const auto bytes = provided.View();
-  const std::size_t rowSize = image.RowSize();
-  if (image.bytesPerRow == rowSize && bytes.size() / rowSize >= image.height) {
-    return Deflate(bytes.first(rowSize * image.height));
-  }
-  const auto packed = PackRows(bytes, rowSize, image.height, image.bytesPerRow);
-  return packed ? Deflate(*packed) : nullptr;
-}
-
-QPDFObjectHandle PdfWriter::AddImage(const CGImage& image) {
-  const std::shared_ptr<Buffer> pixels = DeflatePixels(image);
-  if (!pixels) return QPDFObjectHandle::newNull();
-
-  auto dictionary = QPDFObjectHandle::newDictionary();
-  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
-  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
-  dictionary.replaceKey("/Width",
-                        QPDFObjectHandle::newInteger(static_cast<long long>(image.width)));
-  dictionary.replaceKey("/Height",
-                        QPDFObjectHandle::newInteger(static_cast<long long>(image.height)));
-  dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::newName(
-                                           image.components == 1 ? "/DeviceGray" : "/DeviceRGB"));
-  dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
-  if (image.interpolate) dictionary.replaceKey("/Interpolate", QPDFObjectHandle::newBool(true));
-  return SharedStream(dictionary, pixels);
+QPDFObjectHandle PdfWriter::AddSharedStream(const QPDFObjectHandle& dictionary,
+                                            std::span<const unsigned char> data) {
+  return AddEncodedStream(dictionary, kDeflated, Deflate(data));
 }
 
 // Equal data deflates to equal bytes, so the stored streams themselves tell whether one is new.
-QPDFObjectHandle PdfWriter::SharedStream(QPDFObjectHandle dictionary,
-                                         const std::shared_ptr<Buffer>& deflated) {
+QPDFObjectHandle PdfWriter::AddEncodedStream(QPDFObjectHandle dictionary, const char* filter,
+                                             const std::shared_ptr<Buffer>& data) {
   const auto bytesOf = [](Buffer& buffer) {
     return std::string_view(reinterpret_cast<const char*>(buffer.getBuffer()), buffer.getSize());
   };
-  const std::string layout = dictionary.unparse();
-  const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*deflated));
+  const std::string layout = dictionary.unparse() + filter;
+  const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*data));
   const auto [first, last] = streams_.equal_range(hash);
   for (auto known = first; known != last; ++known) {
-    if (known->second.layout == layout && bytesOf(*known->second.deflated) == bytesOf(*deflated)) {
+    if (known->second.layout == layout && bytesOf(*known->second.data) == bytesOf(*data)) {
       return known->second.stream;
     }
   }
   auto stream = pdf_.newStream();
   stream.replaceDict(dictionary);
-  stream.replaceStreamData(deflated, QPDFObjectHandle::newName("/FlateDecode"),
-                           QPDFObjectHandle::newNull());
-  streams_.emplace(hash, StoredStream{layout, deflated, stream});
+  Fill(stream, data, filter);
+  streams_.emplace(hash, StoredStream{layout, data, stream});
   return stream;
 }
 
@@ -170,8 +150,7 @@ QPDFObjectHandle PdfWriter::CopyOf(const CGPDFPage& page) {
       pdf_.copyForeignObject(QPDFPageObjectHelper(source).getFormXObjectForPage(kApplyRotation));
   // The library joins the page's streams for the form and leaves the result as it is.
   const auto content = form.getRawStreamData();
-  form.replaceStreamData(Deflate({content->getBuffer(), content->getSize()}),
-                         QPDFObjectHandle::newName("/FlateDecode"), QPDFObjectHandle::newNull());
+  Fill(form, Deflate({content->getBuffer(), content->getSize()}), kDeflated);
   return form;
 }
 
@@ -202,7 +181,7 @@ QPDFObjectHandle PdfWriter::AddPage(const CGRect& mediaBox) {
 void PdfWriter::Write(CGDataConsumer& consumer) {
   for (PdfFont& font : fonts_)
     font.Finish(*this);
-  consumer.Expect(deflatedBytes_ + pdf_.getObjectCount() * kObjectRoom);
+  consumer.Expect(storedBytes_ + pdf_.getObjectCount() * kObjectRoom);
   ConsumerPipeline pipeline(consumer);
   QPDFWriter writer(pdf_);
   writer.setOutputPipeline(&pipeline);

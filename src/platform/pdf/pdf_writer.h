@@ -18,7 +18,6 @@
 #include "platform/pdf/pdf_font.h"
 #include "platform/quartz/cg_data_consumer.h"
 #include "platform/quartz/cg_geometry.h"
-#include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_value_writer.h"
 
 namespace kelvane {
@@ -43,17 +42,16 @@ class PdfWriter {
   /// @param dictionary  what belongs to the stream but for the entries of its data; taken over.
   /// @param data        deflated. @return the stream, the same one for the same of both.
   QPDFObjectHandle AddSharedStream(const QPDFObjectHandle& dictionary,
-                                   std::span<const unsigned char> data) {
-    return SharedStream(dictionary, Deflate(data));
-  }
+                                   std::span<const unsigned char> data);
+
+  /// The same of data that is stored as it is.
+  /// @param filter  undoes how it was encoded.
+  QPDFObjectHandle AddEncodedStream(QPDFObjectHandle dictionary, const char* filter,
+                                    const std::shared_ptr<Buffer>& data);
 
   /// @return `object`, which refers to no other, as an object of its own; the same one for an equal
   /// one.
   QPDFObjectHandle AddSharedObject(QPDFObjectHandle object);
-
-  /// @return the image as an XObject, the same one for the same pixels; null when its provider fell
-  /// short.
-  QPDFObjectHandle AddImage(const CGImage& image);
 
   /// @return the graphics state that sets how marks come onto the page, the same one for the same
   /// setting.
@@ -83,23 +81,21 @@ class PdfWriter {
 
  private:
   struct StoredStream {
-    std::string layout;  // its dictionary without the data's own entries
-    std::shared_ptr<Buffer> deflated;
+    std::string layout;  // its dictionary without the data's own entries, its filter
+    std::shared_ptr<Buffer> data;
     QPDFObjectHandle stream;
   };
 
   using DocumentPage = std::pair<unsigned long long, std::size_t>;  // the document's number, index
 
   [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
-  [[nodiscard]] std::shared_ptr<Buffer> DeflatePixels(const CGImage& image);
+  void Fill(QPDFObjectHandle stream, const std::shared_ptr<Buffer>& data, const char* filter);
   [[nodiscard]] QPDFObjectHandle CopyOf(const CGPDFPage& page);
-  QPDFObjectHandle SharedStream(QPDFObjectHandle dictionary,
-                                const std::shared_ptr<Buffer>& deflated);
 
   QPDF pdf_;
   Deflater deflater_;
-  std::size_t deflatedBytes_ = 0;                               // of all streams
-  std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of `deflated`
+  std::size_t storedBytes_ = 0;                                 // of all streams
+  std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of `data`
   std::map<std::string, QPDFObjectHandle> objects_;             // shared; as they are written
   std::map<DocumentPage, QPDFObjectHandle> forms_;
   std::map<CGCompositing, QPDFObjectHandle> graphicsStates_;

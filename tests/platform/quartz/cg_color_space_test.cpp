@@ -15,6 +15,27 @@ TEST(CGColorSpace, HasOneComponentForGreyAndThreeForRGB) {
   EXPECT_EQ(rgb->components, 3U);
 }
 
+TEST(CGColorSpace, OfNumbersHasATableOfColours) {
+  std::array<unsigned char, 6> colors = {1, 2, 3, 4, 5, 6};
+  const CFOwned<const CGColorSpace> rgb(CGColorSpaceCreateDeviceRGB());
+  const CFOwned<const CGColorSpace> space(CGColorSpaceCreateIndexed(rgb.get(), 1, colors.data()));
+  colors = {};
+  EXPECT_EQ(space->components, 1U);
+  EXPECT_TRUE(space->IsIndexed());
+  EXPECT_EQ(space->table, (std::vector<unsigned char>{1, 2, 3, 4, 5, 6}));
+  EXPECT_FALSE(rgb->IsIndexed());
+}
+
+TEST(CGColorSpace, OfNumbersIsNullForWhatItCannotHave) {
+  const std::array<unsigned char, 3 * 257> colors = {};
+  const CFOwned<const CGColorSpace> gray(CGColorSpaceCreateDeviceGray());
+  const CFOwned<const CGColorSpace> rgb(CGColorSpaceCreateDeviceRGB());
+  EXPECT_EQ(CGColorSpaceCreateIndexed(nullptr, 1, colors.data()), nullptr);
+  EXPECT_EQ(CGColorSpaceCreateIndexed(gray.get(), 1, colors.data()), nullptr);
+  EXPECT_EQ(CGColorSpaceCreateIndexed(rgb.get(), 256, colors.data()), nullptr);
+  EXPECT_EQ(CGColorSpaceCreateIndexed(rgb.get(), 1, nullptr), nullptr);
+}
+
 TEST(MakeColor, TakesRedGreenBlueAndAlpha) {
   constexpr std::array<CGFloat, 4> kComponents = {0.25F, 0.5F, 0.75F, 0.125F};
   EXPECT_EQ(MakeColor(kComponents.data(), 3), (CGColor{0.25F, 0.5F, 0.75F, 0.125F}));

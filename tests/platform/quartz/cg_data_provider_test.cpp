@@ -28,6 +28,40 @@ TEST(CGDataProvider, LendsTheCallersBytes) {
   EXPECT_EQ(provider->Bytes().size(), 2U);
 }
 
+TEST(CGDataProvider, ProvidesBytesThatAreThereWhereTheyAre) {
+  constexpr std::array<unsigned char, 3> kBytes = {1, 2, 3};
+  const CFOwned<const CGDataProvider> provider(
+      CGDataProviderCreateWithData(nullptr, kBytes.data(), kBytes.size(), nullptr));
+  EXPECT_FALSE(provider->MakesBytes());
+  EXPECT_EQ(provider->Provide().View().data(), kBytes.data());
+  EXPECT_EQ(provider->Provide().View().size(), kBytes.size());
+}
+
+TEST(CGDataProvider, MakesBytesEachTimeTheyAreAskedFor) {
+  unsigned char times = 0;
+  const CFOwned<const CGDataProvider> provider(CGDataProviderCreateMaking([&times] {
+    return std::vector<unsigned char>{++times, 7};
+  }));
+  EXPECT_TRUE(provider->MakesBytes());
+  EXPECT_TRUE(provider->Bytes().empty());
+  const CGProvidedBytes first = provider->Provide();
+  const CGProvidedBytes second = provider->Provide();
+  ASSERT_EQ(first.View().size(), 2U);
+  EXPECT_EQ(first.View()[0], 1);
+  EXPECT_EQ(second.View()[0], 2);
+}
+
+TEST(CGDataProvider, KeepsMadeBytesWhenTheyAreMoved) {
+  CGProvidedBytes bytes(std::vector<unsigned char>{5, 6});
+  const CGProvidedBytes moved = std::move(bytes);
+  ASSERT_EQ(moved.View().size(), 2U);
+  EXPECT_EQ(moved.View()[1], 6);
+}
+
+TEST(CGDataProvider, IsNullWithoutAWayToMakeBytes) {
+  EXPECT_EQ(CGDataProviderCreateMaking(nullptr), nullptr);
+}
+
 /// What a release callback was told.
 struct Released {
   int times = 0;

@@ -5,12 +5,17 @@
 
 #include <gtest/gtest.h>
 
+#include "support/images.h"
 #include "support/surface.h"
 
 namespace kelvane {
 namespace {
 
-using ByteList = std::vector<unsigned char>;
+using test::ByteList;
+using test::GrayOf;
+using test::IndexedOf;
+using test::Masked;
+using test::MaskOf;
 
 constexpr std::size_t kHuge = std::numeric_limits<std::size_t>::max();
 
@@ -99,6 +104,115 @@ TEST(CGImageCreate, IsNullWithoutAColourSpaceOrAProvider) {
   EXPECT_EQ(CGImageCreate(1, 1, 8, 8, 1, gray.get(), 0, nullptr, nullptr, false,
                           kCGRenderingIntentDefault),
             nullptr);
+}
+
+TEST(CGImageCreate, AsksNoProviderThatMakesItsBytes) {
+  int timesAsked = 0;
+  EXPECT_NE(GrayOf(2, 2, test::MakerOf({1}, timesAsked)), nullptr);
+  EXPECT_EQ(timesAsked, 0);
+}
+
+TEST(CGImageCreate, NumbersEachImage) {
+  const auto provider = test::ProviderOf({7});
+  const auto first = GrayOf(1, 1, provider);
+  const auto second = GrayOf(1, 1, provider);
+  EXPECT_NE(first->serial, second->serial);
+}
+
+constexpr std::size_t kTwoColors = 6;  // bytes of a table
+
+TEST(CGImageCreate, TakesNumbersOfColoursOfAnyOfItsSizes) {
+  for (const std::size_t bits : {1U, 2U, 4U, 8U}) {
+    const auto image = IndexedOf(9, 1, bits, ByteList(kTwoColors), ByteList((9 * bits + 7) / 8));
+    ASSERT_NE(image, nullptr) << bits;
+    EXPECT_EQ(image->bitsPerComponent, bits);
+    EXPECT_EQ(image->RowSize(), (9 * bits + 7) / 8);
+    EXPECT_TRUE(image->indexed->IsIndexed());
+  }
+}
+
+TEST(CGImageCreate, IsNullForNumbersOfOtherSizes) {
+  EXPECT_EQ(IndexedOf(1, 1, 3, ByteList(kTwoColors), {0}), nullptr);
+  EXPECT_EQ(IndexedOf(1, 1, 16, ByteList(kTwoColors), {0, 0}), nullptr);
+}
+
+TEST(CGImageCreate, IsNullForNumbersThatFallShort) {
+  EXPECT_EQ(IndexedOf(9, 1, 1, ByteList(kTwoColors), {0}), nullptr);
+}
+
+TEST(CGImageMaskCreate, HasABitForEachPixel) {
+  const auto mask = MaskOf(9, 2, {0, 0, 0, 0}, true);
+  ASSERT_NE(mask, nullptr);
+  EXPECT_TRUE(mask->isMask);
+  EXPECT_TRUE(mask->interpolate);
+  EXPECT_EQ(mask->bitsPerComponent, 1U);
+  EXPECT_EQ(mask->RowSize(), 2U);
+}
+
+TEST(CGImageMaskCreate, IsNullForWhatDoesNotAgree) {
+  const auto create = [](std::size_t bits, std::size_t bytesPerRow, std::size_t size,
+                         const CGFloat* decode = nullptr) {
+    return CFOwned<const CGImage>(CGImageMaskCreate(
+        9, 1, bits, bits, bytesPerRow, test::ProviderOf(ByteList(size)).get(), decode, false));
+  };
+  EXPECT_NE(create(1, 2, 2), nullptr);
+  EXPECT_EQ(create(8, 9, 9), nullptr);
+  EXPECT_EQ(create(1, 1, 2), nullptr);
+  EXPECT_EQ(create(1, 2, 1), nullptr);
+  EXPECT_EQ(create(1, 2, 2, kDecode), nullptr);
+  EXPECT_EQ(CGImageMaskCreate(9, 1, 1, 1, 2, nullptr, nullptr, false), nullptr);
+}
+
+TEST(CGImageCreateWithMask, KeepsThePictureAndTheMask) {
+  const auto image = IndexedOf(9, 1, 1, ByteList(kTwoColors), {0, 0});
+  const auto mask = MaskOf(1, 1, {0});
+  const auto masked = Masked(image, mask);
+  ASSERT_NE(masked, nullptr);
+  EXPECT_EQ(masked->width, 9U);
+  EXPECT_EQ(masked->bitsPerComponent, 1U);
+  EXPECT_EQ(masked->indexed, image->indexed);
+  EXPECT_EQ(masked->provider, image->provider);
+  EXPECT_EQ(masked->mask, mask);
+  EXPECT_NE(masked->serial, image->serial);
+}
+
+TEST(CGImageCreateWithMask, TakesOnlyMasksAndPlainGreyAsMasks) {
+  const auto gray = test::ImageOf(1, 1, 1, {7});
+  const auto mask = MaskOf(1, 1, {0});
+  EXPECT_NE(Masked(gray, gray), nullptr);
+  EXPECT_EQ(Masked(gray, test::ImageOf(1, 1, 3, {1, 2, 3})), nullptr);
+  EXPECT_EQ(Masked(gray, IndexedOf(1, 1, 8, ByteList(kTwoColors), {0})), nullptr);
+  EXPECT_EQ(Masked(gray, Masked(gray, mask)), nullptr);
+  EXPECT_EQ(Masked(gray, nullptr), nullptr);
+}
+
+TEST(CGImageCreateWithMask, MasksNoMaskAndNothing) {
+  const auto mask = MaskOf(1, 1, {0});
+  EXPECT_EQ(Masked(mask, mask), nullptr);
+  EXPECT_EQ(Masked(nullptr, mask), nullptr);
+}
+
+CFOwned<const CGImage> JpegImage(std::size_t width, std::size_t height, std::size_t components,
+                                 const CFOwned<const CGDataProvider>& file) {
+  return CFOwned<const CGImage>(
+      CGImageCreateWithJPEG(width, height, components, file.get(), false));
+}
+
+TEST(CGImageCreateWithJPEG, TakesWhatTheHeaderSays) {
+  const auto image = JpegImage(8, 9, 3, test::ProviderOf({1}));
+  ASSERT_NE(image, nullptr);
+  EXPECT_EQ(image->encoding, CGImage::Encoding::kJpeg);
+  EXPECT_EQ(image->width, 8U);
+  EXPECT_EQ(image->height, 9U);
+  EXPECT_EQ(image->components, 3U);
+}
+
+TEST(CGImageCreateWithJPEG, IsNullForWhatNoFileHas) {
+  const auto file = test::ProviderOf({1});
+  EXPECT_EQ(JpegImage(0, 8, 1, file), nullptr);
+  EXPECT_EQ(JpegImage(8, 0, 1, file), nullptr);
+  EXPECT_EQ(JpegImage(8, 8, 2, file), nullptr);
+  EXPECT_EQ(JpegImage(8, 8, 1, nullptr), nullptr);
 }
 
 TEST(PackRows, LeavesThePaddingOut) {
