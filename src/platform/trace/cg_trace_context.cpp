@@ -10,6 +10,7 @@
 #include "base/unicode.h"
 #include "platform/quartz/cg_clip_writer.h"
 #include "platform/quartz/cg_value_writer.h"
+#include "platform/trace/trace_image.h"
 
 namespace kelvane {
 namespace {
@@ -56,10 +57,11 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
   }
 
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
+    const auto lines = LinesOfImage(image);
+    if (!lines) return;
     BeginMark({.fill = image.isMask}, State());
-    LineUnder("image " + std::to_string(image.width) + ' ' + std::to_string(image.height) +
-                  (image.components == 1 ? " gray" : " rgb"),
-              matrix);
+    LineUnder(WordsOfImage(image), matrix);
+    output_ += *lines;
   }
 
   void ShadingDrawn(const CGShading& shading) override {

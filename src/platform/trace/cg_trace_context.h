@@ -32,6 +32,10 @@ namespace kelvane {
 ///                                  path above
 ///     stroke under 2 0 0 1 0 0     a stroke deformed by an uneven transform
 ///     image 2 2 rgb under a b c d tx ty
+///     image 9 2 indexed 4 smooth masked 3 1 under a b c d tx ty    gray, rgb, jpeg rgb, mask …
+///       bytes 0123456780 8765432100    rows; or a hash of more than 64 pixels, or of a file
+///       colors 000000 ffffff
+///       mask e0
 ///     axial 0 0 50 0               colour that changes along a line: start and end
 ///       stop 0 1 0 0               each colour, where it stands first
 ///     mesh                         triangles
