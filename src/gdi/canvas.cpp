@@ -69,10 +69,30 @@ Canvas::~Canvas() {
     surface_.RestoreGState();
 }
 
-void Canvas::Load(CGPath& path) {
+void Canvas::PutOnPage(CGPath& path) const {
   path.Map(BelowTheMiddle(deviceToPage_, partsOfAPoint_));
   path.Round(partsOfAPoint_);
+}
+
+void Canvas::Load(CGPath& path) {
+  PutOnPage(path);
   surface_.SwapPath(path);
+}
+
+bool Canvas::ClipTo(CGPath& path) {
+  PutOnPage(path);
+  if (!path.IsFinite()) {
+    path.Clear();
+    return false;
+  }
+  surface_.SwapPath(path);
+  surface_.Clip();
+  return true;
+}
+
+TransformD Canvas::ToPage() const {
+  const CGAffineTransform t = BelowTheMiddle(deviceToPage_, partsOfAPoint_);
+  return {t.a, t.b, t.c, t.d, t.tx, t.ty};
 }
 
 CGPoint Canvas::RoundOnPage(CGPoint point) const {

@@ -44,6 +44,14 @@ class Canvas {
   /// @param path  empty afterwards, with memory for the next one.
   void Load(CGPath& path);
 
+  /// Cuts what follows to a path as Load takes it.
+  /// @return false, and cuts nothing, when it lies nowhere: its numbers are not finite.
+  bool ClipTo(CGPath& path);
+
+  /// @return what brings points of the device onto the page, as it does those of paths before they
+  ///         are rounded.
+  [[nodiscard]] TransformD ToPage() const;
+
   /// @return a point of the page as those of paths are stored.
   [[nodiscard]] CGPoint RoundOnPage(CGPoint point) const;
 
@@ -88,6 +96,7 @@ class Canvas {
     bool hidesAll;  // it, or one around it
   };
 
+  void PutOnPage(CGPath& path) const;
   void WriteCut(const std::shared_ptr<const ClipCut>& cut);
   CGSharedPattern CellOf(const BrushPaint& paint, RasterStep::Color color);
 

@@ -11,8 +11,8 @@ HandlersByType MakeHandlers() {
   HandlersByType handlers{};
   for (const auto& table :
        {EmfLineHandlers(), EmfShapeHandlers(), EmfPathHandlers(), EmfClipHandlers(),
-        EmfStateHandlers(), EmfObjectHandlers(), EmfBitmapHandlers(), EmfTextHandlers(),
-        EmfCommentHandlers(), EmfUnplayedHandlers()}) {
+        EmfStateHandlers(), EmfObjectHandlers(), EmfBitmapHandlers(), EmfGradientHandlers(),
+        EmfTextHandlers(), EmfCommentHandlers(), EmfUnplayedHandlers()}) {
     for (const EmfHandler& row : table)
       handlers[row.type] = row.play;
   }

@@ -62,6 +62,7 @@ std::span<const EmfHandler> EmfClipHandlers();
 std::span<const EmfHandler> EmfStateHandlers();
 std::span<const EmfHandler> EmfObjectHandlers();
 std::span<const EmfHandler> EmfBitmapHandlers();
+std::span<const EmfHandler> EmfGradientHandlers();
 std::span<const EmfHandler> EmfTextHandlers();
 std::span<const EmfHandler> EmfCommentHandlers();
 

@@ -6,9 +6,6 @@ namespace {
 /// Of records that leave no mark on a page.
 constexpr PlayEmfRecord kNoMark = [](EmfPlayback&, ByteView&) {};
 
-constexpr PlayEmfRecord kNoGradient = [](EmfPlayback& p, ByteView&) {
-  p.LeftOut("gradients are not drawn yet");
-};
 constexpr PlayEmfRecord kNoOpenGL = [](EmfPlayback& p, ByteView&) {
   p.LeftOut("OpenGL is not drawn");
 };
@@ -20,7 +17,6 @@ constexpr EmfHandler kUnplayedHandlers[] = {
     {EMR_HEADER, kNoMark},
     {EMR_EOF, kNoMark},
 
-    {EMR_GRADIENTFILL, kNoGradient},
     {EMR_GLSRECORD, kNoOpenGL},
     {EMR_GLSBOUNDEDRECORD, kNoOpenGL},
     {EMR_DRAWESCAPE, kNoDriver},

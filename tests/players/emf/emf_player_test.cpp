@@ -14,7 +14,6 @@ using testing::IsEmpty;
 constexpr std::uint32_t kEmrMaskBlt = 78;
 constexpr std::uint32_t kEmrSmallTextOut = 108;
 constexpr std::uint32_t kEmrAlphaBlend = 114;
-constexpr std::uint32_t kEmrGradientFill = 118;
 constexpr std::uint32_t kEmrExtFloodFill = 53;
 constexpr std::uint32_t kUnknownType = 200;
 
@@ -148,11 +147,6 @@ TEST(EmfPlayer, LeavesOtherBlitsOut) {
     EXPECT_EQ(played.trace, "");
     EXPECT_THAT(played.report, testing::HasSubstr("bitmaps are not drawn yet"));
   }
-}
-
-TEST(EmfPlayer, LeavesGradientsOut) {
-  EXPECT_EQ(PlayedAlone(kEmrGradientFill, Bytes().Zeros(28)).report,
-            "left out EMR_GRADIENTFILL 1: gradients are not drawn yet\n");
 }
 
 TEST(EmfPlayer, LeavesFloodFillsOut) {
