@@ -1,5 +1,6 @@
 #include "gdi/brush_pattern.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -96,6 +97,13 @@ std::optional<std::vector<unsigned char>> RgbOf(const Dib& dib, const BrushPaint
 }
 
 }  // namespace
+
+std::uint64_t SizeOfPattern(const BrushPaint& paint) {
+  const std::uint64_t stored = paint.pattern.pixels.size();
+  const std::optional<Dib> dib = Dib::Read(paint.pattern);
+  if (!dib || !dib->IsCompressed()) return stored;
+  return std::max(stored, std::uint64_t{dib->Width()} * dib->Height());
+}
 
 std::optional<CGPattern> MakePattern(const BrushPaint& paint, RasterStep::Color color) {
   if (paint.kind == Brush::Kind::kHatched) return HatchPattern(paint, color);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "gdi/brush.h"
@@ -7,6 +8,9 @@
 #include "platform/quartz/cg_pattern.h"
 
 namespace kelvane {
+
+/// @return how many bytes the bitmap of a brush is, or pixels where a few bytes may be many.
+std::uint64_t SizeOfPattern(const BrushPaint& paint);
 
 /// @param paint  hatched or of a bitmap. @param color  the step of a raster operation for which
 ///               all of its colours are changed.

@@ -100,7 +100,7 @@ CGPoint Canvas::RoundOnPage(CGPoint point) const {
           std::rint(point.y * partsOfAPoint_) / partsOfAPoint_};
 }
 
-bool Canvas::Afford(std::size_t parts) {
+bool Canvas::Afford(std::uint64_t parts) {
   const bool isAfforded = repeats_.Take(parts);
   hasRunOut_ = hasRunOut_ || !isAfforded;
   return isAfforded;
@@ -189,7 +189,7 @@ CGSharedPattern Canvas::CellOf(const BrushPaint& paint, RasterStep::Color color)
                        paint.palette,
                        color};
   if (const auto known = cells_.find(key); known != cells_.end()) return known->second;
-  if (!Afford(paint.pattern.pixels.size() + paint.palette.size())) return nullptr;
+  if (!Afford(SizeOfPattern(paint) + paint.palette.size())) return nullptr;
   auto cell = MakePattern(paint, color);
   CGSharedPattern& entry = cells_[key];
   if (cell) entry = std::make_shared<const CGPattern>(*std::move(cell));

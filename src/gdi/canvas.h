@@ -62,7 +62,7 @@ class Canvas {
   /// What a small file can have drawn again and again: the elements of clips that are left and
   /// entered and of paths that are saved and painted, the bytes of brushes in ever new colours. A
   /// large file may have more of it.
-  bool Afford(std::size_t parts);
+  bool Afford(std::uint64_t parts);
   void AllowFor(std::size_t fileSize) {
     repeats_.Add(fileSize);
     pixels_.Add(8 * std::uint64_t{fileSize});

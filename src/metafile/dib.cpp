@@ -5,19 +5,27 @@
 #include <limits>
 #include <utility>
 
+#include "metafile/dib_run_lengths.h"
 #include "metafile/direct_pixels.h"
 
 namespace kelvane {
 inline namespace metafile {
 namespace {
 
+/// Run-length encoding counts rows from the lowest, so it is never of those stored top first.
+bool IsRunsOfRisingRows(const DibHeader& header, DibCompression compression) {
+  return header.compression == compression && header.height >= 0;
+}
+
 bool IsKnown(const DibHeader& header) {
   switch (header.bitCount) {
     case 1:
-    case 4:
-    case 8:
     case 24:
       return header.compression == BI_RGB;
+    case 4:
+      return header.compression == BI_RGB || IsRunsOfRisingRows(header, BI_RLE4);
+    case 8:
+      return header.compression == BI_RGB || IsRunsOfRisingRows(header, BI_RLE8);
     case 16:
     case 32:
       return header.compression == BI_RGB || header.compression == BI_BITFIELDS;
@@ -60,6 +68,7 @@ std::optional<Dib> Dib::Read(const DibBytes& bytes, std::span<const DibColor> pa
 
 // What fills up the last row may be missing.
 bool Dib::HasAllRows() const {
+  if (IsCompressed()) return true;
   const std::uint64_t last = BytesOfPixels(width_, BitCount());
   if (pixels_.size() < last) return false;
   return (pixels_.size() - last) / BytesOfRow(width_, BitCount()) >= height_ - 1;
@@ -67,6 +76,10 @@ bool Dib::HasAllRows() const {
 
 bool Dib::IsRunLengthEncoded() const {
   return header_.compression == BI_RLE8 || header_.compression == BI_RLE4;
+}
+
+bool Dib::IsCompressed() const {
+  return header_.compression != BI_RGB && header_.compression != BI_BITFIELDS;
 }
 
 std::span<const unsigned char> Dib::Row(std::size_t y) const {
@@ -106,13 +119,9 @@ std::vector<unsigned char> IndexedRgb(const Dib& dib, const PixelRectangle& part
   std::array<DibColor, 256> colors{};  // for any byte, so that none need be looked at
   std::ranges::copy(dib.Colors(), colors.begin());
   std::vector<unsigned char> rgb(3 * part.width * part.height);
-  std::vector<unsigned char> indexes(part.width);
   unsigned char* next = rgb.data();
-  for (std::size_t y = 0; y < part.height; ++y) {
-    UnpackIndexes(dib, part.top + y, part.left, part.width, indexes.data());
-    for (const unsigned char index : indexes)
-      next = std::ranges::copy(colors[index], next).out;
-  }
+  for (const unsigned char index : DecodeIndexes(dib, part).indexes)
+    next = std::ranges::copy(colors[index], next).out;
   return rgb;
 }
 
@@ -187,6 +196,7 @@ std::vector<unsigned char> DecodeGray(const Dib& dib, const PixelRectangle& part
 }
 
 IndexedPixels DecodeIndexes(const Dib& dib, const PixelRectangle& part) {
+  if (dib.IsRunLengthEncoded()) return DecodeRunLengths(dib, part);
   IndexedPixels pixels;
   pixels.indexes.resize(part.width * part.height);
   for (std::size_t y = 0; y < part.height; ++y) {

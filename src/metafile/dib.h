@@ -57,6 +57,9 @@ class Dib {
   [[nodiscard]] unsigned BitCount() const { return header_.bitCount; }  // of kIndexed and kDirect
   [[nodiscard]] bool IsRunLengthEncoded() const;
 
+  /// Whether there may be far more pixels than bytes: with run-length encoding, kJpeg and kPng.
+  [[nodiscard]] bool IsCompressed() const;
+
   /// Of kIndexed: 2^BitCount() colours, those beyond the stored table black.
   [[nodiscard]] std::span<const DibColor> Colors() const { return header_.colors; }
 

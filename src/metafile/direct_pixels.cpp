@@ -26,12 +26,21 @@ unsigned ShiftOf(std::uint32_t mask) {
   return static_cast<unsigned>(std::max(lowest, eightBits));
 }
 
+/// Repeats the bits of a number until they are eight, as Windows does: of five bits, 3 is 24 and 4
+/// is 33.
+unsigned char WidenedToByte(unsigned value, int bits) {
+  unsigned widened = value << (8 - bits);
+  for (; bits < 8; bits *= 2)
+    widened |= widened >> bits;
+  return static_cast<unsigned char>(widened);
+}
+
 }  // namespace
 
 DirectPixels::Channel::Channel(std::uint32_t bits) : mask(bits), shift(ShiftOf(bits)), values{} {
   const unsigned most = mask >> shift;
   for (unsigned value = 1; value <= most; ++value)
-    values[value] = static_cast<unsigned char>((value * 255 + most / 2) / most);
+    values[value] = WidenedToByte(value, std::bit_width(most));
 }
 
 DirectPixels::ByteChannels DirectPixels::BytesOf(const DibMasks& masks) {

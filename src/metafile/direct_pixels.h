@@ -23,7 +23,7 @@ class DirectPixels {
   void ToAlpha(const unsigned char* pixels, std::size_t count, unsigned char* alpha) const;
 
  private:
-  /// The bits of a mask as a number from 0 to 255, rounded; of more than eight the upper eight.
+  /// The bits of a mask as a number from 0 to 255; of more than eight the upper eight.
   struct Channel {
     explicit Channel(std::uint32_t bits);
     [[nodiscard]] unsigned char Of(std::uint32_t pixel) const {

@@ -49,10 +49,16 @@ TEST(Dib, HasAByteAPixel) {
   EXPECT_EQ(Decoded(header, Bytes().Each({255, 2, 0, 0})), (Channels{0, 255, 0, 0, 2, 0}));
 }
 
-// 5 bits each: red 31, green 1 (255 / 31, rounded), blue 0.
+// 5 bits each: red 31, green 1, blue 0.
 TEST(Dib, HasFiveBitsAChannelOfSixteen) {
   const Bytes header = Bytes().BitmapHeader({.width = 2, .height = 1, .bitCount = 16});
   EXPECT_EQ(Decoded(header, Bytes().U16(0x7C20).U16(0x801F)), (Channels{255, 8, 0, 0, 0, 255}));
+}
+
+// 3 of 31 is nearer to 25 of 255, and 24 to 197.
+TEST(Dib, RepeatsTheBitsOfAChannelAsWindowsDoes) {
+  const Bytes header = Bytes().BitmapHeader({.width = 2, .height = 1, .bitCount = 16});
+  EXPECT_EQ(Decoded(header, Bytes().U16(3).U16(24)), (Channels{0, 0, 24, 0, 0, 198}));
 }
 
 TEST(Dib, HasTheMasksBehindItsHeader) {
@@ -167,7 +173,7 @@ TEST(Dib, IsNoneInADepthOrCompressionThatIsNotKnown) {
     const Bytes header = Bytes().BitmapHeader({.bitCount = depth});
     EXPECT_FALSE(Read(header, pixels)) << depth;
   }
-  for (const std::uint32_t compression : {1U, 2U, 4U, 5U, 11U}) {
+  for (const std::uint32_t compression : {2U, 4U, 5U, 11U, 12U}) {
     const Bytes header = Bytes().BitmapHeader({.bitCount = 8, .compression = compression});
     EXPECT_FALSE(Read(header, pixels)) << compression;
   }

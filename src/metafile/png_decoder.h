@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "metafile/pixel_rectangle.h"
+
+namespace kelvane {
+inline namespace metafile {
+
+struct PngSize {
+  std::uint32_t width = 0;  // pixels, from 1 to 2^31 - 1
+  std::uint32_t height = 0;
+};
+
+/// @return the size that a PNG file begins with; nullopt when it begins otherwise.
+std::optional<PngSize> ReadPngSize(std::span<const unsigned char> file);
+
+/// @param file  a PNG file. @param part  within the picture.
+/// @return red, green and blue, a byte each, rows top first and without padding; transparency is
+///         passed over. Rows that a damaged file lacks are black. nullopt when it has none.
+std::optional<std::vector<unsigned char>> DecodePng(std::span<const unsigned char> file,
+                                                    const PixelRectangle& part);
+
+}  // namespace metafile
+}  // namespace kelvane
