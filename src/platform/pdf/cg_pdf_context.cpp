@@ -12,6 +12,7 @@
 #include "platform/pdf/pdf_pattern.h"
 #include "platform/pdf/pdf_resources.h"
 #include "platform/pdf/pdf_shading.h"
+#include "platform/pdf/pdf_stencil.h"
 #include "platform/pdf/pdf_writer.h"
 #include "platform/quartz/cg_clip_writer.h"
 #include "platform/quartz/cg_value_writer.h"
@@ -125,7 +126,11 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     QPDFObjectHandle stream = images_.Add(image);
     if (stream.isNull()) return;
     BeginMark({.fill = image.isMask}, State());
-    DrawXObject(resources_.NameOf(stream, kPdfImage), matrix);
+    if (image.isMask && State().fillPattern != nullptr) {
+      FillThrough(stream, matrix);
+    } else {
+      DrawXObject(resources_.NameOf(stream, kPdfImage), matrix);
+    }
   }
 
   void ShadingDrawn(const CGShading& shading) override {
@@ -188,6 +193,17 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     content_.Save();
     content_.Concat(matrix);
     content_.DrawXObject(name);
+    content_.Restore();
+  }
+
+  void FillThrough(const QPDFObjectHandle& stencil, const CGAffineTransform& matrix) {
+    CGPath square;
+    square.AddMappedRectangle({{0, 0}, {1, 1}}, matrix);
+    content_.Save();
+    content_.GraphicsState(
+        resources_.NameOf(AddStencilState(writer_, stencil, matrix), kPdfGraphicsState));
+    content_.Path(square);
+    content_.Paint(kCGPathFill);
     content_.Restore();
   }
 

@@ -49,7 +49,7 @@ class PdfWriter {
   QPDFObjectHandle AddEncodedStream(QPDFObjectHandle dictionary, const char* filter,
                                     const std::shared_ptr<Buffer>& data);
 
-  /// @return `object`, which refers to no other, as an object of its own; the same one for an equal
+  /// @param object  a direct one. @return it as an object of its own; the same one for an equal
   /// one.
   QPDFObjectHandle AddSharedObject(QPDFObjectHandle object);
 

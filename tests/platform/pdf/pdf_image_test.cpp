@@ -260,19 +260,47 @@ TEST(PdfImageMask, PaintsTheFillColourWhereItsBitsAreNone) {
 TEST(PdfImageMask, PaintsTheFillPattern) {
   CGPattern pattern;
   pattern.cell = {100, 100};
-  for (const CGFloat bottom : {0.0F, 50.0F}) {
-    CGPath half;
-    half.AddRectangle({0, bottom}, {100, 50});
-    pattern.shapes.push_back({half, bottom == 0 ? CGColor{0, 0, 1, 1} : CGColor{1, 0, 0, 1}});
-  }
+  CGPath lowerHalf;
+  lowerHalf.AddRectangle({0, 0}, {100, 50});
+  pattern.shapes.push_back({lowerHalf, {0, 0, 1, 1}});
+  const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
+  const Raster page(PdfBytesOf([&](CGContextRef c) {
+    c->SetFillPattern(shared);
+    CGContextDrawImage(c, CGRectMake(0, 0, 80, 100), MaskOf(2, 1, {0x80}).get());
+  }));
+  EXPECT_EQ(page.At(20, 75), kWhitePixel);
+  EXPECT_EQ(page.At(60, 75), kBluePixel);
+  EXPECT_EQ(page.At(60, 25), kWhitePixel);
+  EXPECT_EQ(page.At(90, 75), kWhitePixel);
+}
+
+TEST(PdfImageMask, LeavesNothingOfItselfToWhatIsDrawnAfterAPattern) {
+  CGPattern pattern;
+  pattern.cell = {10, 10};
   const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
   const Raster page(PdfBytesOf([&](CGContextRef c) {
     c->SetFillPattern(shared);
     CGContextDrawImage(c, kWholePage, MaskOf(2, 1, {0x80}).get());
+    CGContextDrawShading(
+        c,
+        CGTriangleMesh{{{{0, 0}, {1, 0, 0, 1}}, {{90, 0}, {1, 0, 0, 1}}, {{0, 90}, {1, 0, 0, 1}}}});
+    test::SetFill(c, 0, 0, 1);
+    test::FillRect(c, CGRectMake(90, 90, 10, 10));
   }));
-  EXPECT_EQ(page.At(25, 75), kWhitePixel);
-  EXPECT_EQ(page.At(75, 75), kBluePixel);
-  EXPECT_EQ(page.At(75, 25), kRedPixel);
+  EXPECT_EQ(page.At(5, 95), kRedPixel);
+  EXPECT_EQ(page.At(95, 5), kBluePixel);
+}
+
+TEST(PdfImageMask, SharesWhatLetsAPatternThrough) {
+  CGPattern pattern;
+  pattern.cell = {10, 10};
+  const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
+  const Pdf pdf(PdfBytesOf([&](CGContextRef c) {
+    c->SetFillPattern(shared);
+    for (const CGFloat x : {0.0F, 0.0F, 10.0F})
+      CGContextDrawImage(c, CGRectMake(x, 0, 10, 10), MaskOf(2, 1, {0x80}).get());
+  }));
+  EXPECT_EQ(pdf.Page().getKey("/Resources").getKey("/ExtGState").getKeys().size(), 2U);
 }
 
 TEST(PdfImage, HidesWhereItsMaskHasBits) {
