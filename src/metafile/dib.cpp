@@ -7,6 +7,9 @@
 
 #include "metafile/dib_run_lengths.h"
 #include "metafile/direct_pixels.h"
+#include "metafile/jpeg_decoder.h"
+#include "metafile/jpeg_header.h"
+#include "metafile/png_decoder.h"
 
 namespace kelvane {
 inline namespace metafile {
@@ -48,27 +51,48 @@ constexpr std::uint64_t BytesOfRow(std::uint64_t width, unsigned bitCount) {
 
 std::optional<Dib> Dib::Read(const DibBytes& bytes, std::span<const DibColor> palette,
                              std::optional<std::uint32_t> rows) {
-  constexpr std::int64_t kMostRows = std::numeric_limits<std::int32_t>::max();
   std::optional<DibHeader> header = ReadDibHeader(bytes.header, bytes.usage, palette);
-  if (!header || !IsKnown(*header)) return std::nullopt;
-  const std::int64_t width = header->width;
-  const std::int64_t stored = header->height;
-  const std::int64_t height = rows ? std::int64_t{*rows} : stored < 0 ? -stored : stored;
-  if (width <= 0 || height <= 0 || height > kMostRows) return std::nullopt;
-
+  if (!header) return std::nullopt;
   Dib dib;
   dib.header_ = *std::move(header);
   dib.pixels_ = bytes.pixels;
-  dib.kind_ = dib.header_.bitCount <= 8 ? Content::kIndexed : Content::kDirect;
-  dib.width_ = static_cast<std::size_t>(width);
-  dib.height_ = static_cast<std::size_t>(height);
-  if (!dib.HasAllRows()) return std::nullopt;
+  const bool isThere = dib.header_.compression == BI_JPEG  ? dib.HasJpeg()
+                       : dib.header_.compression == BI_PNG ? dib.HasPng()
+                                                           : dib.HasRows(rows);
+  if (!isThere) return std::nullopt;
   return dib;
 }
 
+bool Dib::HasJpeg() {
+  const auto jpeg = ReadJpegHeader(pixels_);
+  if (!jpeg) return false;
+  kind_ = Content::kJpeg;
+  width_ = jpeg->width;
+  height_ = jpeg->height;
+  components_ = jpeg->components;
+  return true;
+}
+
+bool Dib::HasPng() {
+  const auto png = ReadPngHeader(pixels_);
+  if (!png) return false;
+  kind_ = Content::kPng;
+  width_ = png->width;
+  height_ = png->height;
+  return true;
+}
+
 // What fills up the last row may be missing.
-bool Dib::HasAllRows() const {
-  if (IsCompressed()) return true;
+bool Dib::HasRows(std::optional<std::uint32_t> rows) {
+  constexpr std::int64_t kMostRows = std::numeric_limits<std::int32_t>::max();
+  if (!IsKnown(header_)) return false;
+  const std::int64_t stored = header_.height;
+  const std::int64_t height = rows ? std::int64_t{*rows} : stored < 0 ? -stored : stored;
+  if (header_.width <= 0 || height <= 0 || height > kMostRows) return false;
+  kind_ = BitCount() <= 8 ? Content::kIndexed : Content::kDirect;
+  width_ = static_cast<std::size_t>(header_.width);
+  height_ = static_cast<std::size_t>(height);
+  if (IsRunLengthEncoded()) return true;
   const std::uint64_t last = BytesOfPixels(width_, BitCount());
   if (pixels_.size() < last) return false;
   return (pixels_.size() - last) / BytesOfRow(width_, BitCount()) >= height_ - 1;
@@ -166,7 +190,17 @@ void DivideByAlpha(unsigned char* rgb, unsigned alpha) {
 }  // namespace
 
 std::optional<std::vector<unsigned char>> DecodeRgb(const Dib& dib, const PixelRectangle& part) {
-  return dib.Kind() == Dib::Content::kIndexed ? IndexedRgb(dib, part) : DirectRgb(dib, part);
+  switch (dib.Kind()) {
+    case Dib::Content::kIndexed:
+      return IndexedRgb(dib, part);
+    case Dib::Content::kDirect:
+      return DirectRgb(dib, part);
+    case Dib::Content::kJpeg:
+      return DecodeJpeg(dib.File(), part);
+    case Dib::Content::kPng:
+      return DecodePng(dib.File(), part);
+  }
+  return std::nullopt;
 }
 
 bool IsGray(const Dib& dib, const PixelRectangle& part) {

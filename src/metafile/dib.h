@@ -8,6 +8,7 @@
 
 #include "metafile/dib_header.h"
 #include "metafile/gdi_enumerations.h"
+#include "metafile/pixel_rectangle.h"
 
 namespace kelvane {
 inline namespace metafile {
@@ -17,14 +18,6 @@ struct DibBytes {
   std::span<const unsigned char> header{};  // with masks and colour table
   std::span<const unsigned char> pixels{};
   DibUsage usage = DIB_RGB_COLORS;  // of the colour table
-};
-
-/// A part of a bitmap, pixels, counted from the top left of the picture.
-struct PixelRectangle {
-  std::size_t left = 0;
-  std::size_t top = 0;
-  std::size_t width = 0;
-  std::size_t height = 0;
 };
 
 /// A device-independent bitmap ([MS-WMF] 2.2.2.9) whose header makes sense and whose pixels are
@@ -41,6 +34,7 @@ class Dib {
   /// @param palette  the colours that a table of DIB_PAL_COLORS numbers, or of DIB_PAL_INDICES the
   ///                 pixels. Numbers beyond it mean the first, and without any all are black.
   /// @param rows     how many rows there are, in place of the header's; the header's sign stays.
+  ///                 A JPEG or PNG file has as many as it says itself.
   /// @return nullopt when the header makes no sense, pixels are missing (but for run-length
   ///         encoding, which may end early), or the kind is unknown. Width and height are from 1 to
   ///         2^31 - 1, and may promise far more pixels than there are bytes.
@@ -76,7 +70,11 @@ class Dib {
 
  private:
   Dib() = default;
-  bool HasAllRows() const;
+
+  // Each takes the size that there is.
+  [[nodiscard]] bool HasJpeg();
+  [[nodiscard]] bool HasPng();
+  [[nodiscard]] bool HasRows(std::optional<std::uint32_t> rows);
 
   DibHeader header_;
   std::span<const unsigned char> pixels_;

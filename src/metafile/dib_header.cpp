@@ -59,6 +59,11 @@ DibMasks MasksOf(std::uint16_t bitCount) {
   return {0xFF0000, 0x00FF00, 0x0000FF, bitCount == 32 ? 0xFF000000 : 0};
 }
 
+/// @return the bits of a pixel that belong to no colour, where alpha is when a header does not say.
+std::uint32_t BitsLeft(const DibMasks& masks) {
+  return ~(masks.red | masks.green | masks.blue);
+}
+
 std::optional<DibHeader> ReadCoreHeader(ByteView bytes, DibUsage usage,
                                         std::span<const DibColor> palette) {
   DibHeader header;
@@ -94,6 +99,8 @@ std::optional<DibHeader> ReadInfoHeader(std::uint32_t size, ByteView bytes, DibU
     header.masks.green = bytes.Read<std::uint32_t>();
     header.masks.blue = bytes.Read<std::uint32_t>();
     header.masks.alpha = size >= kAlphaInHeaderSize ? bytes.Read<std::uint32_t>() : 0;
+    if (header.bitCount == 32 && header.masks.alpha == 0)
+      header.masks.alpha = BitsLeft(header.masks);
   }
   if (bytes.IsShort()) return std::nullopt;
   if (HasColors(header)) {

@@ -14,29 +14,28 @@ namespace {
 /// Each scan of a progressive file goes over the whole picture, and may be a few bytes.
 constexpr int kMostScans = 100;
 
-/// What the library calls back. An error ends in `onError`, so nothing between it and the call has
-/// a destructor.
+/// What the library calls back.
 struct JpegCallbacks {
   jpeg_error_mgr errors;
   jpeg_progress_mgr progress;
   std::jmp_buf onError;
 };
 
-void FailDecoding(j_common_ptr common) {
+void FailJpeg(j_common_ptr common) {
   std::longjmp(static_cast<JpegCallbacks*>(common->client_data)->onError, 1);
 }
 
-void SayNothing(j_common_ptr /*common*/) {}
+void IgnoreJpegWarning(j_common_ptr /*common*/) {}
 
 void CountScans(j_common_ptr common) {
   const auto* decompress = reinterpret_cast<j_decompress_ptr>(common);
-  if (decompress->input_scan_number > kMostScans) FailDecoding(common);
+  if (decompress->input_scan_number > kMostScans) FailJpeg(common);
 }
 
-void SetUp(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks) {
+void SetUpJpeg(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks) {
   decompress.err = jpeg_std_error(&callbacks.errors);
-  callbacks.errors.error_exit = FailDecoding;
-  callbacks.errors.output_message = SayNothing;
+  callbacks.errors.error_exit = FailJpeg;
+  callbacks.errors.output_message = IgnoreJpegWarning;
   decompress.client_data = &callbacks;
 }
 
@@ -47,8 +46,8 @@ bool Holds(const jpeg_decompress_struct& decompress, const PixelRectangle& part)
          part.top <= decompress.output_height && part.height <= decompress.output_height - part.top;
 }
 
-void Start(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks,
-           std::span<const unsigned char> file) {
+void StartJpeg(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks,
+               std::span<const unsigned char> file) {
   jpeg_create_decompress(&decompress);
   callbacks.progress.progress_monitor = CountScans;
   decompress.progress = &callbacks.progress;
@@ -59,8 +58,8 @@ void Start(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks,
 }
 
 /// @param row  of the whole width.
-bool ReadRows(jpeg_decompress_struct& decompress, const PixelRectangle& part, unsigned char* row,
-              unsigned char* rgb) {
+bool ReadJpegRows(jpeg_decompress_struct& decompress, const PixelRectangle& part,
+                  unsigned char* row, unsigned char* rgb) {
   if (!Holds(decompress, part)) return false;
   while (decompress.output_scanline < part.top + part.height) {
     const std::size_t y = decompress.output_scanline;
@@ -69,6 +68,15 @@ bool ReadRows(jpeg_decompress_struct& decompress, const PixelRectangle& part, un
     std::copy_n(row + 3 * part.left, 3 * part.width, rgb + 3 * part.width * (y - part.top));
   }
   return true;
+}
+
+/// The library leaves an error by a jump to here, so nothing that it jumps over has a destructor.
+bool ReadJpegUnlessItFails(jpeg_decompress_struct& decompress, JpegCallbacks& callbacks,
+                           std::span<const unsigned char> file, const PixelRectangle& part,
+                           unsigned char* row, unsigned char* rgb) {
+  if (setjmp(callbacks.onError) != 0) return false;
+  StartJpeg(decompress, callbacks, file);
+  return ReadJpegRows(decompress, part, row, rgb);
 }
 
 }  // namespace
@@ -80,12 +88,9 @@ std::optional<std::vector<unsigned char>> DecodeJpeg(std::span<const unsigned ch
   std::vector<unsigned char> row(3 * kWidestRow);
   jpeg_decompress_struct decompress{};
   JpegCallbacks callbacks{};
-  SetUp(decompress, callbacks);
-  bool isDecoded = false;
-  if (setjmp(callbacks.onError) == 0) {
-    Start(decompress, callbacks, file);
-    isDecoded = ReadRows(decompress, part, row.data(), rgb.data());
-  }
+  SetUpJpeg(decompress, callbacks);
+  const bool isDecoded =
+      ReadJpegUnlessItFails(decompress, callbacks, file, part, row.data(), rgb.data());
   jpeg_destroy_decompress(&decompress);
   if (!isDecoded) return std::nullopt;
   return rgb;

@@ -23,28 +23,35 @@ std::uint32_t ReadBigEndian32(ByteView& bytes) {
   return value;
 }
 
-/// What is decoded to. The library ends an error in its own buffer of a jump, so nothing between
-/// that and the call has a destructor.
-struct PngTarget {
+/// Where bytes come from and pixels go to.
+struct PngDecoding {
   ByteView bytes;  // of the file, still to be read
+  PngHeader header;
   PixelRectangle part;
-  unsigned char* rgb;  // of the part
-  unsigned char* row;  // of the whole width
-  std::size_t rows = 0;  // of the picture, that have been read
+  unsigned char* rows;         // one of the whole width; of an interlaced file all of them
+  unsigned char* rgb;          // of the part
+  std::size_t rowsOfPart = 0;  // that are complete
 };
 
 void ReadBytes(png_structp png, png_bytep to, png_size_t count) {
-  ByteView& bytes = static_cast<PngTarget*>(png_get_io_ptr(png))->bytes;
+  ByteView& bytes = static_cast<PngDecoding*>(png_get_io_ptr(png))->bytes;
   const std::span<const unsigned char> read = bytes.Split(count).Bytes();
   if (read.size() < count) png_error(png, "the file ends early");
   std::ranges::copy(read, to);
 }
 
-[[noreturn]] void FailDecoding(png_structp png, png_const_charp /*message*/) {
+[[noreturn]] void FailPng(png_structp png, png_const_charp /*message*/) {
   png_longjmp(png, 1);
 }
 
-void SayNothing(png_structp /*png*/, png_const_charp /*message*/) {}
+void IgnorePngWarning(png_structp /*png*/, png_const_charp /*message*/) {}
+
+/// Only what pixels are made of is read, and never kept in more memory than it is worth.
+void SetLimits(png_structp png) {
+  png_set_user_limits(png, kMostPixelsASide, kMostPixelsASide);
+  png_set_chunk_malloc_max(png, kMostBytesOfAChunk);
+  png_set_keep_unknown_chunks(png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
+}
 
 void AskForRgb(png_structp png) {
   png_set_expand(png);
@@ -53,6 +60,78 @@ void AskForRgb(png_structp png) {
   png_set_gray_to_rgb(png);
 }
 
+/// Reads rows of the last pass, which is the only one of most files.
+void ReadPart(png_structp png, PngDecoding& decoding, std::size_t rowSize) {
+  const PixelRectangle& part = decoding.part;
+  for (std::size_t y = 0; y < part.top + part.height; ++y) {
+    unsigned char* row = decoding.rows + (decoding.header.isInterlaced ? y * rowSize : 0);
+    png_read_row(png, row, nullptr);
+    if (y < part.top) continue;
+    unsigned char* to = decoding.rgb + 3 * part.width * decoding.rowsOfPart++;
+    std::copy_n(row + 3 * part.left, 3 * part.width, to);
+  }
+}
+
+void ReadPng(png_structp png, png_infop info, PngDecoding& decoding) {
+  png_set_read_fn(png, &decoding, ReadBytes);
+  SetLimits(png);
+  png_read_info(png, info);
+  AskForRgb(png);
+  const int passes = png_set_interlace_handling(png);
+  png_read_update_info(png, info);
+  const std::size_t rowSize = std::size_t{3} * decoding.header.width;
+  if (png_get_rowbytes(png, info) != rowSize) return;
+  for (int pass = 1; pass < passes; ++pass) {
+    for (std::size_t y = 0; y < decoding.header.height; ++y)
+      png_read_row(png, decoding.rows + y * rowSize, nullptr);
+  }
+  ReadPart(png, decoding, rowSize);
+}
+
+/// The library leaves an error by a jump to here, so nothing that it jumps over has a destructor.
+void ReadPngUntilItFails(png_structp png, png_infop info, PngDecoding& decoding) {
+  if (setjmp(png_jmpbuf(png)) == 0) ReadPng(png, info, decoding);
+}
+
 }  // namespace
+
+std::optional<PngHeader> ReadPngHeader(std::span<const unsigned char> file) {
+  constexpr std::array<std::uint8_t, 8> kSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+  constexpr std::uint32_t kHeaderLength = 13;
+  constexpr std::uint32_t kHeaderType = 0x49484452;  // IHDR
+  ByteView bytes(file);
+  if (bytes.Read<std::array<std::uint8_t, 8>>() != kSignature) return std::nullopt;
+  if (ReadBigEndian32(bytes) != kHeaderLength) return std::nullopt;
+  if (ReadBigEndian32(bytes) != kHeaderType) return std::nullopt;
+  PngHeader header;
+  header.width = ReadBigEndian32(bytes);
+  header.height = ReadBigEndian32(bytes);
+  bytes.Skip(4);  // depth, kind of colours, compression, filter
+  header.isInterlaced = bytes.Read<std::uint8_t>() != 0;
+  if (bytes.IsShort() || header.width == 0 || header.width > kMostPixelsASide ||
+      header.height == 0 || header.height > kMostPixelsASide) {
+    return std::nullopt;
+  }
+  return header;
+}
+
+std::optional<std::vector<unsigned char>> DecodePng(std::span<const unsigned char> file,
+                                                    const PixelRectangle& part) {
+  const std::optional<PngHeader> header = ReadPngHeader(file);
+  if (!header) return std::nullopt;
+  const std::size_t rowsAtOnce = header->isInterlaced ? header->height : 1;
+  std::vector<unsigned char> rows(3 * std::size_t{header->width} * rowsAtOnce);
+  std::vector<unsigned char> rgb(3 * part.width * part.height);
+  PngDecoding decoding = {ByteView(file), *header, part, rows.data(), rgb.data()};
+  png_structp png =
+      png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, FailPng, IgnorePngWarning);
+  if (png == nullptr) return std::nullopt;
+  png_infop info = png_create_info_struct(png);
+  if (info != nullptr) ReadPngUntilItFails(png, info, decoding);
+  png_destroy_read_struct(&png, &info, nullptr);
+  if (decoding.rowsOfPart == 0) return std::nullopt;
+  return rgb;
+}
+
 }  // namespace metafile
 }  // namespace kelvane

@@ -10,17 +10,20 @@
 namespace kelvane {
 inline namespace metafile {
 
-struct PngSize {
+/// What a PNG file begins with.
+struct PngHeader {
   std::uint32_t width = 0;  // pixels, from 1 to 2^31 - 1
   std::uint32_t height = 0;
+  bool isInterlaced = false;
 };
 
-/// @return the size that a PNG file begins with; nullopt when it begins otherwise.
-std::optional<PngSize> ReadPngSize(std::span<const unsigned char> file);
+/// @return nullopt when a file begins otherwise.
+std::optional<PngHeader> ReadPngHeader(std::span<const unsigned char> file);
 
 /// @param file  a PNG file. @param part  within the picture.
 /// @return red, green and blue, a byte each, rows top first and without padding; transparency is
-///         passed over. Rows that a damaged file lacks are black. nullopt when it has none.
+///         passed over. Rows that a damaged file lacks are black. nullopt when it has none of the
+///         part.
 std::optional<std::vector<unsigned char>> DecodePng(std::span<const unsigned char> file,
                                                     const PixelRectangle& part);
 
