@@ -9,8 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "hostile/hostile_files.h"
-#include "support/kelvane_tool.h"
-#include "support/pdf.h"
+#include "whole/hostile_page.h"
 
 namespace kelvane::test {
 namespace {
@@ -219,26 +218,11 @@ std::vector<HostileText> HostileTexts() {
   return texts;
 }
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr double kMostSeconds = 5;
-#else
-constexpr double kMostSeconds = 2;
-#endif
-
-class AHostileText : public KelvaneTool, public testing::WithParamInterface<HostileText> {};
+class AHostileText : public HostilePage, public testing::WithParamInterface<HostileText> {};
 
 TEST_P(AHostileText, LeavesAPageOfWhatFollowsIt) {
-  Metafile metafile = GetParam().metafile;
-  metafile.SetMapMode(1).SetWorldTransform({1, 0, 0, 1, 0, 0}).Rectangle({1, 2, 30, 40});
-  Write("a.emf", metafile.Build());
-  for (const char* const text : {"--page=bounds", "--outline-text"}) {
-    const ToolResult result = Run({"--page=bounds", text, "a.emf"});
-    EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_LT(result.processorSeconds, kMostSeconds);
-    EXPECT_EQ(ComplaintsAbout(folder_ / "a.pdf"), "");
-    const std::string content = Pdf(Read("a.pdf")).Content();
-    EXPECT_NE(content.find("1 98 29 -38 re\nB*\n"), std::string::npos);
-  }
+  for (const char* const option : {"", "--outline-text"})
+    ExpectAPageOfWhatFollows(GetParam().metafile, option);
 }
 
 INSTANTIATE_TEST_SUITE_P(, AHostileText, testing::ValuesIn(HostileTexts()),
