@@ -55,8 +55,8 @@ TransformD UnitToDevice(const Blit& blit) {
 
 std::optional<Blit> PlaceBlit(Dib dib, const RectangleD& source, const TransformD& toPixels,
                               const TransformD& unitToDevice) {
-  const TransformD unitToSource = {
-      source.right - source.left, 0, 0, source.bottom - source.top, source.left, source.top};
+  const TransformD unitToSource = {source.right - source.left, 0,           0,
+                                   source.bottom - source.top, source.left, source.top};
   const TransformD unitToPixels = unitToSource.Then(toPixels);
   const auto pixelsToUnit = unitToPixels.Inverse();
   if (!pixelsToUnit || !unitToDevice.IsFinite() || !unitToDevice.Inverse()) return std::nullopt;
@@ -70,8 +70,8 @@ std::optional<Blit> PlaceBlit(Dib dib, const RectangleD& source, const Transform
                         static_cast<std::size_t>(columns.to - columns.from),
                         static_cast<std::size_t>(rows.to - rows.from)},
                .toDevice = pixelsToUnit->Then(unitToDevice)};
-  const bool isStraight = unitToPixels.KeepsRectangles() && IsWhole(box.left) &&
-                          IsWhole(box.top) && IsWhole(box.right) && IsWhole(box.bottom);
+  const bool isStraight = unitToPixels.KeepsRectangles() && IsWhole(box.left) && IsWhole(box.top) &&
+                          IsWhole(box.right) && IsWhole(box.bottom);
   if (!isStraight) blit.cut = CornersOf(unitToDevice);
   return blit;
 }

@@ -111,8 +111,9 @@ bool AreIndexedAlike(const Parts& parts) {
 }
 
 bool AreGray(const Parts& parts) {
-  return std::ranges::all_of(
-      parts, [](const DibPart& part) { return IsDirect(part) && IsGray(part.dib, part.rectangle); });
+  return std::ranges::all_of(parts, [](const DibPart& part) {
+    return IsDirect(part) && IsGray(part.dib, part.rectangle);
+  });
 }
 
 std::size_t RowsOf(const Parts& parts) {
@@ -226,9 +227,8 @@ CFOwned<const CGImage> JpegOf(const Blit& blit) {
   const auto file = blit.dib.File();
   const CFOwned<const CGDataProvider> provider(
       CGDataProviderCreateWithData(nullptr, file.data(), file.size(), nullptr));
-  return CFOwned<const CGImage>(CGImageCreateWithJPEG(blit.dib.Width(), blit.dib.Height(),
-                                                      blit.dib.Components(), provider.get(),
-                                                      blit.isSmooth));
+  return CFOwned<const CGImage>(CGImageCreateWithJPEG(
+      blit.dib.Width(), blit.dib.Height(), blit.dib.Components(), provider.get(), blit.isSmooth));
 }
 
 CFOwned<const CGImage> ImageOf(const std::vector<DibPart>& parts, const Coloring& coloring,

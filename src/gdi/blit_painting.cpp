@@ -62,10 +62,7 @@ CFOwned<const CGImage> Masked(CFOwned<const CGImage> image, const Blit& blit) {
 class BlitPainter {
  public:
   BlitPainter(DeviceContext& device, const Blit& blit)
-      : device_(device),
-        canvas_(*device.canvas),
-        blit_(blit),
-        unitToDevice_(UnitToDevice(blit)) {
+      : device_(device), canvas_(*device.canvas), blit_(blit), unitToDevice_(UnitToDevice(blit)) {
     if (blit.cut) cut_.emplace(canvas_, Quadrilateral(*blit.cut));
   }
 
@@ -152,8 +149,8 @@ void PaintHalves(DeviceContext& device, const Blit& blit, TernaryRasterOperation
       shown[i] = std::uint8_t{(whites[i] != 0) == isWhite && IsShown(blit, i)};
     if (half == R2_NOP || std::ranges::find(shown, 1) == shown.end()) continue;
     const bool isWhole = std::ranges::find(shown, 0) == shown.end();
-    const Marks marks = IgnoresPaint(half) ? MarksOf(device, RgbColor(), half)
-                                           : MarksOf(device, paint, half);
+    const Marks marks =
+        IgnoresPaint(half) ? MarksOf(device, RgbColor(), half) : MarksOf(device, paint, half);
     painter.Fill(marks, isWhole ? nullptr : &shown);
   }
 }

@@ -64,8 +64,8 @@ std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes,
 
 TransformD Destination(const DeviceContext& device, PointL corner, SizeL size) {
   const PointD from = Exactly(corner);
-  return TransformD{static_cast<double>(size.cx), 0, 0, static_cast<double>(size.cy), from.x,
-                    from.y}
+  return TransformD{static_cast<double>(size.cx), 0,      0,
+                    static_cast<double>(size.cy), from.x, from.y}
       .Then(device.state.mapping.ToDevice());
 }
 
@@ -76,8 +76,7 @@ std::optional<Blit> BlitFrom(DeviceContext& device, const SourceBitmap& source,
   if (!dib) return std::nullopt;
   const PointD from = Exactly(source.position);
   const RectangleD rectangle = {from.x, from.y, from.x + source.size.cx, from.y + source.size.cy};
-  auto blit =
-      PlaceBlit(*std::move(dib), rectangle, ExactTransform(source.transform), unitToDevice);
+  auto blit = PlaceBlit(*std::move(dib), rectangle, ExactTransform(source.transform), unitToDevice);
   if (!blit) return std::nullopt;
   FinishBlit(device, *blit);
   return blit;
@@ -107,9 +106,9 @@ ShownPixels SetPixels(DeviceContext& device, const MaskBitmap& mask, const Blit&
   const auto firstX = std::max<std::int64_t>(left, 0);
   const auto firstY = std::max<std::int64_t>(top, 0);
   if (firstX < right && firstY < bottom) {
-    const PixelRectangle part = {
-        static_cast<std::size_t>(firstX), static_cast<std::size_t>(firstY),
-        static_cast<std::size_t>(right - firstX), static_cast<std::size_t>(bottom - firstY)};
+    const PixelRectangle part = {static_cast<std::size_t>(firstX), static_cast<std::size_t>(firstY),
+                                 static_cast<std::size_t>(right - firstX),
+                                 static_cast<std::size_t>(bottom - firstY)};
     const std::vector<std::uint8_t> bits = DecodeIndexes(*dib, part).indexes;
     for (std::size_t y = 0; y < part.height; ++y) {
       const std::size_t row = static_cast<std::size_t>(firstY - top) + y;

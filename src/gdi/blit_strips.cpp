@@ -10,8 +10,8 @@
 namespace kelvane {
 namespace {
 
-constexpr double kHair = 1.0 / 256;      // device units
-constexpr double kMostSlip = 0.5;        // device units that a row may lie off its place
+constexpr double kHair = 1.0 / 256;  // device units
+constexpr double kMostSlip = 0.5;    // device units that a row may lie off its place
 constexpr std::size_t kMostStrips = 1U << 16;
 
 RectangleD PlaceOf(const Blit& blit) {
@@ -84,8 +84,8 @@ void PaintStrips(DeviceContext& device, std::span<const PendingBlit> strips) {
   whole.part = {0, 0, top.part.width, rows};
   const RectangleD from = PlaceOf(top);
   const double height = PlaceOf(bottom).bottom - from.top;
-  whole.toDevice = {
-      top.toDevice.m11, 0, 0, height / static_cast<double>(rows), from.left, from.top};
+  whole.toDevice = {top.toDevice.m11, 0,       0, height / static_cast<double>(rows),
+                    from.left,        from.top};
   PaintImage(device, whole, ImageOf(parts, {}, top.isSmooth));
 }
 

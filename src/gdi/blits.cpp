@@ -18,8 +18,8 @@ namespace {
 /// Operations whose blits may be part of one picture with others.
 bool MayBelongToOthers(TernaryRasterOperation operation) {
   constexpr std::array kOperations = {SRCCOPY, SRCAND, SRCPAINT, SRCINVERT};
-  return std::ranges::any_of(
-      kOperations, [&](auto other) { return CodeOf(other) == CodeOf(operation); });
+  return std::ranges::any_of(kOperations,
+                             [&](auto other) { return CodeOf(other) == CodeOf(operation); });
 }
 
 BrushPaint SelectedPaint(const DeviceContext& device) {
@@ -134,8 +134,8 @@ void MaskBlt(DeviceContext& device, PointL corner, SizeL size, SourceBitmap sour
   DrawShown(device, *blit, background, hasSource);
 }
 
-void PlgBlt(DeviceContext& device, const std::array<PointL, 3>& corners,
-            const SourceBitmap& source, const MaskBitmap& mask) {
+void PlgBlt(DeviceContext& device, const std::array<PointL, 3>& corners, const SourceBitmap& source,
+            const MaskBitmap& mask) {
   const PointD origin = Exactly(corners[0]);
   const PointD right = Exactly(corners[1]);
   const PointD down = Exactly(corners[2]);

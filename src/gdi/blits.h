@@ -16,9 +16,9 @@ namespace kelvane {
 
 /// What a blit takes its pixels from.
 struct SourceBitmap {
-  DibBytes dib{};  // without a header for operations that need no source
-  PointL position{};  // of the source rectangle, from the top left of the picture
-  SizeL size{};       // of the source rectangle; negative ones mirror
+  DibBytes dib{};                     // without a header for operations that need no source
+  PointL position{};                  // of the source rectangle, from the top left of the picture
+  SizeL size{};                       // of the source rectangle; negative ones mirror
   XForm transform{1, 0, 0, 1, 0, 0};  // of the two to pixels
 };
 
@@ -56,8 +56,8 @@ void MaskBlt(DeviceContext& device, PointL corner, SizeL size, SourceBitmap sour
              const MaskBitmap& mask, std::uint32_t operations);
 
 /// @param corners  of the destination, a parallelogram: upper left, upper right, lower left.
-void PlgBlt(DeviceContext& device, const std::array<PointL, 3>& corners,
-            const SourceBitmap& source, const MaskBitmap& mask);
+void PlgBlt(DeviceContext& device, const std::array<PointL, 3>& corners, const SourceBitmap& source,
+            const MaskBitmap& mask);
 
 /// @param transparent  what has this colour is not drawn.
 void TransparentBlt(DeviceContext& device, PointL corner, SizeL size, const SourceBitmap& source,

@@ -13,6 +13,7 @@ constexpr std::string_view kSans = kFaceOfLastResort;
 constexpr std::string_view kSerif = "Times New Roman";
 constexpr std::string_view kFixed = "Courier New";
 constexpr std::string_view kScript = "Script";
+constexpr std::string_view kWideSans = "DejaVu Sans";  // open letters, made for screens
 
 constexpr WindowsFontName kWindowsNames[] = {
     // Fonts of pixels or strokes.
@@ -30,9 +31,15 @@ constexpr WindowsFontName kWindowsNames[] = {
     {"helv", {"MS Sans Serif", "Microsoft Sans Serif"}, kSans},
     {"helvetica", {}, kSans},
     {"msshelldlg", {"Microsoft Sans Serif"}, kSans},
-    {"msshelldlg2", {"Tahoma"}, kSans},
+    {"msshelldlg2", {"Tahoma"}, kWideSans},
     {"times", {}, kSerif},
     {"tmsrmn", {"MS Serif"}, kSerif},
+    // Fonts for screens, which every Windows has. Arial is too narrow to stand for them.
+    {"microsoftyahei", {"Microsoft YaHei"}, kWideSans},
+    {"microsoftyaheiui", {"Microsoft YaHei UI", "Microsoft YaHei"}, kWideSans},
+    {"segoeui", {"Segoe UI"}, kWideSans},
+    {"tahoma", {"Tahoma"}, kWideSans},
+    {"verdana", {"Verdana"}, kWideSans},
 };
 
 constexpr std::string_view kScripts[] = {" Baltic", " CE", " Cyr", " Greek", " Tur"};

@@ -56,8 +56,8 @@ std::string ImagesOf(std::string_view trace) {
     trace.remove_prefix(end + 1);
     const std::size_t under = line.find(" under ");
     if (line.starts_with("image") && under != std::string_view::npos) {
-      found += std::string(line.substr(0, under)) + " at " +
-               PlaceIn(WordsOf(line.substr(under + 7)));
+      found +=
+          std::string(line.substr(0, under)) + " at " + PlaceIn(WordsOf(line.substr(under + 7)));
     } else {
       found += line;
     }
@@ -263,10 +263,10 @@ TEST(Strips, BecomeOnePicture) {
   const StoredBitmap lower = StoredBitmap::Rgb({{kOlive, kRed}});
   for (const bool isDownwards : {true, false}) {
     TracedDevice device;
-    StretchBlt(device, {10, isDownwards ? 20 : 30}, {20, 10},
-               All(isDownwards ? upper : lower), SRCCOPY);
-    StretchBlt(device, {10, isDownwards ? 30 : 20}, {20, 10},
-               All(isDownwards ? lower : upper), SRCCOPY);
+    StretchBlt(device, {10, isDownwards ? 20 : 30}, {20, 10}, All(isDownwards ? upper : lower),
+               SRCCOPY);
+    StretchBlt(device, {10, isDownwards ? 30 : 20}, {20, 10}, All(isDownwards ? lower : upper),
+               SRCCOPY);
     EXPECT_EQ(Images(device), "image 2 2 rgb at 10 20 30 40\n  bytes ff0000808000 808000ff0000\n");
   }
 }

@@ -69,9 +69,14 @@ TEST_F(AFontName, LeadsToAFamilyOfTheSameMetrics) {
 
 TEST_F(AFontName, LeadsWhereItDoesInWindows) {
   ExpectFamily("Liberation Sans", {u"Helv", u"MS Sans Serif", u"System", u"MS Shell Dlg",
-                                   u"MS Shell Dlg 2", u"Small Fonts", u"HELVETICA", u"Modern"});
+                                   u"Small Fonts", u"HELVETICA", u"Modern"});
   ExpectFamily("Liberation Serif", {u"Times", u"Tms Rmn", u"MS Serif", u"Roman"});
   ExpectFamily("Liberation Mono", {u"Courier", u"Fixedsys", u"Terminal"});
+}
+
+TEST_F(AFontName, ForScreensLeadsToLettersAsWide) {
+  ExpectFamily("DejaVu Sans",
+               {u"Tahoma", u"Verdana", u"Segoe UI", u"Microsoft YaHei UI", u"MS Shell Dlg 2"});
 }
 
 TEST_F(AFontName, IsBoldWhenItIsSystem) {

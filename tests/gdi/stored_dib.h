@@ -18,8 +18,8 @@ class StoredBitmap {
   using Color = std::array<std::uint8_t, 3>;  // red, green, blue
 
   /// @param rows  top first, each of '0' and '1', which number the colours.
-  static StoredBitmap Mono(std::initializer_list<std::string_view> rows,
-                           Color zero = {0, 0, 0}, Color one = {255, 255, 255}) {
+  static StoredBitmap Mono(std::initializer_list<std::string_view> rows, Color zero = {0, 0, 0},
+                           Color one = {255, 255, 255}) {
     StoredBitmap bitmap(static_cast<std::int32_t>(rows.begin()->size()),
                         static_cast<std::int32_t>(rows.size()), 1);
     for (const Color& c : {zero, one})

@@ -36,6 +36,12 @@ std::vector<RgbColor> ColorsOf(ArrayView<PaletteEntry> entries) {
   return colors;
 }
 
+/// Windows makes no palette without colours, and the one before it stays selected.
+void CreatePalette(EmfPlayback& p, const CreatePaletteRecord& r) {
+  if (r.entries.empty()) return p.Damaged("its palette has no colours");
+  p.device.objects.Set(r.ihPal, Palette(ColorsOf(r.entries)));
+}
+
 constexpr EmfHandler kObjectHandlers[] = {
     {EMR_SELECTOBJECT, Playing<DecodeObject>([](EmfPlayback& p, const auto& r) {
        SelectObject(p.device, r.ihObject);
@@ -60,9 +66,8 @@ constexpr EmfHandler kObjectHandlers[] = {
     {EMR_EXTCREATEFONTINDIRECTW,
      Playing<DecodeExtCreateFontIndirectW>(
          [](EmfPlayback& p, const auto& r) { p.device.objects.Set(r.ihFont, r.font); })},
-    {EMR_CREATEPALETTE, Playing<DecodeCreatePalette>([](EmfPlayback& p, const auto& r) {
-       p.device.objects.Set(r.ihPal, Palette(ColorsOf(r.entries)));
-     })},
+    {EMR_CREATEPALETTE,
+     Playing<DecodeCreatePalette>([](EmfPlayback& p, const auto& r) { CreatePalette(p, r); })},
     {EMR_SELECTPALETTE, Playing<DecodeSelectPalette>([](EmfPlayback& p, const auto& r) {
        SelectPalette(p.device, r.ihPal);
      })},
