@@ -21,14 +21,14 @@ std::size_t ByteOf(std::uint32_t mask) {
 
 unsigned ShiftOf(std::uint32_t mask) {
   if (mask == 0) return 0;
-  const int lowest = std::countr_zero(mask);
-  const int eightBits = std::bit_width(mask) - 8;
-  return static_cast<unsigned>(std::max(lowest, eightBits));
+  const auto lowest = static_cast<unsigned>(std::countr_zero(mask));
+  const auto width = static_cast<unsigned>(std::bit_width(mask));
+  return width < 8 ? lowest : std::max(lowest, width - 8);
 }
 
 /// Repeats the bits of a number until they are eight, as Windows does: of five bits, 3 is 24 and 4
 /// is 33.
-unsigned char WidenedToByte(unsigned value, int bits) {
+unsigned char WidenedToByte(unsigned value, unsigned bits) {
   unsigned widened = value << (8 - bits);
   for (; bits < 8; bits *= 2)
     widened |= widened >> bits;
@@ -37,10 +37,11 @@ unsigned char WidenedToByte(unsigned value, int bits) {
 
 }  // namespace
 
-DirectPixels::Channel::Channel(std::uint32_t bits) : mask(bits), shift(ShiftOf(bits)), values{} {
+DirectPixels::Channel::Channel(std::uint32_t bits) : mask(bits), shift(ShiftOf(bits)) {
   const unsigned most = mask >> shift;
+  const auto width = static_cast<unsigned>(std::bit_width(most));
   for (unsigned value = 1; value <= most; ++value)
-    values[value] = WidenedToByte(value, std::bit_width(most));
+    values[value] = WidenedToByte(value, width);
 }
 
 DirectPixels::ByteChannels DirectPixels::BytesOf(const DibMasks& masks) {

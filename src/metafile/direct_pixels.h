@@ -32,7 +32,7 @@ class DirectPixels {
 
     std::uint32_t mask;
     unsigned shift;  // takes the mask to eight bits at most
-    std::array<unsigned char, 256> values;
+    std::array<unsigned char, 256> values{};
   };
 
   /// Which byte of a pixel is a channel, where all three are whole bytes.
