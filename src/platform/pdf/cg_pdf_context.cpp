@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "platform/pdf/pdf_content.h"
@@ -135,7 +136,13 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 
   void ShadingDrawn(const CGShading& shading) override {
     BeginMark({}, State());
-    content_.Shade(resources_.NameOf(AddShading(writer_, shading), kPdfShading));
+    const bool isMixed = State().alpha != 1 || State().blendMode != kCGBlendModeNormal;
+    const auto* const mesh = std::get_if<CGTriangleMesh>(&shading);
+    if (isMixed && mesh != nullptr) {
+      content_.DrawXObject(resources_.NameOf(AddMeshGroup(writer_, *mesh), kPdfForm));
+    } else {
+      content_.Shade(resources_.NameOf(AddShading(writer_, shading), kPdfShading));
+    }
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {

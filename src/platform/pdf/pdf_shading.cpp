@@ -6,10 +6,15 @@
 #include <initializer_list>
 #include <limits>
 #include <span>
+#include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
+#include "platform/pdf/pdf_content.h"
+#include "platform/pdf/pdf_group.h"
 #include "platform/pdf/pdf_number.h"
+#include "platform/pdf/pdf_resources.h"
 
 namespace kelvane {
 namespace {
@@ -133,16 +138,26 @@ unsigned char ByteOf(CGFloat component) {
   return static_cast<unsigned char>(std::lround(std::clamp(component, 0.0F, 1.0F) * 255));
 }
 
+/// The box of a mesh.
+struct Spans {
+  Span x;
+  Span y;
+};
+
+Spans SpansOf(const CGTriangleMesh& mesh) {
+  Spans spans;
+  for (const CGMeshVertex& vertex : mesh.vertices) {
+    spans.x.Include(vertex.point.x);
+    spans.y.Include(vertex.point.y);
+  }
+  return spans;
+}
+
 QPDFObjectHandle Add(PdfWriter& writer, const CGTriangleMesh& mesh) {
   constexpr int kComponentBits = 8;
   constexpr int kFlagBits = 8;
   constexpr unsigned char kNewTriangle = 0;
-  Span x;
-  Span y;
-  for (const CGMeshVertex& vertex : mesh.vertices) {
-    x.Include(vertex.point.x);
-    y.Include(vertex.point.y);
-  }
+  const auto [x, y] = SpansOf(mesh);
   const unsigned bits = BitsFor(std::max(x.Length(), y.Length()));
 
   std::vector<unsigned char> data;
@@ -167,6 +182,18 @@ QPDFObjectHandle Add(PdfWriter& writer, const CGTriangleMesh& mesh) {
 
 QPDFObjectHandle AddShading(PdfWriter& writer, const CGShading& shading) {
   return std::visit([&](const auto& kind) { return Add(writer, kind); }, shading);
+}
+
+QPDFObjectHandle AddMeshGroup(PdfWriter& writer, const CGTriangleMesh& mesh) {
+  std::string text;
+  PdfContent content([&text](std::string_view piece) { text += piece; });
+  PdfResources resources;
+  content.Shade(resources.NameOf(Add(writer, mesh), kPdfShading));
+  content.Finish();
+  const auto [x, y] = SpansOf(mesh);
+  const CGRect box = {{static_cast<CGFloat>(x.Low()), static_cast<CGFloat>(y.Low())},
+                      {static_cast<CGFloat>(x.Length()), static_cast<CGFloat>(y.Length())}};
+  return AddGroup(writer, text, resources, box);
 }
 
 }  // namespace kelvane

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/pdf/pdf_content.h"
-#include "platform/pdf/pdf_number.h"
+#include "platform/pdf/pdf_group.h"
 #include "platform/pdf/pdf_resources.h"
 
 namespace kelvane {
@@ -14,8 +14,8 @@ constexpr CGRect kUnitSquare = {{0, 0}, {1, 1}};
 constexpr CGColor kWhite = {1, 1, 1, 1};
 
 /// @return the stencil in white, as a group; what it leaves bare is black.
-QPDFObjectHandle AddGroup(PdfWriter& writer, const QPDFObjectHandle& stencil,
-                          const CGAffineTransform& matrix) {
+QPDFObjectHandle AddStencil(PdfWriter& writer, const QPDFObjectHandle& stencil,
+                            const CGAffineTransform& matrix) {
   std::string text;
   PdfContent content([&text](std::string_view piece) { text += piece; });
   PdfResources resources;
@@ -24,14 +24,7 @@ QPDFObjectHandle AddGroup(PdfWriter& writer, const QPDFObjectHandle& stencil,
   content.DrawXObject(resources.NameOf(stencil, kPdfImage));
   content.Finish();
 
-  auto dictionary = QPDFObjectHandle::newDictionary();
-  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
-  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
-  dictionary.replaceKey("/BBox", PdfBox(CGRectApplyAffineTransform(kUnitSquare, matrix)));
-  dictionary.replaceKey("/Group", QPDFObjectHandle::parse("<< /S /Transparency /CS /DeviceRGB >>"));
-  dictionary.replaceKey("/Resources", resources.Dictionary());
-  return writer.AddSharedStream(dictionary,
-                                {reinterpret_cast<const unsigned char*>(text.data()), text.size()});
+  return AddGroup(writer, text, resources, CGRectApplyAffineTransform(kUnitSquare, matrix));
 }
 
 }  // namespace
@@ -40,7 +33,7 @@ QPDFObjectHandle AddStencilState(PdfWriter& writer, const QPDFObjectHandle& sten
                                  const CGAffineTransform& matrix) {
   auto mask = QPDFObjectHandle::newDictionary();
   mask.replaceKey("/S", QPDFObjectHandle::newName("/Luminosity"));
-  mask.replaceKey("/G", AddGroup(writer, stencil, matrix));
+  mask.replaceKey("/G", AddStencil(writer, stencil, matrix));
   auto state = QPDFObjectHandle::newDictionary();
   state.replaceKey("/SMask", mask);
   return writer.AddSharedObject(state);

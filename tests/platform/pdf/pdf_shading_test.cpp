@@ -173,6 +173,22 @@ TEST(PdfMesh, ShowsTheLaterTriangleWhereTwoOverlap) {
   EXPECT_EQ(page.At(35, 95), kRedPixel);
 }
 
+TEST(PdfMesh, IsMixedAsOneWithWhatLiesBelow) {
+  const Raster page(PdfBytesOf([](CGContextRef c) {
+    test::SetFill(c, 0, 1, 0);
+    test::FillRect(c, CGRectMake(0, 0, 100, 50));
+    CGContextSetAlpha(c, 0.5F);
+    CGContextSetBlendMode(c, kCGBlendModeMultiply);
+    CGContextDrawShading(c, CGTriangleMesh{{{{0, 0}, kRed}, {{90, 0}, kRed}, {{0, 90}, kRed}}});
+  }));
+  EXPECT_EQ(page.At(5, 95)[0], 0);
+  EXPECT_NEAR(page.At(5, 95)[1], 128, 1);
+  EXPECT_EQ(page.At(5, 45)[0], 255);
+  EXPECT_NEAR(page.At(5, 45)[1], 128, 1);
+  EXPECT_EQ(page.At(70, 70), kGreenPixel);
+  EXPECT_EQ(page.At(70, 45), kWhitePixel);
+}
+
 TEST(PdfMesh, OfNoHeightMarksNothing) {
   const Raster page(DocumentOf(Triangle({10, 50}, {50, 50}, {90, 50})));
   EXPECT_EQ(page.At(50, 40), kWhitePixel);
