@@ -129,6 +129,19 @@ TEST(BrushPattern, ShowsABitmapInColorsOfThePalette) {
   EXPECT_EQ(PixelsOf(*pattern), (std::vector<unsigned char>{4, 5, 6, 1, 2, 3}));
 }
 
+TEST(BrushPattern, IsAsLargeAsItsPixelsWhereAFewBytesMayBeMany) {
+  constexpr std::uint32_t kRunLengths = 1;
+  const Bytes runs = Bytes().BitmapHeader(
+      {.width = 0x7FFFFFFF, .height = 2, .bitCount = 8, .compression = kRunLengths});
+  const Bytes codes = Bytes().Each({2, 1});
+  const auto sizeOf = [&](const Bytes& header) {
+    return SizeOfPattern({.kind = Brush::Kind::kPattern, .pattern = {header.Data(), codes.Data()}});
+  };
+  EXPECT_EQ(sizeOf(runs), 0xFFFFFFFEU);
+  EXPECT_EQ(sizeOf(MonoHeader(1, 1)), 2U);
+  EXPECT_EQ(sizeOf(MonoHeader(9999, 9999)), 2U);  // no bitmap, for its pixels are missing
+}
+
 TEST(BrushPattern, IsNoneWithoutPixels) {
   const Bytes header = MonoHeader(2, 9);
   EXPECT_FALSE(MakePattern({.kind = Brush::Kind::kPattern, .pattern = {header.Data(), {}}},
