@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,12 @@ std::vector<unsigned char> LabelledDiagram(std::size_t bytes);
 
 /// Short strings in three faces in turn, each unit with its advance.
 std::vector<unsigned char> Labels(std::size_t strings);
+
+/// A photo of 24 bits a pixel over the whole page, with the grain that real ones have.
+std::vector<unsigned char> Photo(std::int32_t width, std::int32_t height);
+
+/// The same in strips of a row each, as drivers of printers cut pictures.
+std::vector<unsigned char> Strips(std::size_t count);
 
 /// A metafile without records.
 Input EmptyPage();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "report/side_by_side.h"
@@ -11,14 +12,18 @@ namespace kelvane::bench {
 /// size.
 std::vector<Finding> LargeFiles();
 
-/// The most memory that conversions of 100 MB take, the classic one and the other.
+/// Conversion of photos: against deflate alone, growth with the number of strips.
+std::vector<Finding> Bitmaps();
+
+/// The most memory that conversions take: of 100 MB of lines the classic one and the other, of a
+/// photo.
 /// @param self  path of this program, which is run again for it.
 std::vector<Finding> Memory(const std::string& self);
 
-/// What this program does when it is run again for Memory: it converts and prints its peak in
-/// bytes.
-/// @param asWindows  by which of the two conversions.
-void PrintPeak(bool asWindows);
+/// What this program does when it is run again for Memory: it converts and prints how many bytes
+/// that took.
+/// @param flag  what it is to convert, and how.
+void PrintPeak(std::string_view flag);
 
 /// Conversion of small files in memory, against an empty page.
 std::vector<Finding> SmallFiles();

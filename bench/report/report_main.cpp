@@ -26,6 +26,7 @@ std::string MeasureAll(const std::string& self, const std::string& converter,
   add(Threads());
   add(FileSizes(metafiles));
   add(LargeFiles());
+  add(Bitmaps());
   add(Memory(self));
   return Table(all);
 }
@@ -46,7 +47,7 @@ void Replace(const std::string& path, const std::string& table) {
 
 int Main(const std::vector<std::string>& arguments) {
   if (arguments.size() == 2) {
-    PrintPeak(arguments[1] == "--peak-as-windows");
+    PrintPeak(arguments[1]);
     return 0;
   }
   if (arguments.size() < 3) {
