@@ -1,40 +1,13 @@
 #include "limits/input_families.h"
 
-#include <cstdint>
-
+#include "limits/family_parts.h"
+#include "limits/picture_families.h"
 #include "support/metafile.h"
 
 namespace kelvane::test {
 namespace {
 
-using File = std::vector<unsigned char>;
-
 constexpr std::uint32_t kEmrExtSelectClipRgn = 75;
-
-constexpr std::size_t kFixed = 128 + 332 + 12;  // header, end and font
-
-std::uint32_t Number(std::size_t value) {
-  return static_cast<std::uint32_t>(value);
-}
-
-std::int32_t Signed(std::size_t value) {
-  return static_cast<std::int32_t>(value);
-}
-
-/// A coordinate on the page, another one for each number.
-std::int32_t Scattered(std::size_t number) {
-  return static_cast<std::int32_t>(Number(number) * 2654435761U >> 22);  // below 1024
-}
-
-/// Repeats what `add` adds, `bytes` of it at a time.
-template <class Add>
-File Repeated(std::size_t size, std::size_t bytes, const Add& add) {
-  Metafile metafile;
-  metafile.Bounds(0, 0, 1024, 1024).CreateFont(1, {}).SelectObject(1);
-  for (std::size_t i = 0; i * bytes + kFixed < size; ++i)
-    add(metafile, i);
-  return metafile.Build();
-}
 
 Points ScatteredPoints(std::size_t count) {
   Points points;
@@ -364,6 +337,11 @@ const std::vector<InputFamily>& InputFamilies() {
       {"small_bitmaps", false, SmallBitmaps},
       {"a_truncated_bitmap", false, ATruncatedBitmap},
       {"truncated_bitmaps", false, TruncatedBitmaps},
+      {"small_blits", false, SmallBlits},
+      {"strips", false, Strips},
+      {"masked_images", false, MaskedImages},
+      {"gradient_rectangles", true, GradientRectangles},
+      {"a_mesh", true, AMesh},
       {"overlapping_points", false, OverlappingPoints},
       {"barely_overlapping_points", false, BarelyOverlappingPoints},
       {"overlapping_texts", false, Overlapping<EMR_EXTTEXTOUTW>},

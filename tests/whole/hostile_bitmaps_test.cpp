@@ -162,12 +162,13 @@ Metafile DrawnPng(const std::vector<unsigned char>& file, std::int32_t side) {
 /// A picture of one bit a pixel, which is some thousand times as long as its file.
 Metafile ADensePng() {
   constexpr std::uint32_t kSide = 30000;
-  const std::vector<unsigned char> rows((kSide / 8 + 1) * kSide);
+  const std::vector<unsigned char> rows(std::size_t{kSide / 8 + 1} * kSide);
   return DrawnPng(PngFile({kSide, kSide, 1, 0}, rows), kSide);
 }
 
 std::vector<HostileBitmap> BitmapsOfBadFiles() {
-  const std::vector<unsigned char> png = PngFile({4, 4}, std::vector<unsigned char>(4 * 13));
+  const std::vector<unsigned char> png =
+      PngFile({4, 4}, std::vector<unsigned char>(std::size_t{4} * 13));
   const std::vector<unsigned char> noRows = PngFile({30000, 30000}, {});
   const std::vector<unsigned char> jpegStart = {0xFF, 0xD8, 0xFF, 0xC0, 0, 17, 8, 0, 4};
   return {

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::int32_t kWidth = 5;
 constexpr std::int32_t kHeight = 3;
-constexpr std::size_t kPixels = kWidth * kHeight;
+constexpr std::size_t kPixels = std::size_t{kWidth} * kHeight;
 
 constexpr std::int32_t kMiddle = 132;  // 16 of 31, 32 of 63
 
@@ -340,11 +340,11 @@ TEST_P(AStoredPicture, IsOnThePagePixelByPixel) {
       for (std::int32_t x = 0; x < picture.width; ++x) {
         const std::int32_t column = drawing.isMirroredX ? picture.width - 1 - x : x;
         const std::int32_t row = drawing.isMirroredY ? picture.height - 1 - y : y;
-        const auto pixel = static_cast<std::size_t>(row * picture.width + column);
-        EXPECT_TRUE(IsNear(at(i, x, y), picture.pixels[pixel], picture.tolerance))
+        const std::int32_t pixel = row * picture.width + column;
+        const Color& wanted = picture.pixels[static_cast<std::size_t>(pixel)];
+        EXPECT_TRUE(IsNear(at(i, x, y), wanted, picture.tolerance))
             << "drawing " << i << ", column " << x << ", row " << y << ": "
-            << testing::PrintToString(at(i, x, y)) << ", not "
-            << testing::PrintToString(picture.pixels[pixel]);
+            << testing::PrintToString(at(i, x, y)) << ", not " << testing::PrintToString(wanted);
       }
     }
   }
