@@ -275,10 +275,12 @@ std::vector<HostileBitmap> BitmapsWithMasks() {
 
 enum Mode : std::uint32_t { kAcross, kDown, kTriangles };
 
+/// Vertices, each of another colour than the one before it.
 Bytes Vertices(const Points& points) {
   Bytes vertices;
+  std::uint32_t red = 0;
   for (const At& at : points)
-    vertices.PointL(at.x, at.y).U16(0xFF00).U16(0xFFFF).U16(0).U16(0);
+    vertices.PointL(at.x, at.y).U16(red ^= 0xFF00).U16(0xFFFF).U16(0).U16(0);
   return vertices;
 }
 
@@ -316,7 +318,7 @@ Metafile ManyRectangles() {
   Points points;
   std::vector<std::uint32_t> indexes;
   for (std::int32_t i = 0; i < 20000; ++i) {
-    points.push_back({i % 100, i / 200});
+    points.push_back({i % 100, i / 200 + i % 2});
     indexes.push_back(static_cast<std::uint32_t>(i));
   }
   return Gradient(kAcross, 10000, points, indexes);
