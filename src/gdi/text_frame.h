@@ -32,6 +32,9 @@ struct TextFrame {
 
   /// Device units of a logical unit along the baseline.
   [[nodiscard]] double PixelsAlong() const { return std::hypot(along.x, along.y); }
+
+  /// Device units of a logical unit up from the baseline.
+  [[nodiscard]] double PixelsUp() const { return std::hypot(up.x, up.y); }
 };
 
 /// @param font  as it is asked for. @param face  as it is drawn.

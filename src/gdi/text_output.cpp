@@ -43,16 +43,18 @@ Side SideOf(const DeviceState& state) {
   }
 }
 
-/// @return how far the baseline lies above the reference point, logical units.
-double Lift(const DeviceState& state, const TextFont& font) {
-  switch (state.textAlign & TA_VERTICALMASK) {
-    case TA_BASELINE:
-      return 0;
-    case TA_BOTTOM:
-      return font.descent;
-    default:
-      return -font.ascent;
-  }
+/// @return how far the baseline lies above the reference point, logical units. Fonts are measured
+/// in
+///         whole pixels of the device, unless the height of their cell was asked for; viewers put
+///         glyphs on whole rows, so the baseline is kept on the lower side of the edge of one.
+double Lift(const DeviceState& state, const TextFont& font, const TextFrame& frame) {
+  constexpr double kHair = 1.0 / 16;  // device units
+  const int alignment = state.textAlign & TA_VERTICALMASK;
+  if (alignment == TA_BASELINE) return 0;
+  const double lift = alignment == TA_BOTTOM ? font.descent : -font.ascent;
+  const double pixels = frame.PixelsUp();
+  if (state.font->height >= 0 || !(pixels > 0)) return lift;
+  return (std::round(lift * pixels) - kHair) / pixels;
 }
 
 Spacing SpacingOf(const DeviceState& state, const TextFrame& frame) {
@@ -85,7 +87,7 @@ SetLine Set(DeviceContext& device, const TextPlacing& placing, const TextFont& f
   const Side side = SideOf(state);
   const PointD end = line.placed.end;
   const double back = side == Side::kRight ? 1 : side == Side::kCenter ? 0.5 : 0;
-  const PointD start = {-back * end.x, Lift(state, font) - back * end.y};
+  const PointD start = {-back * end.x, Lift(state, font, line.frame) - back * end.y};
   const PointD toStart = line.frame.ToDevice(start);
   line.origin = {reference.x + toStart.x, reference.y + toStart.y};
   if (isAtCurrent && side != Side::kCenter) {

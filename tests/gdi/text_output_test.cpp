@@ -23,24 +23,35 @@ TEST_F(Text, IsSetInItsFaceAndSize) {
   EXPECT_EQ(device.Take(), "text \"A\" LiberationSans 1024 under 1 0 0 -1 100 200\n");
 }
 
-// Alignment. The baseline lies 927 below the top of the cell and 217 above its bottom.
+// Alignment. The baseline lies 927 below the top of the cell and 217 above its bottom, and a
+// sixteenth below the edge of a row.
 
 TEST_F(Text, StandsWithAnyPointOfItsLineAtItsReference) {
-  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "100 1127\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_CENTER | TA_TOP), "-241.5 1127\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_TOP), "-583 1127\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "100 1127.06\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_CENTER | TA_TOP), "-241.5 1127.06\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_TOP), "-583 1127.06\n");
   EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_BASELINE), "100 200\n");
   EXPECT_EQ(OriginOf({100, 200}, TA_CENTER | TA_BASELINE), "-241.5 200\n");
   EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BASELINE), "-583 200\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_BOTTOM), "100 -17\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_CENTER | TA_BOTTOM), "-241.5 -17\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-583 -17\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_BOTTOM), "100 -16.94\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_CENTER | TA_BOTTOM), "-241.5 -16.94\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-583 -16.94\n");
+}
+
+TEST_F(Text, HasItsBaselineOnAPixelUnlessItsCellIsAskedFor) {
+  LogFont font = Plain();
+  font.height = -18;  // ascends by 16.29
+  device.Select(2, font);
+  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "100 216.06\n");
+  font.height = 18;  // of which 14.59 lie above the baseline
+  device.Select(2, font);
+  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "100 214.59\n");
 }
 
 TEST_F(Text, TurnsWithItsAlignment) {
   device.Select(2, Turned(900));
-  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "1027 200\n");
-  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-117 883\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "1027.06 200\n");
+  EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-116.94 883\n");
 }
 
 TEST_F(Text, StaysOnItsLineHoweverThatTurns) {
@@ -52,7 +63,7 @@ TEST_F(Text, StaysOnItsLineHoweverThatTurns) {
 TEST_F(Text, LiesBelowItsTopWhereYGrowsUpwards) {
   SetMapMode(device, MM_ANISOTROPIC);
   SetViewportExtEx(device, {1, -1});
-  EXPECT_EQ(OriginOf({100, -200}, TA_LEFT | TA_TOP), "100 1127\n");
+  EXPECT_EQ(OriginOf({100, -200}, TA_LEFT | TA_TOP), "100 1127.06\n");
 }
 
 TEST_F(Text, SwapsItsSidesInALayoutFromRightToLeft) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "players/emf/traced_emf.h"
+#include "support/blits.h"
 #include "support/metafile.h"
 
 namespace kelvane::test {
@@ -11,9 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // Types that the builder has no verb for.
-constexpr std::uint32_t kEmrMaskBlt = 78;
 constexpr std::uint32_t kEmrSmallTextOut = 108;
-constexpr std::uint32_t kEmrAlphaBlend = 114;
 constexpr std::uint32_t kEmrExtFloodFill = 53;
 constexpr std::uint32_t kUnknownType = 200;
 
@@ -130,23 +129,56 @@ TEST(EmfPlayer, PlaysNothingBehindTheLastRecord) {
 
 // What is left out, and said to be.
 
-TEST(EmfPlayer, LeavesBitmapsOut) {
-  Metafile metafile;
-  metafile.BitBlt({0, 0}, {4, 4}, kSrcCopy, Bytes().Zeros(4));
-  metafile.StretchDibits({0, 0, 9, 9}, Bytes().BitmapHeader({}).Zeros(4));
-  const PlayedEmf played = Played(metafile.Build());
-  EXPECT_EQ(played.trace, "");
-  EXPECT_EQ(played.report,
-            "left out EMR_BITBLT 1: bitmaps are not drawn yet\n"
-            "left out EMR_STRETCHDIBITS 1: bitmaps are not drawn yet\n");
-}
-
-TEST(EmfPlayer, LeavesOtherBlitsOut) {
-  for (const std::uint32_t type : {kEmrMaskBlt, kEmrAlphaBlend}) {
+TEST(EmfPlayer, LeavesBitmapsOutThatCannotBeRead) {
+  for (const std::uint32_t type : {kAlphaBlend, kTransparentBlt}) {
     const PlayedEmf played = PlayedAlone(type, Bytes().Zeros(160));
     EXPECT_EQ(played.trace, "");
-    EXPECT_THAT(played.report, testing::HasSubstr("bitmaps are not drawn yet"));
+    EXPECT_THAT(played.report, testing::HasSubstr("its bitmap cannot be read"));
   }
+}
+
+// Bitmaps that wait for others.
+
+/// A bitmap of one row, two pixels of 24 bits, that is drawn from the corner on.
+Metafile& AddTwoPixels(Metafile& metafile, const Bytes& pixels, std::uint32_t operation) {
+  Blit blit;
+  blit.size = {2, 1};
+  blit.sourceSize = {2, 1};
+  blit.operation = operation;
+  blit.bitmap = {Bytes().BitmapHeader({.width = 2, .height = 1}), pixels};
+  return AddBlit(metafile, kStretchDibits, blit);
+}
+
+const Bytes kBlackAndWhite = Bytes().Zeros(3).Each({255, 255, 255, 0, 0});
+const Bytes kGreyAndBlack = Bytes().Each({128, 128, 128}).Zeros(5);
+constexpr std::uint32_t kSrcAnd = 0x008800C6;
+constexpr std::uint32_t kSrcPaint = 0x00EE0086;
+
+TEST(EmfPlayer, MakesOnePictureOfAMaskAndAnImageWithStateBetweenThem) {
+  Metafile metafile;
+  AddTwoPixels(metafile, kBlackAndWhite, kSrcAnd).SetTextColor(0x123456);
+  const PlayedEmf played = Played(AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).Build());
+  EXPECT_THAT(played.trace, testing::HasSubstr("masked 2 1"));
+  EXPECT_THAT(played.trace, testing::Not(testing::HasSubstr("blend")));
+  EXPECT_EQ(played.report, "");
+}
+
+TEST(EmfPlayer, DrawsAMaskBeforeWhatIsDrawnOnIt) {
+  Metafile metafile;
+  AddLine(AddTwoPixels(metafile, kBlackAndWhite, kSrcAnd));
+  const PlayedEmf played = Played(metafile.Build());
+  const std::size_t mask = played.trace.find("image 2 1 mask");
+  ASSERT_NE(mask, std::string::npos) << played.trace;
+  EXPECT_LT(mask, played.trace.find("stroke"));
+}
+
+TEST(EmfPlayer, TellsWhatABitmapFallsShortOfByItsOwnRecord) {
+  Metafile metafile;
+  AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).SetTextColor(0x123456);
+  const PlayedEmf played = Played(AddLine(metafile).Build());
+  EXPECT_EQ(
+      played.report,
+      "only nearly EMR_STRETCHDIBITS 1: its raster operation on these colours is only near\n");
 }
 
 TEST(EmfPlayer, LeavesFloodFillsOut) {
