@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kAbout =
     "Turns Windows Enhanced Metafiles (EMF) into PDF, as Windows shows them.\n"
-    "Bitmaps are not drawn yet; the report names what is left out.\n";
+    "The report names what is left out.\n";
 
 constexpr const char* kFooter =
     "kelvane info FILE tells what a metafile says of itself, kelvane dump FILE prints\n"
