@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "gdi/exactly.h"
 #include "gdi/polygons.h"
 
 namespace kelvane {
@@ -18,13 +19,9 @@ struct Overloaded : Visitors... {
 template <class... Visitors>
 Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
-CGPoint Rounded(PointD point) {
-  return {static_cast<CGFloat>(point.x), static_cast<CGFloat>(point.y)};
-}
-
 void AddRectangle(const RectangleD& r, CGPath& path) {
-  path.AddRectangle(Rounded({r.left, r.top}), {static_cast<CGFloat>(r.right - r.left),
-                                               static_cast<CGFloat>(r.bottom - r.top)});
+  path.AddRectangle(Rounded(PointD{r.left, r.top}), {static_cast<CGFloat>(r.right - r.left),
+                                                     static_cast<CGFloat>(r.bottom - r.top)});
 }
 
 std::vector<PointD> CornersOf(const RectangleD& r) {

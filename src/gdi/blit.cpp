@@ -7,7 +7,7 @@
 namespace kelvane {
 namespace {
 
-constexpr double kHair = 1.0 / 1024;  // pixels; what arithmetic may be off by
+constexpr double kInexactness = 1.0 / 1024;  // pixels; what arithmetic may be off by
 
 constexpr std::array<PointD, 4> kUnitCorners = {{{0, 0}, {1, 0}, {1, 1}, {0, 1}}};
 
@@ -27,12 +27,12 @@ struct PixelRange {
 
 /// @param from, to  of the source, in this order. @param size  of the bitmap.
 PixelRange WholePixels(double from, double to, std::size_t size) {
-  return {std::max(std::floor(from + kHair), 0.0),
-          std::min(std::ceil(to - kHair), static_cast<double>(size))};
+  return {std::max(std::floor(from + kInexactness), 0.0),
+          std::min(std::ceil(to - kInexactness), static_cast<double>(size))};
 }
 
 bool IsWhole(double edge) {
-  return std::abs(edge - std::round(edge)) <= kHair;
+  return std::abs(edge - std::round(edge)) <= kInexactness;
 }
 
 RectangleD BoxAround(const std::array<PointD, 4>& corners) {

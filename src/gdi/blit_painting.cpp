@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "gdi/blit_images.h"
+#include "gdi/exactly.h"
 #include "gdi/image_marks.h"
 #include "gdi/marks.h"
 #include "gdi/page_color.h"
@@ -12,10 +13,6 @@
 
 namespace kelvane {
 namespace {
-
-CGPoint Rounded(PointD p) {
-  return {static_cast<CGFloat>(p.x), static_cast<CGFloat>(p.y)};
-}
 
 CGPath Quadrilateral(const std::array<PointD, 4>& corners) {
   CGPath path;

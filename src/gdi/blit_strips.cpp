@@ -10,8 +10,8 @@
 namespace kelvane {
 namespace {
 
-constexpr double kHair = 1.0 / 256;  // device units
-constexpr double kMostSlip = 0.5;    // device units that a row may lie off its place
+constexpr double kMostGap = 1.0 / 256;  // device units
+constexpr double kMostSlip = 0.5;       // device units that a row may lie off its place
 constexpr std::size_t kMostStrips = 1U << 16;
 
 RectangleD PlaceOf(const Blit& blit) {
@@ -37,8 +37,8 @@ bool AreClose(double a, double b, double tolerance) {
 bool HaveOneWidth(const Blit& a, const Blit& b) {
   const RectangleD one = PlaceOf(a);
   const RectangleD other = PlaceOf(b);
-  return a.part.width == b.part.width && AreClose(one.left, other.left, kHair) &&
-         AreClose(one.right, other.right, kHair);
+  return a.part.width == b.part.width && AreClose(one.left, other.left, kMostGap) &&
+         AreClose(one.right, other.right, kMostGap);
 }
 
 /// @return whether rows are so nearly as high in both that none slips off its place.
@@ -49,10 +49,10 @@ bool HaveOneScale(const Blit& a, const Blit& b) {
 }
 
 bool GoesDownwards(const Blit& from, const Blit& to) {
-  return AreClose(PlaceOf(from).bottom, PlaceOf(to).top, kHair);
+  return AreClose(PlaceOf(from).bottom, PlaceOf(to).top, kMostGap);
 }
 bool GoesUpwards(const Blit& from, const Blit& to) {
-  return AreClose(PlaceOf(from).top, PlaceOf(to).bottom, kHair);
+  return AreClose(PlaceOf(from).top, PlaceOf(to).bottom, kMostGap);
 }
 
 }  // namespace

@@ -17,4 +17,14 @@ constexpr RectangleD Exactly(const RectangleL& r) {
           static_cast<double>(r.bottom)};
 }
 
+/// The other way, into the single precision of paths and surfaces.
+inline CGPoint Rounded(PointD point) {
+  return {static_cast<CGFloat>(point.x), static_cast<CGFloat>(point.y)};
+}
+
+inline CGAffineTransform Rounded(const TransformD& t) {
+  return {static_cast<CGFloat>(t.m11), static_cast<CGFloat>(t.m12), static_cast<CGFloat>(t.m21),
+          static_cast<CGFloat>(t.m22), static_cast<CGFloat>(t.dx),  static_cast<CGFloat>(t.dy)};
+}
+
 }  // namespace kelvane

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <optional>
 
+#include "gdi/exactly.h"
 #include "gdi/page_color.h"
 #include "gdi/painting.h"
 
@@ -22,11 +23,6 @@ std::optional<TransformD> LineToEms(const TextFrame& frame) {
   if (std::abs(lineToEms.m12) < kNoise * std::abs(lineToEms.m11)) lineToEms.m12 = 0;
   if (std::abs(lineToEms.m21) < kNoise * std::abs(lineToEms.m22)) lineToEms.m21 = 0;
   return lineToEms;
-}
-
-CGAffineTransform Rounded(const TransformD& t) {
-  return {static_cast<CGFloat>(t.m11), static_cast<CGFloat>(t.m12), static_cast<CGFloat>(t.m21),
-          static_cast<CGFloat>(t.m22), static_cast<CGFloat>(t.dx),  static_cast<CGFloat>(t.dy)};
 }
 
 /// The axes of glyphs on the page, and how large an em is there.

@@ -2,30 +2,28 @@
 
 #include <cmath>
 
+#include "gdi/exactly.h"
+
 namespace kelvane {
 namespace {
 
 /// Viewers give an image every pixel that it touches. So it must not reach into one by a rounding
 /// error: each edge is taken in by less than anyone can see.
-constexpr CGFloat kHair = 1.0F / 512;  // points
+constexpr CGFloat kUnseen = 1.0F / 512;  // points
 
 CGAffineTransform TakenIn(CGAffineTransform matrix) {
   const CGFloat width = std::hypot(matrix.a, matrix.b);
   const CGFloat height = std::hypot(matrix.c, matrix.d);
-  if (width < 4 * kHair || height < 4 * kHair) return matrix;
-  const CGFloat x = kHair / width;
-  const CGFloat y = kHair / height;
+  if (width < 4 * kUnseen || height < 4 * kUnseen) return matrix;
+  const CGFloat x = kUnseen / width;
+  const CGFloat y = kUnseen / height;
   return CGAffineTransformConcat({1 - 2 * x, 0, 0, 1 - 2 * y, x, y}, matrix);
 }
 
 /// From the unit square of images, whose y grows upwards.
 CGAffineTransform OnPage(const Canvas& canvas, const TransformD& unitToDevice) {
   const TransformD upright = TransformD{1, 0, 0, -1, 0, 1}.Then(unitToDevice);
-  const CGAffineTransform onDevice = {
-      static_cast<CGFloat>(upright.m11), static_cast<CGFloat>(upright.m12),
-      static_cast<CGFloat>(upright.m21), static_cast<CGFloat>(upright.m22),
-      static_cast<CGFloat>(upright.dx),  static_cast<CGFloat>(upright.dy)};
-  return TakenIn(CGAffineTransformConcat(onDevice, canvas.DeviceToPage()));
+  return TakenIn(CGAffineTransformConcat(Rounded(upright), canvas.DeviceToPage()));
 }
 
 }  // namespace

@@ -29,6 +29,12 @@ class Raster {
   std::string pixels_;
 };
 
+inline constexpr Raster::Color kRedPixel = {255, 0, 0};
+inline constexpr Raster::Color kGreenPixel = {0, 255, 0};
+inline constexpr Raster::Color kBluePixel = {0, 0, 255};
+inline constexpr Raster::Color kCyanPixel = {0, 255, 255};
+inline constexpr Raster::Color kWhitePixel = {255, 255, 255};
+
 /// How many pixels of two pictures show what the other shows nowhere within a pixel of the place.
 /// Renderers that agree on the picture but not on the share that an edge has in a pixel differ in
 /// none.

@@ -15,17 +15,16 @@ namespace kelvane {
 namespace {
 
 using test::FillRect;
+using test::kCyanPixel;
+using test::kGreenPixel;
+using test::kRedPixel;
+using test::kWhitePixel;
 using test::PdfBytesOf;
 using test::PdfContentOf;
 using test::Raster;
 using test::SetFill;
 using testing::HasSubstr;
 using testing::Not;
-
-constexpr Raster::Color kRedPixel = {255, 0, 0};
-constexpr Raster::Color kGreenPixel = {0, 255, 0};
-constexpr Raster::Color kCyanPixel = {0, 255, 255};
-constexpr Raster::Color kWhitePixel = {255, 255, 255};
 
 /// Cells of 20 points: the lower left quarter is red, the rest bare.
 CGSharedPattern RedQuarters() {

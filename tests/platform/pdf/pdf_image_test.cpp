@@ -22,6 +22,10 @@ using test::ByteList;
 using test::GrayOf;
 using test::ImageOf;
 using test::IndexedOf;
+using test::kBluePixel;
+using test::kGreenPixel;
+using test::kRedPixel;
+using test::kWhitePixel;
 using test::MakerOf;
 using test::Masked;
 using test::MaskOf;
@@ -209,10 +213,6 @@ TEST(PdfImage, OfNumbersSharesItsTable) {
 }
 
 constexpr CGRect kWholePage = {{0, 0}, {100, 100}};
-constexpr Raster::Color kRedPixel = {255, 0, 0};
-constexpr Raster::Color kBluePixel = {0, 0, 255};
-constexpr Raster::Color kGreenPixel = {0, 255, 0};
-constexpr Raster::Color kWhitePixel = {255, 255, 255};
 
 /// @return the document's page with the image over it, on green.
 std::string OnGreen(const CFOwned<const CGImage>& image) {

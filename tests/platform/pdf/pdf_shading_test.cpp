@@ -14,6 +14,10 @@
 namespace kelvane {
 namespace {
 
+using test::kBluePixel;
+using test::kGreenPixel;
+using test::kRedPixel;
+using test::kWhitePixel;
 using test::Pdf;
 using test::PdfBytesOf;
 using test::Raster;
@@ -21,10 +25,6 @@ using test::Raster;
 constexpr CGColor kRed = {1, 0, 0, 1};
 constexpr CGColor kGreen = {0, 1, 0, 1};
 constexpr CGColor kBlue = {0, 0, 1, 1};
-constexpr Raster::Color kRedPixel = {255, 0, 0};
-constexpr Raster::Color kGreenPixel = {0, 255, 0};
-constexpr Raster::Color kBluePixel = {0, 0, 255};
-constexpr Raster::Color kWhitePixel = {255, 255, 255};
 
 std::string DocumentOf(const CGShading& shading) {
   return PdfBytesOf([&](CGContextRef c) { CGContextDrawShading(c, shading); });
