@@ -19,6 +19,11 @@ Place PlaceAt(std::uint32_t offset, const BitmapParts& bitmap) {
           static_cast<std::uint32_t>(bitmap.pixels.Size())};
 }
 
+/// Around the end of the numbers, for places that are out of this world.
+constexpr std::int32_t Sum(std::int32_t a, std::int32_t b) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
 class FieldWriter {
  public:
   FieldWriter(const Blit& blit, const Place& bitmap, const Place& mask)
@@ -57,7 +62,7 @@ class FieldWriter {
   FieldWriter& Operation() { return Number(blit_.operation); }
   FieldWriter& Corners() {
     const auto [x, y] = blit_.destination;
-    return Pair({x, y}).Pair({x + blit_.size.x, y}).Pair({x, y + blit_.size.y});
+    return Pair({x, y}).Pair({Sum(x, blit_.size.x), y}).Pair({x, Sum(y, blit_.size.y)});
   }
   FieldWriter& PlaceOf(const Place& place) {
     return Number(place.header)
