@@ -186,8 +186,10 @@ void PaintBlended(DeviceContext& device, const Blit& blit, BinaryRasterOperation
 
 void PaintBlit(DeviceContext& device, const Blit& blit, TernaryRasterOperation operation,
                const BrushPaint& paint) {
+  const bool needsPaint = !WithoutPaint(operation);
+  if (needsPaint && paint.kind == Brush::Kind::kNull) return;
   const bool needsDestination = NeedsDestination(operation);
-  const bool needsPattern = !WithoutPaint(operation) && paint.kind != Brush::Kind::kSolid;
+  const bool needsPattern = needsPaint && paint.kind != Brush::Kind::kSolid;
   if (needsDestination || needsPattern) {
     const auto whites = WhitePixels(blit);
     if (whites) return PaintHalves(device, blit, operation, paint, *whites);
@@ -211,11 +213,14 @@ void PaintImage(DeviceContext& device, const Blit& blit, CFOwned<const CGImage> 
 void PaintTranslucent(DeviceContext& device, const Blit& blit, CGFloat alpha, bool isMultiplied) {
   auto pixels = isMultiplied ? DecodePremultiplied(blit.dib, blit.part) : std::nullopt;
   BlitPainter painter(device, blit);
-  if (!pixels) return painter.DrawColored({}, {kCGBlendModeNormal, alpha});
+  constexpr std::uint8_t kOpaquePixel = 255;
+  const auto isOpaque = [](std::uint8_t pixel) { return pixel == kOpaquePixel; };
+  if (!pixels || std::ranges::all_of(pixels->alpha, isOpaque)) {
+    return painter.DrawColored({}, {kCGBlendModeNormal, alpha});
+  }
   if (IsOnePixel(blit)) {
-    constexpr CGFloat kOpaque = 255;
     return painter.FillWith({pixels->rgb[0], pixels->rgb[1], pixels->rgb[2]},
-                            {kCGBlendModeNormal, alpha * pixels->alpha[0] / kOpaque});
+                            {kCGBlendModeNormal, alpha * pixels->alpha[0] / kOpaquePixel});
   }
   const auto image = ImageOf(blit, std::move(pixels->rgb));
   const auto mask = SoftMaskOf(std::move(pixels->alpha), blit);

@@ -158,8 +158,10 @@ void TransparentBlt(DeviceContext& device, PointL corner, SizeL size, const Sour
   if (!blit || !BringClip(device)) return;
   auto shown = PixelsBut(*blit, ResolveColor(device, transparent));
   if (!shown) return device.shortfalls.Add(Shortfall::kUnreadableBitmap);
-  blit->shown = std::make_shared<const std::vector<std::uint8_t>>(*std::move(shown));
-  blit->isSmooth = false;  // the colour that is left out would run into the others
+  if (std::ranges::find(*shown, 0) != shown->end()) {
+    blit->shown = std::make_shared<const std::vector<std::uint8_t>>(*std::move(shown));
+    blit->isSmooth = false;  // the colour that is left out would run into the others
+  }
   PaintBlit(device, *blit, SRCCOPY, {});
 }
 

@@ -114,6 +114,13 @@ TEST(StretchBlt, ChangesColorsByOperationsThatLookAtNothingBelow) {
   EXPECT_TRUE(device->shortfalls.IsEmpty());
 }
 
+TEST(StretchBlt, PaintsNothingWithABrushThatIsNone) {
+  TracedDevice device;
+  device.Select(1, Brush());
+  StretchBlt(device, {0, 0}, {2, 1}, All(RedAndOlive()), MERGECOPY);
+  EXPECT_EQ(Images(device), "");
+}
+
 TEST(StretchBlt, StoresGreyAsGrey) {
   TracedDevice device;
   const StoredBitmap grey = StoredBitmap::Rgb({{{9, 9, 9}, {128, 128, 128}}});
@@ -374,12 +381,34 @@ TEST(TransparentBlt, LeavesOutAColor) {
             "image 2 1 rgb masked 2 1 at 0 0 4 2\n  bytes ff0000808000\n  mask 80\n");
 }
 
+TEST(TransparentBlt, NeedsNoMaskForAColorThatIsNotThere) {
+  TracedDevice device;
+  TransparentBlt(device, {0, 0}, {4, 2}, All(RedAndOlive()), {0xFF0000});
+  EXPECT_EQ(Images(device), "image 2 1 rgb at 0 0 4 2\n  bytes ff0000808000\n");
+}
+
 TEST(AlphaBlend, TakesTheAlphaOutOfTheColors) {
   TracedDevice device;
   const StoredBitmap bitmap = StoredBitmap::Bgra({{{0, 0, 128, 128}, {0, 64, 0, 255}}});
   EXPECT_TRUE(AlphaBlend(device, {0, 0}, {2, 1}, All(bitmap), {0, 0, 255, 1}));
   EXPECT_EQ(Images(device),
             "image 2 1 rgb soft-masked 2 1 at 0 0 2 1\n  bytes ff0000004000\n  mask 80ff\n");
+}
+
+TEST(AlphaBlend, NeedsNoMaskWhereAllIsOpaque) {
+  TracedDevice device;
+  const StoredBitmap bitmap = StoredBitmap::Bgra({{{0, 0, 128, 255}, {0, 64, 0, 255}}});
+  EXPECT_TRUE(AlphaBlend(device, {0, 0}, {2, 1}, All(bitmap), {0, 0, 255, 1}));
+  EXPECT_EQ(Images(device), "image 2 1 rgb at 0 0 2 1\n  bytes 800000004000\n");
+}
+
+TEST(AlphaBlend, FillsWithOnePixelThatIsTranslucent) {
+  TracedDevice device;
+  const StoredBitmap bitmap = StoredBitmap::Bgra({{{0, 0, 51, 51}}});
+  EXPECT_TRUE(AlphaBlend(device, {10, 20}, {40, 60}, All(bitmap), {0, 0, 255, 1}));
+  EXPECT_EQ(Images(device),
+            "fill-color 1 0 0\nblend normal alpha 0.2\nmove 10 20\nline 50 20\nline 50 80\nline 10 "
+            "80\nclose\nfill\n");
 }
 
 TEST(AlphaBlend, LaysAnOpaqueBitmapOverByOneAlpha) {
