@@ -45,8 +45,9 @@ Side SideOf(const DeviceState& state) {
 
 /// @return how far the baseline lies above the reference point, logical units. Fonts are measured
 /// in
-///         whole pixels of the device, unless the height of their cell was asked for; viewers put
-///         glyphs on whole rows, so the baseline is kept on the lower side of the edge of one.
+///         whole ones, or in pixels of the device where those are smaller, unless the height of
+///         their cell was asked for. Viewers put glyphs on whole rows, so the baseline is kept on
+///         the lower side of the edge of one.
 double Lift(const DeviceState& state, const TextFont& font, const TextFrame& frame) {
   constexpr double kHair = 1.0 / 16;  // device units
   const int alignment = state.textAlign & TA_VERTICALMASK;
@@ -54,7 +55,8 @@ double Lift(const DeviceState& state, const TextFont& font, const TextFrame& fra
   const double lift = alignment == TA_BOTTOM ? font.descent : -font.ascent;
   const double pixels = frame.PixelsUp();
   if (state.font->height >= 0 || !(pixels > 0)) return lift;
-  return (std::round(lift * pixels) - kHair) / pixels;
+  const double unit = std::min(1.0, 1 / pixels);
+  return std::round(lift / unit) * unit - kHair / pixels;
 }
 
 Spacing SpacingOf(const DeviceState& state, const TextFrame& frame) {

@@ -38,7 +38,7 @@ TEST_F(Text, StandsWithAnyPointOfItsLineAtItsReference) {
   EXPECT_EQ(OriginOf({100, 200}, TA_RIGHT | TA_BOTTOM), "-583 -16.94\n");
 }
 
-TEST_F(Text, HasItsBaselineOnAPixelUnlessItsCellIsAskedFor) {
+TEST_F(Text, HasItsBaselineOnAUnitUnlessItsCellIsAskedFor) {
   LogFont font = Plain();
   font.height = -18;  // ascends by 16.29
   device.Select(2, font);
@@ -46,6 +46,15 @@ TEST_F(Text, HasItsBaselineOnAPixelUnlessItsCellIsAskedFor) {
   font.height = 18;  // of which 14.59 lie above the baseline
   device.Select(2, font);
   EXPECT_EQ(OriginOf({100, 200}, TA_LEFT | TA_TOP), "100 214.59\n");
+}
+
+TEST_F(Text, HasItsBaselineOnAPixelWhereThatIsSmallerThanAUnit) {
+  LogFont font = Plain();
+  font.height = -18;  // ascends by 16.29, which is 65.17 pixels
+  device.Select(2, font);
+  SetMapMode(device, MM_ANISOTROPIC);
+  SetViewportExtEx(device, {4, 4});
+  EXPECT_EQ(OriginOf({0, 0}, TA_LEFT | TA_TOP), "0 65.06\n");
 }
 
 TEST_F(Text, TurnsWithItsAlignment) {
