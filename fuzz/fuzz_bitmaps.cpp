@@ -41,7 +41,7 @@ void Decode(const kelvane::Dib& dib, const kelvane::PixelRectangle& part) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   if (size < 3) return 0;
   const std::span<const unsigned char> rest(data + 3, size - 3);
-  const std::size_t split = std::min<std::size_t>(data[1] | data[2] << 8, rest.size());
+  const std::size_t split = std::min<std::size_t>(data[1] | std::size_t{data[2]} << 8, rest.size());
   const std::vector<kelvane::DibColor> palette = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
   const auto dib = kelvane::Dib::Read(
       {rest.first(split), rest.subspan(split), static_cast<kelvane::DibUsage>(data[0] % 3)},

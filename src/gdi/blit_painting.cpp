@@ -213,14 +213,14 @@ void PaintImage(DeviceContext& device, const Blit& blit, CFOwned<const CGImage> 
 void PaintTranslucent(DeviceContext& device, const Blit& blit, CGFloat alpha, bool isMultiplied) {
   auto pixels = isMultiplied ? DecodePremultiplied(blit.dib, blit.part) : std::nullopt;
   BlitPainter painter(device, blit);
-  constexpr std::uint8_t kOpaquePixel = 255;
-  const auto isOpaque = [](std::uint8_t pixel) { return pixel == kOpaquePixel; };
+  constexpr std::uint8_t kOpaque = 255;
+  const auto isOpaque = [](std::uint8_t pixel) { return pixel == kOpaque; };
   if (!pixels || std::ranges::all_of(pixels->alpha, isOpaque)) {
     return painter.DrawColored({}, {kCGBlendModeNormal, alpha});
   }
   if (IsOnePixel(blit)) {
     return painter.FillWith({pixels->rgb[0], pixels->rgb[1], pixels->rgb[2]},
-                            {kCGBlendModeNormal, alpha * pixels->alpha[0] / kOpaquePixel});
+                            {kCGBlendModeNormal, alpha * ChannelOnPage(pixels->alpha[0])});
   }
   const auto image = ImageOf(blit, std::move(pixels->rgb));
   const auto mask = SoftMaskOf(std::move(pixels->alpha), blit);

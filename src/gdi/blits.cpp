@@ -8,6 +8,7 @@
 #include "gdi/blit_source.h"
 #include "gdi/exactly.h"
 #include "gdi/objects.h"
+#include "gdi/page_color.h"
 #include "gdi/painting.h"
 #include "gdi/raster_operation.h"
 #include "gdi/shapes.h"
@@ -167,14 +168,13 @@ void TransparentBlt(DeviceContext& device, PointL corner, SizeL size, const Sour
 
 bool AlphaBlend(DeviceContext& device, PointL corner, SizeL size, const SourceBitmap& source,
                 const BlendFunction& blend) {
-  constexpr CGFloat kOpaque = 255;
   constexpr std::uint8_t kSourceAlpha = 1;
   const auto isNegative = [](SizeL s) { return s.cx < 0 || s.cy < 0; };
   if (isNegative(size) || isNegative(source.size)) return false;
   DrawPendingBlits(device);
   const auto blit = BlitFrom(device, source, Destination(device, corner, size));
   if (!blit || !BringClip(device)) return true;
-  PaintTranslucent(device, *blit, blend.sourceConstantAlpha / kOpaque,
+  PaintTranslucent(device, *blit, ChannelOnPage(blend.sourceConstantAlpha),
                    (blend.alphaFormat & kSourceAlpha) != 0);
   return true;
 }

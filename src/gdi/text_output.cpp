@@ -50,7 +50,7 @@ Side SideOf(const DeviceState& state) {
 ///         the lower side of the edge of one.
 double Lift(const DeviceState& state, const TextFont& font, const TextFrame& frame) {
   constexpr double kHair = 1.0 / 16;  // device units
-  const int alignment = state.textAlign & TA_VERTICALMASK;
+  const auto alignment = static_cast<TextAlign>(state.textAlign & TA_VERTICALMASK);
   if (alignment == TA_BASELINE) return 0;
   const double lift = alignment == TA_BOTTOM ? font.descent : -font.ascent;
   const double pixels = frame.PixelsUp();

@@ -251,7 +251,7 @@ std::vector<unsigned char> DecodePackedIndexes(const Dib& dib, const PixelRectan
     const std::span<const unsigned char> row = dib.Row(part.top + y).subspan(firstBit / 8);
     for (std::size_t i = 0; i < rowSize; ++i) {
       const unsigned following = i + 1 < row.size() ? row[i + 1] : 0;
-      next[i] = static_cast<unsigned char>((row[i] << 8 | following) << shift >> 8);
+      next[i] = static_cast<unsigned char>((unsigned{row[i]} << 8 | following) << shift >> 8);
     }
     next[rowSize - 1] &= lastByte;
   }
