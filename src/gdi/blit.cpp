@@ -11,12 +11,6 @@ constexpr double kInexactness = 1.0 / 1024;  // pixels; what arithmetic may be o
 
 constexpr std::array<PointD, 4> kUnitCorners = {{{0, 0}, {1, 0}, {1, 1}, {0, 1}}};
 
-std::array<PointD, 4> CornersOf(const TransformD& unit) {
-  std::array<PointD, 4> corners;
-  std::ranges::transform(kUnitCorners, corners.begin(), [&](PointD p) { return unit.Map(p); });
-  return corners;
-}
-
 /// Pixels from one to another, as far as there are any.
 struct PixelRange {
   double from;
@@ -42,6 +36,12 @@ RectangleD BoxAround(const std::array<PointD, 4>& corners) {
 }
 
 }  // namespace
+
+std::array<PointD, 4> CornersOf(const TransformD& unit) {
+  std::array<PointD, 4> corners;
+  std::ranges::transform(kUnitCorners, corners.begin(), [&](PointD p) { return unit.Map(p); });
+  return corners;
+}
 
 TransformD UnitToDevice(const Blit& blit) {
   const TransformD unitToPixels = {static_cast<double>(blit.part.width),

@@ -35,6 +35,10 @@ struct Blit {
   bool isSmooth = false;  // pixels run into each other where it is enlarged
 };
 
+/// @param unit  maps the unit square, whose y grows downwards.
+/// @return where its corners come to lie, from the upper left one on clockwise.
+std::array<PointD, 4> CornersOf(const TransformD& unit);
+
 /// @return what maps the unit square, whose y grows downwards, onto the part on the device.
 TransformD UnitToDevice(const Blit& blit);
 

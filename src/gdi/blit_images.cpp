@@ -24,7 +24,7 @@ RgbColor Apply(const Coloring& coloring, RgbColor source) {
 }
 
 bool ChangesNothing(const Coloring& coloring) {
-  return CodeOf(coloring.operation) == CodeOf(SRCCOPY);
+  return AreAlike(coloring.operation, SRCCOPY);
 }
 
 /// What a coloring makes of each value that a channel can have.

@@ -23,12 +23,6 @@ CGPath Quadrilateral(const std::array<PointD, 4>& corners) {
   return path;
 }
 
-/// The place of the unit square, y downwards.
-CGPath UnitSquare(const TransformD& unitToDevice) {
-  return Quadrilateral({unitToDevice.Map({0, 0}), unitToDevice.Map({1, 0}),
-                        unitToDevice.Map({1, 1}), unitToDevice.Map({0, 1})});
-}
-
 /// Cuts marks to a path until it goes.
 class CutTo {
  public:
@@ -71,7 +65,7 @@ class BlitPainter {
 
   void DrawColored(const Coloring& coloring, const ImageBlending& blending) {
     if (IsOnePixel(blit_)) return FillWithPixel(coloring, blending);
-    if (CodeOf(coloring.operation) == CodeOf(SRCCOPY) && blit_.shown == nullptr) {
+    if (AreAlike(coloring.operation, SRCCOPY) && blit_.shown == nullptr) {
       if (const auto jpeg = JpegOf(blit_)) return DrawWhole(*jpeg, blending);
     }
     Draw(ImageOf({{blit_.dib, blit_.part}}, coloring, blit_.isSmooth), blending);
@@ -102,7 +96,7 @@ class BlitPainter {
 
  private:
   void FillPlace() {
-    CGPath place = UnitSquare(unitToDevice_);
+    CGPath place = Quadrilateral(CornersOf(unitToDevice_));
     canvas_.Load(place);
     canvas_.Surface().DrawPath(kCGPathFill);
   }
@@ -120,7 +114,7 @@ class BlitPainter {
     const bool isPart =
         whole.part.width != blit_.part.width || whole.part.height != blit_.part.height;
     std::optional<CutTo> cut;
-    if (isPart) cut.emplace(canvas_, UnitSquare(unitToDevice_));
+    if (isPart) cut.emplace(canvas_, Quadrilateral(CornersOf(unitToDevice_)));
     DrawImage(canvas_, image, UnitToDevice(whole), blending);
   }
 

@@ -12,15 +12,6 @@
 namespace kelvane {
 namespace {
 
-std::vector<DibColor> ColorsOf(const Palette& palette) {
-  std::vector<DibColor> colors;
-  for (std::size_t i = 0; i < palette.Size(); ++i) {
-    const RgbColor color = palette.At(i);
-    colors.push_back({color.red, color.green, color.blue});
-  }
-  return colors;
-}
-
 /// Bytes that a bitmap takes once it is decoded; none when it goes out as it is.
 std::uint64_t DecodedSize(const Dib& dib) {
   const std::uint64_t pixels = std::uint64_t{dib.Width()} * dib.Height();

@@ -19,8 +19,7 @@ namespace {
 /// Operations whose blits may be part of one picture with others.
 bool MayBelongToOthers(TernaryRasterOperation operation) {
   constexpr std::array kOperations = {SRCCOPY, SRCAND, SRCPAINT, SRCINVERT};
-  return std::ranges::any_of(kOperations,
-                             [&](auto other) { return CodeOf(other) == CodeOf(operation); });
+  return std::ranges::any_of(kOperations, [&](auto other) { return AreAlike(other, operation); });
 }
 
 BrushPaint SelectedPaint(const DeviceContext& device) {

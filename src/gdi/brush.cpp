@@ -1,7 +1,5 @@
 #include "gdi/brush.h"
 
-#include <cstddef>
-
 namespace kelvane {
 namespace {
 
@@ -32,11 +30,7 @@ BrushPaint ResolveHatch(const Brush& brush, const BrushColors& colors) {
 
 BrushPaint ResolvePattern(const Brush& brush, const Palette& palette) {
   BrushPaint paint = {.kind = Brush::Kind::kPattern, .pattern = brush.pattern};
-  if (brush.pattern.usage == DIB_RGB_COLORS) return paint;
-  for (std::size_t i = 0; i < palette.Size(); ++i) {
-    const RgbColor color = palette.At(i);
-    paint.palette.push_back({color.red, color.green, color.blue});
-  }
+  if (brush.pattern.usage != DIB_RGB_COLORS) paint.palette = ColorsOf(palette);
   return paint;
 }
 

@@ -33,7 +33,7 @@ bool AreThere(ArrayView<Shape> shapes, ArrayView<TriVertex> vertices) {
 }
 
 CGPoint OnPage(const Canvas& canvas, PointD point) {
-  return canvas.RoundOnPage({static_cast<CGFloat>(point.x), static_cast<CGFloat>(point.y)});
+  return canvas.RoundOnPage(Rounded(point));
 }
 
 /// A rectangle, logical units, with the colours of two opposite edges.

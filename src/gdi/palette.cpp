@@ -37,6 +37,15 @@ void Palette::Set(std::size_t index, RgbColor color) {
   entries_[index] = color;
 }
 
+std::vector<DibColor> ColorsOf(const Palette& palette) {
+  std::vector<DibColor> colors;
+  for (std::size_t i = 0; i < palette.Size(); ++i) {
+    const RgbColor color = palette.At(i);
+    colors.push_back({color.red, color.green, color.blue});
+  }
+  return colors;
+}
+
 RgbColor ResolveColor(ColorRef color, const Palette& palette) {
   if (color.IsPaletteIndex()) return palette.At(color.PaletteIndex());
   return {color.Red(), color.Green(), color.Blue()};

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "metafile/dib_header.h"
 #include "metafile/gdi_types.h"
 
 namespace kelvane {
@@ -52,6 +53,9 @@ class Palette {
   std::vector<RgbColor> entries_;  // up to the last that was ever set
   std::size_t size_;
 };
+
+/// @return all entries, for the bitmaps that number them.
+std::vector<DibColor> ColorsOf(const Palette& palette);
 
 /// @return the colour, by the palette's entry when it is a number of one.
 RgbColor ResolveColor(ColorRef color, const Palette& palette);

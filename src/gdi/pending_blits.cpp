@@ -16,10 +16,6 @@
 namespace kelvane {
 namespace {
 
-constexpr bool Is(TernaryRasterOperation operation, TernaryRasterOperation other) {
-  return CodeOf(operation) == CodeOf(other);
-}
-
 /// A row of blits on the same place that shows an image where a mask of black and white lets it.
 struct MaskedPicture {
   std::array<TernaryRasterOperation, 3> operations;
@@ -42,9 +38,10 @@ constexpr std::array<MaskedPicture, 4> kMaskedPictures = {{
 
 bool Begins(const MaskedPicture& picture, std::span<const PendingBlit> blits,
             TernaryRasterOperation next) {
-  if (blits.size() >= picture.count || !Is(picture.operations[blits.size()], next)) return false;
+  if (blits.size() >= picture.count || !AreAlike(picture.operations[blits.size()], next))
+    return false;
   for (std::size_t i = 0; i < blits.size(); ++i) {
-    if (!Is(picture.operations[i], blits[i].operation)) return false;
+    if (!AreAlike(picture.operations[i], blits[i].operation)) return false;
   }
   return true;
 }
@@ -63,8 +60,8 @@ bool LieOnTheSamePlace(const Blit& a, const Blit& b) {
 
 bool GoesWith(const std::vector<PendingBlit>& blits, const Blit& next,
               TernaryRasterOperation operation) {
-  if (Is(operation, SRCCOPY)) {
-    return Is(blits.back().operation, SRCCOPY) && GoesOn(blits, next);
+  if (AreAlike(operation, SRCCOPY)) {
+    return AreAlike(blits.back().operation, SRCCOPY) && GoesOn(blits, next);
   }
   return LieOnTheSamePlace(blits.back().blit, next) &&
          std::ranges::any_of(kMaskedPictures, [&](const MaskedPicture& picture) {
@@ -122,7 +119,8 @@ bool PaintMasked(DeviceContext& device, std::span<const PendingBlit> blits,
 void Paint(DeviceContext& device, std::span<const PendingBlit> blits) {
   const MaskedPicture* const picture = WholePicture(blits);
   if (picture != nullptr && PaintMasked(device, blits, *picture)) return;
-  if (blits.size() > 1 && Is(blits.front().operation, SRCCOPY)) return PaintStrips(device, blits);
+  if (blits.size() > 1 && AreAlike(blits.front().operation, SRCCOPY))
+    return PaintStrips(device, blits);
   for (const PendingBlit& pending : blits)
     PaintBlit(device, pending.blit, pending.operation, {});
 }

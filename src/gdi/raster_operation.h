@@ -34,6 +34,11 @@ constexpr std::uint32_t CodeOf(TernaryRasterOperation operation) {
   return operation >> 16 & 0xFF;
 }
 
+/// @return whether two ternary operations do the same.
+constexpr bool AreAlike(TernaryRasterOperation one, TernaryRasterOperation other) {
+  return CodeOf(one) == CodeOf(other);
+}
+
 /// @return the operation on paint and destination that a ternary one is where the source's bits are
 ///         all set, or all unset.
 BinaryRasterOperation WhereSourceIs(bool isSet, TernaryRasterOperation operation);
