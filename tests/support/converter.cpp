@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "support/paths.h"
+#include "support/slowdown.h"
 
 namespace kelvane::test {
 namespace {
@@ -10,7 +11,7 @@ namespace {
 using Command = std::vector<std::string>;
 
 ProcessResult RunConverterThrough(Command command, const Command& arguments) {
-  command.insert(command.begin(), {"timeout", "10"});
+  command.insert(command.begin(), {"timeout", kPatience});
   command.emplace_back(ConverterPath());
   command.insert(command.end(), arguments.begin(), arguments.end());
   return Run(command);

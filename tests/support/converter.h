@@ -15,7 +15,7 @@ inline constexpr std::string_view kSuccess =
 inline constexpr std::string_view kFailure = "error parsing emf..";
 inline constexpr int kFailed = 255;
 
-/// Runs the tool, ending it after ten seconds with status 124.
+/// Runs the tool, ending it after kPatience with status 124.
 ProcessResult RunConverter(const std::vector<std::string>& arguments);
 
 /// The same with `folder` as the working directory.

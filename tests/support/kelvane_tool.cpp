@@ -3,6 +3,7 @@
 #include "support/metafile.h"
 #include "support/paths.h"
 #include "support/process.h"
+#include "support/slowdown.h"
 
 namespace kelvane::test {
 
@@ -20,7 +21,7 @@ ToolResult KelvaneTool::Run(const std::vector<std::string>& arguments,
   const std::string script = R"(tool=$0; exec 2>"$1"; cd "$2" || exit; shift 2; )" +
                              (setting.before.empty() ? "" : setting.before + "; ") +
                              R"(exec "$tool" "$@" )" + setting.redirections;
-  std::vector<std::string> command = {"timeout", "10",          "sh",          "-c",
+  std::vector<std::string> command = {"timeout", kPatience,     "sh",          "-c",
                                       script,    KelvanePath(), aside / "err", folder_.Path()};
   command.insert(command.end(), arguments.begin(), arguments.end());
   const ProcessResult result = test::Run(command);

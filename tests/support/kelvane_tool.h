@@ -10,7 +10,7 @@
 namespace kelvane::test {
 
 struct ToolResult {
-  int status = -1;     // exit status; 124 when it was ended after ten seconds
+  int status = -1;     // exit status; 124 when it was ended after kPatience
   std::string output;  // standard output
   std::string errors;  // standard error
   double processorSeconds = 0;

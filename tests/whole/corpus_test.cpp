@@ -16,6 +16,7 @@
 #include "support/library.h"
 #include "support/pdf.h"
 #include "support/process.h"
+#include "support/slowdown.h"
 
 namespace kelvane::test {
 namespace {
@@ -125,7 +126,7 @@ class DamagedFile : public CorpusFile {};
 TEST_P(DamagedFile, EndsPromptly) {
   const ProcessResult result = Convert("damaged");
   EXPECT_TRUE(result.status == 0 || result.status == kFailed) << result.status;
-  EXPECT_LT(result.processorSeconds, 1);
+  EXPECT_LT(result.processorSeconds, 1 * kSlowdown);
 }
 
 TEST_P(DamagedFile, LeavesADocumentOnlyWhenItWasConverted) {
@@ -156,7 +157,7 @@ TEST_F(Corpus, IsConvertedInTenSecondsOfProcessorTime) {
     seconds += RunConverter({folder / name}).processorSeconds;
   }
   RecordProperty("seconds", std::to_string(seconds));
-  EXPECT_LT(seconds, 10);
+  EXPECT_LT(seconds, 10 * kSlowdown);
 }
 
 TEST_F(Corpus, GivesTheSameBytesOnManyThreadsAtOnce) {

@@ -5,6 +5,7 @@
 #include "support/kelvane_tool.h"
 #include "support/metafile.h"
 #include "support/pdf.h"
+#include "support/slowdown.h"
 
 namespace kelvane::test {
 
@@ -26,11 +27,7 @@ class HostilePage : public KelvaneTool {
   }
 
  private:
-#ifdef __SANITIZE_ADDRESS__
-  static constexpr double kMostSeconds = 5;
-#else
-  static constexpr double kMostSeconds = 2;
-#endif
+  static constexpr double kMostSeconds = 2 * kSlowdown;
 };
 
 }  // namespace kelvane::test

@@ -10,6 +10,7 @@
 #include "support/kelvane_tool.h"
 #include "support/metafile.h"
 #include "support/pdf.h"
+#include "support/slowdown.h"
 
 namespace kelvane::test {
 namespace {
@@ -77,7 +78,7 @@ TEST_P(KelvaneBadInput, IsRefusedPromptlyInWords) {
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(result.output, "");
   EXPECT_EQ(result.errors, std::string("kelvane: a.emf: ") + GetParam().message + "\n");
-  EXPECT_LT(result.processorSeconds, 0.5);
+  EXPECT_LT(result.processorSeconds, 0.5 * kSlowdown);
   EXPECT_EQ(Names(), before);
 }
 
@@ -119,7 +120,7 @@ TEST_F(KelvaneInput, IsRefusedWhenItIsADeviceThatNeverEnds) {
   const ToolResult result = Run({"-o", "a.pdf", "-"}, {.redirections = "</dev/zero"});
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(result.errors, "kelvane: standard input: cannot be read: it is a device\n");
-  EXPECT_LT(result.processorSeconds, 0.5);
+  EXPECT_LT(result.processorSeconds, 0.5 * kSlowdown);
 }
 
 TEST_F(KelvaneInput, MayLackItsEnd) {
