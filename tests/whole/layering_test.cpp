@@ -1,10 +1,11 @@
 // Includes point one way. A folder may include itself and what stands below it:
 //
-//     frontends > players > gdi
+//     frontends > players > gdiplus > gdi
 //     frontends > classic > atsui > fonts > quartz > corefoundation > base
 //     frontends > pdf, trace > quartz
 //     frontends/inspection > metafile
 //     gdi > metafile, fonts
+//     gdiplus > metafile/emfplus
 //
 // and within the classic conversion
 //
@@ -35,6 +36,7 @@ const Arrows& Floors() {
       {"base", {}},
       {"metafile", {"base"}},
       {"metafile/emf", {"metafile"}},
+      {"metafile/emfplus", {"metafile"}},
       {"platform/corefoundation", {"base"}},
       {"platform/quartz", {"platform/corefoundation"}},
       {"platform/fonts", {"platform/quartz"}},
@@ -43,8 +45,10 @@ const Arrows& Floors() {
       {"platform/trace", {"platform/quartz"}},
       {"platform/appkit", {"platform/corefoundation"}},
       {"gdi", {"metafile", "platform/fonts"}},
-      {"players", {"gdi"}},
-      {"players/emf", {"players", "metafile/emf"}},
+      {"gdiplus", {"gdi", "metafile/emfplus"}},
+      {"players", {"gdiplus"}},
+      {"players/emfplus", {"players"}},
+      {"players/emf", {"players/emfplus", "metafile/emf"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},
       {"classic/context", {"classic/playable"}},
@@ -55,7 +59,7 @@ const Arrows& Floors() {
       {"classic/document",
        {"classic/records", "classic/objects", "classic/bitmap", "classic/text"}},
       {"frontends", {"classic/document", "platform/pdf", "players/emf"}},
-      {"frontends/inspection", {"metafile/emf"}},
+      {"frontends/inspection", {"metafile/emf", "metafile/emfplus"}},
       {"frontends/kelvane", {"frontends", "frontends/inspection"}},
       {"frontends/appkit", {"platform/appkit"}},
   };

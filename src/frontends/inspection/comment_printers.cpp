@@ -1,6 +1,7 @@
 #include "frontends/inspection/record_printers.h"
 #include "metafile/emf/emf_comment_records.h"
 #include "metafile/emf/emf_record_type.h"
+#include "metafile/emfplus/emfplus_record.h"
 
 namespace kelvane {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "metafile/emf/emf_comment_records.h"
 #include "metafile/emf/emf_font_records.h"
+#include "metafile/emfplus/emfplus_record.h"
 
 namespace kelvane {
 namespace {

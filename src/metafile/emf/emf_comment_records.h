@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <tuple>
 
 #include "metafile/byte_view.h"
@@ -28,19 +27,6 @@ struct CommentRecord {
 };
 /// @param bytes  the record behind type and size.
 CommentRecord DecodeComment(ByteView& bytes);
-
-/// A record of EMF+ as it is framed in a comment ([MS-EMFPLUS] 2.3).
-struct EmfPlusRecord {
-  std::uint16_t type = 0;
-  std::uint16_t flags = 0;  // as the type says
-  ByteView data;
-};
-inline constexpr std::uint16_t kEmfPlusHeader = 0x4001;    // type of the first of them
-inline constexpr std::uint16_t kEmfPlusDualFlag = 0x0001;  // of that: EMF has the picture, too
-
-/// @param data  an EMF+ comment's. Loses the record.
-/// @return the next record; nothing when no whole one is left.
-std::optional<EmfPlusRecord> NextEmfPlusRecord(ByteView& data);
 
 /// What a public comment is ([MS-EMF] 2.1.10); others mean nothing.
 enum PublicCommentType : std::uint32_t {

@@ -1,4 +1,5 @@
 #include "metafile/emf/emf_comment_records.h"
+#include "metafile/emfplus/emfplus_record.h"
 #include "players/emf/emf_handler.h"
 
 namespace kelvane {

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <span>
+
+#include "gdiplus/graphics.h"
+#include "metafile/emfplus/emfplus_image.h"
+#include "metafile/emfplus/emfplus_image_attributes.h"
+#include "metafile/emfplus/emfplus_types.h"
+
+namespace kelvane::gdiplus {
+
+/// Plays a metafile that is an image.
+/// @param unitToDevice  maps the unit square, y downwards, which is the metafile's own page, to
+///                      where it is drawn; the clip is set.
+/// @return false for one that cannot be played.
+using PlayMetafile =
+    std::function<bool(const EmfPlusMetafile& metafile, const TransformD& unitToDevice)>;
+
+/// Draws a part of an image.
+/// @param source      the part, pixels.
+/// @param corners     where its upper left, upper right and lower left corner go, world units.
+/// @param attributes  null for none.
+void DrawImage(Graphics& graphics, const EmfPlusImage& image, const RectF& source,
+               const std::array<PointF, 3>& corners, const EmfPlusImageAttributes* attributes,
+               const PlayMetafile& play);
+
+}  // namespace kelvane::gdiplus
