@@ -20,7 +20,7 @@ RgbColor AsRgb(DibColor color) {
 }
 
 RgbColor Apply(const Coloring& coloring, RgbColor source) {
-  return Combine(coloring.operation, coloring.paint, source);
+  return Combine(coloring.operation, coloring.paint, source, coloring.ground);
 }
 
 bool ChangesNothing(const Coloring& coloring) {
@@ -30,18 +30,19 @@ bool ChangesNothing(const Coloring& coloring) {
 /// What a coloring makes of each value that a channel can have.
 using ChannelTable = std::array<std::uint8_t, 256>;
 
-ChannelTable TableOf(TernaryRasterOperation operation, std::uint8_t paint) {
+ChannelTable TableOf(const Coloring& coloring, std::uint8_t RgbColor::*channel) {
   ChannelTable table{};
   for (std::size_t value = 0; value < table.size(); ++value)
-    table[value] = Combine(operation, paint, static_cast<std::uint8_t>(value));
+    table[value] = Combine(coloring.operation, coloring.paint.*channel,
+                           static_cast<std::uint8_t>(value), coloring.ground.*channel);
   return table;
 }
 
 void Recolor(Bytes& rgb, const Coloring& coloring) {
   if (ChangesNothing(coloring)) return;
-  const ChannelTable red = TableOf(coloring.operation, coloring.paint.red);
-  const ChannelTable green = TableOf(coloring.operation, coloring.paint.green);
-  const ChannelTable blue = TableOf(coloring.operation, coloring.paint.blue);
+  const ChannelTable red = TableOf(coloring, &RgbColor::red);
+  const ChannelTable green = TableOf(coloring, &RgbColor::green);
+  const ChannelTable blue = TableOf(coloring, &RgbColor::blue);
   for (std::size_t i = 0; i + 2 < rgb.size(); i += 3) {
     rgb[i] = red[rgb[i]];
     rgb[i + 1] = green[rgb[i + 1]];

@@ -11,11 +11,12 @@
 
 namespace kelvane {
 
-/// What becomes of a bitmap's colours on their way: an operation on them and on a plain paint that
-/// does not look at what lies below.
+/// What becomes of a bitmap's colours on their way: an operation on them, on a plain paint and on a
+/// ground of one colour.
 struct Coloring {
   TernaryRasterOperation operation = SRCCOPY;
   RgbColor paint{};
+  RgbColor ground{};  // what lies below, for operations that look at it
 };
 
 /// @return the whole bitmap as the JPEG file that it is; null for any other.

@@ -104,7 +104,7 @@ class BlitPainter {
   void FillWithPixel(const Coloring& coloring, const ImageBlending& blending) {
     const auto pixel = FirstPixel(blit_);
     if (!pixel) return device_.shortfalls.Add(Shortfall::kUnreadableBitmap);
-    FillWith(Combine(coloring.operation, coloring.paint, *pixel), blending);
+    FillWith(Combine(coloring.operation, coloring.paint, *pixel, coloring.ground), blending);
   }
 
   /// A file is not taken apart: all of it is drawn, and the rest cut off.
@@ -129,9 +129,22 @@ bool IsShown(const Blit& blit, std::size_t pixel) {
   return blit.shown == nullptr || (*blit.shown)[pixel] != 0;
 }
 
+/// What lies below all that a blit can reach.
+std::optional<RgbColor> GroundUnder(const DeviceContext& device, const Blit& blit) {
+  return device.canvas->GroundUnder(blit.cut ? *blit.cut : CornersOf(UnitToDevice(blit)));
+}
+
+/// A blit that does not look at its brush works without one.
+Marks BlitMarks(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation,
+                std::optional<RgbColor> ground) {
+  return IgnoresPaint(operation) ? MarksOf(device, RgbColor(), operation, ground)
+                                 : MarksOf(device, paint, operation, ground);
+}
+
 /// White and black pixels are two binary operations on paint, each where it is to be.
 void PaintHalves(DeviceContext& device, const Blit& blit, TernaryRasterOperation operation,
                  const BrushPaint& paint, const std::vector<std::uint8_t>& whites) {
+  const auto ground = GroundUnder(device, blit);
   BlitPainter painter(device, blit);
   for (const bool isWhite : {false, true}) {
     const BinaryRasterOperation half = WhereSourceIs(isWhite, operation);
@@ -140,9 +153,7 @@ void PaintHalves(DeviceContext& device, const Blit& blit, TernaryRasterOperation
       shown[i] = std::uint8_t{(whites[i] != 0) == isWhite && IsShown(blit, i)};
     if (half == R2_NOP || std::ranges::find(shown, 1) == shown.end()) continue;
     const bool isWhole = std::ranges::find(shown, 0) == shown.end();
-    const Marks marks =
-        IgnoresPaint(half) ? MarksOf(device, RgbColor(), half) : MarksOf(device, paint, half);
-    painter.Fill(marks, isWhole ? nullptr : &shown);
+    painter.Fill(BlitMarks(device, paint, half, ground), isWhole ? nullptr : &shown);
   }
 }
 
@@ -188,15 +199,17 @@ void PaintBlit(DeviceContext& device, const Blit& blit, TernaryRasterOperation o
     const auto whites = WhitePixels(blit);
     if (whites) return PaintHalves(device, blit, operation, paint, *whites);
   }
-  if (needsDestination) return PaintBlended(device, blit, BlendOf(device, operation, paint));
+  const auto ground = needsDestination && !needsPattern ? GroundUnder(device, blit) : std::nullopt;
+  if (needsDestination && !ground) {
+    return PaintBlended(device, blit, BlendOf(device, operation, paint));
+  }
   if (needsPattern) device.shortfalls.Add(Shortfall::kBlendedColors);
-  BlitPainter(device, blit).DrawColored({operation, paint.color}, {});
+  BlitPainter(device, blit).DrawColored({operation, paint.color, ground.value_or(RgbColor())}, {});
 }
 
 void FillBlit(DeviceContext& device, const Blit& blit, BinaryRasterOperation operation,
               const BrushPaint& paint) {
-  const Marks marks = IgnoresPaint(operation) ? MarksOf(device, RgbColor(), operation)
-                                              : MarksOf(device, paint, operation);
+  const Marks marks = BlitMarks(device, paint, operation, GroundUnder(device, blit));
   BlitPainter(device, blit).Fill(marks, blit.shown.get());
 }
 

@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "gdi/brush_pattern.h"
+#include "gdi/exactly.h"
+#include "gdi/page_color.h"
+#include "platform/quartz/cg_extent.h"
 
 namespace kelvane {
 namespace {
@@ -98,6 +101,17 @@ TransformD Canvas::ToPage() const {
 CGPoint Canvas::RoundOnPage(CGPoint point) const {
   return {std::rint(point.x * partsOfAPoint_) / partsOfAPoint_,
           std::rint(point.y * partsOfAPoint_) / partsOfAPoint_};
+}
+
+std::optional<RgbColor> Canvas::GroundUnder(const std::array<PointD, 4>& corners) const {
+  CGPath place;
+  const TransformD toPage = ToPage();
+  for (const PointD corner : corners)
+    place.LineTo(Rounded(toPage.Map(corner)));
+  const auto color = surface_.GroundOf(BoxOf(place));
+  if (!color) return std::nullopt;
+  return RgbColor{ChannelFromPage(color->red), ChannelFromPage(color->green),
+                  ChannelFromPage(color->blue)};
 }
 
 bool Canvas::Afford(std::uint64_t parts) {

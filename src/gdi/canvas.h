@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <tuple>
 #include <vector>
 
@@ -73,6 +75,11 @@ class Canvas {
 
   /// Whether something was not drawn because it could not be afforded.
   [[nodiscard]] bool HasRunOut() const { return hasRunOut_; }
+
+  /// @param corners  of a quadrilateral, device units.
+  /// @return the colour that the page has throughout the box around it; nullopt where that is not
+  ///         known, or not one.
+  [[nodiscard]] std::optional<RgbColor> GroundUnder(const std::array<PointD, 4>& corners) const;
 
   /// Device units in 1/96 inch, the pixel of what keeps its size on every device.
   [[nodiscard]] double ScreenPixel() const { return screenPixel_; }

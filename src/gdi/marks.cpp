@@ -15,12 +15,15 @@ bool IsExact(BinaryRasterOperation operation, const BrushPaint& paint) {
          (!paint.background || IsExact(operation, *paint.background));
 }
 
-}  // namespace
+/// @return paint whose plain marks are the operation's on a ground of one colour.
+BrushPaint OnGround(BrushPaint paint, BinaryRasterOperation operation, RgbColor ground) {
+  paint.color = Combine(operation, paint.color, ground);
+  if (paint.background) paint.background = Combine(operation, *paint.background, ground);
+  return paint;
+}
 
-Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation) {
+Marks MixedMarks(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation) {
   Marks found;
-  if (paint.kind == Brush::Kind::kNull) return found;
-  if (!IsExact(operation, paint)) device.shortfalls.Add(Shortfall::kBlendedColors);
   for (const RasterStep& step : StepsOf(operation)) {
     Mark mark = {ColorOnPage(ColorOf(step.color, paint.color)), nullptr, step.mode};
     if (paint.kind != Brush::Kind::kSolid) {
@@ -36,8 +39,22 @@ Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperat
   return found;
 }
 
-Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation) {
-  return MarksOf(device, {.kind = Brush::Kind::kSolid, .color = color}, operation);
+}  // namespace
+
+Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation,
+              std::optional<RgbColor> ground) {
+  if (paint.kind == Brush::Kind::kNull) return {};
+  if (IsExact(operation, paint)) return MixedMarks(device, paint, operation);
+  if (ground && paint.kind != Brush::Kind::kPattern) {
+    return MixedMarks(device, OnGround(paint, operation, *ground), R2_COPYPEN);
+  }
+  device.shortfalls.Add(Shortfall::kBlendedColors);
+  return MixedMarks(device, paint, operation);
+}
+
+Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation,
+              std::optional<RgbColor> ground) {
+  return MarksOf(device, {.kind = Brush::Kind::kSolid, .color = color}, operation, ground);
 }
 
 void SetFill(CGContext& surface, const Mark& mark) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 
 #include "gdi/device_context.h"
@@ -31,8 +32,11 @@ struct Marks {
 
 /// @param operation  what comes out of paint and what lies below; where that is only near, or a
 ///                   bitmap cannot be read, the device is told.
-Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation);
-Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation);
+/// @param ground     what lies below all of the marks, if that is known and one colour.
+Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation,
+              std::optional<RgbColor> ground);
+Marks MarksOf(DeviceContext& device, RgbColor color, BinaryRasterOperation operation,
+              std::optional<RgbColor> ground);
 
 void SetFill(CGContext& surface, const Mark& mark);
 void SetStroke(CGContext& surface, const Mark& mark);

@@ -15,6 +15,11 @@ inline CGFloat ChannelOnPage(std::uint8_t channel) {
   return std::rint(static_cast<CGFloat>(channel) * kParts / kMost) / kParts;
 }
 
+/// The other way: each value of 8 bits comes back from its thousandths.
+inline std::uint8_t ChannelFromPage(CGFloat channel) {
+  return static_cast<std::uint8_t>(std::lround(channel * 255));
+}
+
 inline CGColor ColorOnPage(RgbColor color) {
   return {ChannelOnPage(color.red), ChannelOnPage(color.green), ChannelOnPage(color.blue), 1};
 }

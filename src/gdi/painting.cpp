@@ -1,11 +1,15 @@
 #include "gdi/painting.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 #include "gdi/marks.h"
 #include "gdi/objects.h"
 #include "gdi/stroking.h"
+#include "platform/quartz/cg_extent.h"
 
 namespace kelvane {
 namespace {
@@ -67,6 +71,25 @@ class PathPainter {
   std::size_t left_;
 };
 
+/// @param margin  how far the marks reach beyond the path, device units.
+/// @return what lies below them; not looked up for operations that ask for nothing below.
+std::optional<RgbColor> GroundUnder(const DeviceContext& device, const CGPath& path,
+                                    BinaryRasterOperation operation, double margin) {
+  if (operation == R2_COPYPEN) return std::nullopt;
+  const CGBox box = Grown(BoxOf(path), margin);
+  return device.canvas->GroundUnder({PointD{box.left, box.bottom},
+                                     {box.right, box.bottom},
+                                     {box.right, box.top},
+                                     {box.left, box.top}});
+}
+
+/// How far a stroke reaches beyond its path, device units; its miters may go farther.
+double MarginOf(const PenStroke& stroke, const Mapping& mapping) {
+  const TransformD& t = mapping.ToDevice();
+  const double scale = std::max(std::hypot(t.m11, t.m12), std::hypot(t.m21, t.m22));
+  return 1 + stroke.width * scale;
+}
+
 bool CanPaint(DeviceContext& device, const CGPath& path) {
   return path.HasSegments() && BringClip(device);
 }
@@ -97,14 +120,19 @@ bool BringClip(DeviceContext& device, const ClipState& clip) {
 void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind) {
   if (!CanPaint(device, path)) return path.Clear();
   const DeviceState& state = device.state;
-  const Marks fill =
-      Fills(kind) ? MarksOf(device, ResolveBrush(device, *state.brush), state.rop2) : Marks();
   const PenStroke stroke = Strokes(kind) ? ResolvePen(device) : PenStroke{.isNull = true};
-  const Marks lines =
-      stroke.isNull ? Marks() : MarksOf(device, ResolveBrush(device, state.pen->brush), state.rop2);
-  const Marks gaps = stroke.paintsGaps
-                         ? MarksOf(device, ResolveColor(device, state.backgroundColor), state.rop2)
+  const auto ground =
+      GroundUnder(device, path, state.rop2, stroke.isNull ? 0 : MarginOf(stroke, state.mapping));
+  const Marks fill = Fills(kind)
+                         ? MarksOf(device, ResolveBrush(device, *state.brush), state.rop2, ground)
                          : Marks();
+  const Marks lines =
+      stroke.isNull ? Marks()
+                    : MarksOf(device, ResolveBrush(device, state.pen->brush), state.rop2, ground);
+  const Marks gaps =
+      stroke.paintsGaps
+          ? MarksOf(device, ResolveColor(device, state.backgroundColor), state.rop2, ground)
+          : Marks();
   if (fill.IsOneOpaque() && lines.IsOneOpaque() && gaps.count == 0) {
     PathPainter(device, path, 1).FillAndStroke(fill, state.polyFillMode, lines, stroke);
     return;
@@ -118,13 +146,15 @@ void PaintPath(DeviceContext& device, CGPath& path, PaintKind kind) {
 void FillWith(DeviceContext& device, CGPath& path, PolyFillMode fillMode, const Brush& brush,
               BinaryRasterOperation operation) {
   if (!CanPaint(device, path)) return path.Clear();
-  Fill(device, path, fillMode, MarksOf(device, ResolveBrush(device, brush), operation));
+  const auto ground = GroundUnder(device, path, operation, 0);
+  Fill(device, path, fillMode, MarksOf(device, ResolveBrush(device, brush), operation, ground));
 }
 
 void FillWith(DeviceContext& device, CGPath& path, PolyFillMode fillMode, RgbColor color,
               BinaryRasterOperation operation) {
   if (!CanPaint(device, path)) return path.Clear();
-  Fill(device, path, fillMode, MarksOf(device, color, operation));
+  const auto ground = GroundUnder(device, path, operation, 0);
+  Fill(device, path, fillMode, MarksOf(device, color, operation, ground));
 }
 
 void DrawPendingMarks(DeviceContext& device) {

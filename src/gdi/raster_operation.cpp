@@ -107,19 +107,33 @@ bool NeedsDestination(TernaryRasterOperation operation) {
   return (code & kUnset) != (code >> 1 & kUnset);
 }
 
-RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source) {
-  return {Combine(operation, paint.red, source.red), Combine(operation, paint.green, source.green),
-          Combine(operation, paint.blue, source.blue)};
+RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source,
+                 RgbColor destination) {
+  return {Combine(operation, paint.red, source.red, destination.red),
+          Combine(operation, paint.green, source.green, destination.green),
+          Combine(operation, paint.blue, source.blue, destination.blue)};
 }
 
-std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source) {
+std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source,
+                     std::uint8_t destination) {
+  // The bits of an operand, or those that it lacks.
+  const auto where = [](std::uint32_t isSet, std::uint8_t bits) {
+    return isSet != 0 ? std::uint32_t{bits} : ~std::uint32_t{bits};
+  };
   const std::uint32_t code = CodeOf(operation);
   std::uint32_t result = 0;
-  if ((code & 0x01) != 0) result |= ~std::uint32_t{paint} & ~std::uint32_t{source};
-  if ((code & 0x04) != 0) result |= ~std::uint32_t{paint} & source;
-  if ((code & 0x10) != 0) result |= paint & ~std::uint32_t{source};
-  if ((code & 0x40) != 0) result |= paint & source;
+  for (std::uint32_t i = 0; i < 8; ++i) {
+    if ((code >> i & 1) == 0) continue;
+    result |= where(i & 4, paint) & where(i & 2, source) & where(i & 1, destination);
+  }
   return static_cast<std::uint8_t>(result);
+}
+
+RgbColor Combine(BinaryRasterOperation operation, RgbColor paint, RgbColor destination) {
+  // Two bits of the code for each of the paint's, twice: whatever the source.
+  const std::uint32_t bits = operation - R2_BLACK;
+  const std::uint32_t code = (bits & 3) * 0x05 | (bits >> 2 & 3) * 0x50;
+  return Combine(static_cast<TernaryRasterOperation>(code << 16), paint, {}, destination);
 }
 
 }  // namespace kelvane

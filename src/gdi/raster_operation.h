@@ -57,9 +57,13 @@ std::optional<BinaryRasterOperation> WithoutPaint(TernaryRasterOperation operati
 
 bool NeedsDestination(TernaryRasterOperation operation);
 
-/// @param operation  one that does not look at the destination. @return a colour bit by bit.
-RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source);
-std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source);
+/// @param destination  does not count for operations that do not look at it.
+/// @return a colour bit by bit.
+RgbColor Combine(TernaryRasterOperation operation, RgbColor paint, RgbColor source,
+                 RgbColor destination);
+std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::uint8_t source,
+                     std::uint8_t destination);
+RgbColor Combine(BinaryRasterOperation operation, RgbColor paint, RgbColor destination);
 
 /// @return whether the operation's result is the same whatever the paint.
 constexpr bool IgnoresPaint(BinaryRasterOperation operation) {

@@ -14,7 +14,7 @@ class DrawnExtent final : public CGContext {
 
   /// @return the box around all marks so far, page space, by the control points of curves and with
   ///         half of each line's width; nullopt without a mark.
-  [[nodiscard]] std::optional<StoredRectangle> Area() const { return area_; }
+  [[nodiscard]] std::optional<StoredRectangle> Area() const;
 
   void Close() override {}
   [[nodiscard]] CGFontFilter FontFilter() const override { return AnyFont; }
@@ -29,10 +29,9 @@ class DrawnExtent final : public CGContext {
   void ShadingDrawn(const CGShading& shading) override;
   void GlyphsDrawn(const CGGlyphRun& run) override;
 
-  void Add(CGPoint point, double margin);
-  void AddBox(const StoredRectangle& box, double margin);
+  void Add(const CGBox& box);
 
-  std::optional<StoredRectangle> area_;
+  std::optional<CGBox> area_;
 };
 
 }  // namespace kelvane

@@ -6,6 +6,7 @@
 #include "gdi/brush.h"
 #include "gdi/clipping.h"
 #include "gdi/coordinates.h"
+#include "gdi/page_color.h"
 #include "gdi/stored_dib.h"
 #include "gdi/traced_device.h"
 
@@ -205,6 +206,19 @@ TEST(StretchBlt, BlendsColorsAndNotesThatTheyAreOnlyNear) {
   StretchBlt(device, {0, 0}, {2, 1}, All(RedAndOlive()), SRCAND);
   EXPECT_EQ(Images(device),
             "blend darken alpha 1\nimage 2 1 rgb at 0 0 2 1\n  bytes ff0000808000\n");
+  EXPECT_TRUE(device->shortfalls.Has(Shortfall::kBlendedColors));
+}
+
+TEST(StretchBlt, CombinesColorsBitByBitWithAGroundThatIsKnown) {
+  TracedDevice device;
+  device.OnCanvas().Surface().WatchGround(ColorOnPage({0x3C, 0xC8, 0x78}));
+  StretchBlt(device, {0, 0}, {2, 1}, All(RedAndOlive()), SRCAND);
+  EXPECT_EQ(Images(device), "image 2 1 rgb at 0 0 2 1\n  bytes 3c0000008000\n");
+  StretchBlt(device, {10, 0}, {2, 1}, All(RedAndOlive()), SRCINVERT);
+  EXPECT_EQ(Images(device), "image 2 1 rgb at 10 0 12 1\n  bytes c3c878bc4878\n");
+  EXPECT_TRUE(device->shortfalls.IsEmpty());
+  StretchBlt(device, {1, 0}, {2, 1}, All(RedAndOlive()), SRCAND);  // partly on the first
+  Images(device);
   EXPECT_TRUE(device->shortfalls.Has(Shortfall::kBlendedColors));
 }
 

@@ -6,6 +6,7 @@
 #include "gdi/clipping.h"
 #include "gdi/coordinates.h"
 #include "gdi/lines.h"
+#include "gdi/page_color.h"
 #include "gdi/shapes.h"
 #include "gdi/stored_array.h"
 #include "gdi/test_pens.h"
@@ -280,6 +281,35 @@ TEST(DrawPendingMarks, KeepsTheOrderOfLinesAndPixels) {
   LineTo(device, {9, 5});
   EXPECT_EQ(device.TakeMarks(),
             "move 0 0\nline 5 5\nstroke\nrect 1 1 1 1\nfill\nmove 5 5\nline 9 5\nstroke\n");
+}
+
+// On a ground of one colour that is known, what an operation makes of it is a plain colour.
+
+TEST(KnownGround, MakesMarksOfAnyColorExact) {
+  TracedDevice device;
+  device.OnCanvas().Surface().WatchGround(ColorOnPage({0x3C, 0xC8, 0x78}));
+  device.Select(1, CreateSolidBrush(kGray));
+  device.Select(2, OldPen(PS_SOLID, 0, kGray));
+  SetROP2(device, R2_MASKPEN);
+  EXPECT_EQ(Box(device),
+            "fill-color 0 0.502 0\nstroke-color 0 0.502 0\nline-width 0\n"
+            "line-join 1\n" +
+                kBox + "eo-fill-stroke\n");
+  EXPECT_TRUE(device->shortfalls.IsEmpty());
+  Rectangle(device, {2, 2, 40, 40});  // partly on the first
+  EXPECT_TRUE(device->shortfalls.Has(Shortfall::kBlendedColors));
+}
+
+TEST(KnownGround, IsToReachAsFarAsTheLinesDo) {
+  TracedDevice device;
+  device.OnCanvas().Surface().WatchGround({1, 1, 1, 1});
+  device.Select(1, OldPen(PS_SOLID, 10, kGray));
+  SetROP2(device, R2_MASKPEN);
+  Polyline(device, StoredPoints({{0, 0}, {9, 0}}).View());
+  EXPECT_TRUE(device->shortfalls.IsEmpty());
+  Polyline(device, StoredPoints({{0, 9}, {9, 9}}).View());  // their edges meet
+  device.Take();
+  EXPECT_TRUE(device->shortfalls.Has(Shortfall::kBlendedColors));
 }
 
 }  // namespace

@@ -149,13 +149,23 @@ TEST(TernaryOperation, TellsWhatItLooksAt) {
   EXPECT_FALSE(NeedsDestination(BLACKNESS));
 }
 
-TEST(TernaryOperation, CombinesPaintAndSourceBitByBit) {
-  for (unsigned code = 0; code <= kAll; ++code) {
-    if (NeedsDestination(Ternary(code))) continue;
-    const unsigned combined = Combine(Ternary(code), std::uint8_t{0xCC}, std::uint8_t{0xAA});
-    const unsigned expected = TernaryBit(code, 1, 1, 0) << 7 | TernaryBit(code, 1, 0, 0) << 6 |
-                              TernaryBit(code, 0, 1, 0) << 5 | TernaryBit(code, 0, 0, 0) << 4;
-    EXPECT_EQ(combined, expected | expected >> 4) << code;
+// Bit i of paint, source and destination is that of i itself, so that the result is the code.
+TEST(TernaryOperation, CombinesColorsBitByBit) {
+  for (unsigned code = 0; code <= kAll; ++code)
+    EXPECT_EQ(Combine(Ternary(code), std::uint8_t{0xF0}, std::uint8_t{0xCC}, std::uint8_t{0xAA}),
+              code);
+}
+
+TEST(TernaryOperation, CombinesEachChannelByItself) {
+  EXPECT_EQ(Combine(SRCAND, {}, {0xFF, 0x3C, 0x00}, {0x81, 0x0F, 0xFF}),
+            (RgbColor{0x81, 0x0C, 0x00}));
+}
+
+TEST(BinaryOperation, CombinesColorsBitByBit) {
+  for (unsigned bits = 0; bits < 16; ++bits) {
+    const auto operation = static_cast<BinaryRasterOperation>(R2_BLACK + bits);
+    const RgbColor combined = Combine(operation, {0x0C, 0x0C, 0x0C}, {0x0A, 0x0A, 0x0A});
+    EXPECT_EQ(combined.green & 0x0F, bits);
   }
 }
 

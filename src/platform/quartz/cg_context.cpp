@@ -27,6 +27,7 @@ void CGContext::ResetPage() {
   clips_.clear();
   path_.Clear();
   textMatrix_ = {};
+  ground_.reset();
 }
 
 void CGContext::SaveGState() {
@@ -96,7 +97,10 @@ CGPoint CGContext::PathCurrentPoint() const {
 
 void CGContext::DrawPath(CGPathDrawingMode mode) {
   const bool finite = path_.IsFinite() && (!Strokes(mode) || std::isfinite(state_.lineWidth));
-  if (Shows() && path_.HasSegments() && finite) PathPainted(path_, mode);
+  if (Shows() && path_.HasSegments() && finite) {
+    if (ground_) ground_->PathPainted(state_, Clips(), path_, mode);
+    PathPainted(path_, mode);
+  }
   path_.Clear();
 }
 
@@ -114,12 +118,17 @@ void CGContext::DrawImage(const CGRect& rect, CGImageRef image) {
   const CGAffineTransform unitSquareToRect = {
       rect.size.width, 0, 0, rect.size.height, rect.origin.x, rect.origin.y};
   const CGAffineTransform matrix = CGAffineTransformConcat(unitSquareToRect, state_.ctm);
-  if (Shows() && IsFinite(matrix)) ImageDrawn(*image, matrix);
+  if (!Shows() || !IsFinite(matrix)) return;
+  if (ground_) ground_->Disturb(BoxOf(CGRectApplyAffineTransform({{0, 0}, {1, 1}}, matrix)));
+  ImageDrawn(*image, matrix);
 }
 
 void CGContext::DrawShading(const CGShading& shading) {
   if (!Shows()) return;
-  if (const auto onPage = Mapped(shading, state_.ctm)) ShadingDrawn(*onPage);
+  const auto onPage = Mapped(shading, state_.ctm);
+  if (!onPage) return;
+  if (ground_) ground_->Disturb(ExtentOf(*onPage, Clips()));
+  ShadingDrawn(*onPage);
 }
 
 void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
@@ -132,7 +141,9 @@ void CGContext::DrawGlyphRun(const CGGlyphRun& run) {
                       std::ranges::all_of(run.glyphs, [](const CGPositionedGlyph& glyph) {
                         return IsFinite(glyph.origin);
                       });
-  if (Shows() && finite && run.size > 0 && !run.glyphs.empty()) GlyphsDrawn(onPage);
+  if (!Shows() || !finite || run.size <= 0 || run.glyphs.empty()) return;
+  if (ground_) ground_->Disturb(ExtentOf(onPage));
+  GlyphsDrawn(onPage);
 }
 
 CGPoint CGContext::ToUserSpace(CGPoint pagePoint) const {

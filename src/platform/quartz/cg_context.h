@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_glyph_run.h"
 #include "platform/quartz/cg_graphics_state.h"
+#include "platform/quartz/cg_ground.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 #include "platform/quartz/cg_saved_states.h"
@@ -93,6 +95,18 @@ class CGContext : public CFObject {
   /// nothing.
   void DrawGlyphRun(const CGGlyphRun& run);
 
+  // What is known of the page, for marks that depend on what lies below them.
+
+  /// Keeps in mind until the page ends which colours marks leave, which takes a little longer.
+  /// @param paper  the colour of the page with nothing on it.
+  void WatchGround(const CGColor& paper) { ground_.emplace(paper); }
+
+  /// @param box  page space.
+  /// @return the colour that all of it has now; nullopt where that is not known, or not one.
+  [[nodiscard]] std::optional<CGColor> GroundOf(const CGBox& box) const {
+    return ground_ ? ground_->ColorOf(box) : std::nullopt;
+  }
+
   /// @return which faces this output can show; to be asked before a face is chosen.
   [[nodiscard]] virtual CGFontFilter FontFilter() const = 0;
 
@@ -130,6 +144,7 @@ class CGContext : public CFObject {
   std::uint64_t nextClipSerial_ = 1;
   CGPath path_;
   CGAffineTransform textMatrix_;
+  std::optional<CGGround> ground_;
   bool inPage_ = false;
 };
 

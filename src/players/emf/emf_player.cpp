@@ -123,6 +123,7 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
 std::size_t PlayOnto(CGContext& surface, const CGAffineTransform& deviceToPage,
                      std::span<const unsigned char> file, const EmfHeader& header,
                      const RectangleD& whole, const TextSetting& text, Report& report) {
+  surface.WatchGround({1, 1, 1, 1});  // paper is white
   Canvas canvas(surface, deviceToPage, whole, ResolutionOf(GeometryOf(header)));
   canvas.AllowFor(file.size());
   FontBook fonts(text.registry, surface.FontFilter(), text.map);

@@ -174,6 +174,7 @@ TEST(EmfPlayer, DrawsAMaskBeforeWhatIsDrawnOnIt) {
 
 TEST(EmfPlayer, TellsWhatABitmapFallsShortOfByItsOwnRecord) {
   Metafile metafile;
+  metafile.Ellipse({0, 0, 100, 100});
   AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).SetTextColor(0x123456);
   const PlayedEmf played = Played(AddLine(metafile).Build());
   EXPECT_EQ(
@@ -188,7 +189,8 @@ TEST(EmfPlayer, LeavesFloodFillsOut) {
 
 TEST(EmfPlayer, ReportsARecordWhoseColorsAreOnlyNear) {
   Metafile metafile;
-  metafile.CreateBrush(1, Rgb(128, 128, 128)).SelectObject(1).Record(EMR_SETROP2, Bytes().U32(7));
+  metafile.Ellipse({0, 0, 100, 100}).CreateBrush(1, Rgb(128, 128, 128)).SelectObject(1);
+  metafile.Record(EMR_SETROP2, Bytes().U32(7));
   const PlayedEmf played = Played(metafile.Rectangle({0, 0, 4, 4}).Build());
   EXPECT_EQ(played.report,
             "only nearly EMR_RECTANGLE 1: its raster operation on these colours is only near\n");
