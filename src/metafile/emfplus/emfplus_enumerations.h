@@ -84,6 +84,24 @@ enum class EmfPlusPenAlignment : std::int32_t {
   kRight = 4
 };
 
+enum class EmfPlusSmoothingMode : std::uint8_t {
+  kDefault = 0,
+  kHighSpeed = 1,
+  kHighQuality = 2,
+  kNone = 3,
+  kAntiAlias8x4 = 4,
+  kAntiAlias8x8 = 5
+};
+
+enum class EmfPlusTextRenderingHint : std::uint8_t {
+  kSystemDefault = 0,
+  kSingleBitPerPixelGridFit = 1,
+  kSingleBitPerPixel = 2,
+  kAntiAliasGridFit = 3,
+  kAntiAlias = 4,
+  kClearTypeGridFit = 5
+};
+
 enum class EmfPlusInterpolationMode : std::uint8_t {
   kDefault = 0,
   kLowQuality = 1,

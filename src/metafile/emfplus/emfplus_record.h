@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "metafile/byte_view.h"
+#include "metafile/emfplus/emfplus_record_type.h"
 
 namespace kelvane {
 inline namespace metafile {
@@ -15,8 +16,7 @@ struct EmfPlusRecord {
   ByteView data;
 };
 
-inline constexpr std::uint16_t kEmfPlusHeader = 0x4001;    // type of the first of them
-inline constexpr std::uint16_t kEmfPlusDualFlag = 0x0001;  // of that: EMF has the picture, too
+inline constexpr std::uint16_t kEmfPlusDualFlag = 0x0001;  // of a header: EMF has the picture, too
 
 /// @param data  an EMF+ comment's. Loses the record.
 /// @return the next record; nothing when no whole one is left.

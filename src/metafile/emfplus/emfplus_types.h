@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "metafile/byte_view.h"
@@ -59,6 +61,13 @@ std::vector<PointF> ReadEmfPlusPoints(ByteView& bytes, std::size_t count, EmfPlu
 std::vector<RectF> ReadEmfPlusRectangles(ByteView& bytes, std::size_t count,
                                          EmfPlusNumbers numbers);
 RectF ReadEmfPlusRectangle(ByteView& bytes, EmfPlusNumbers numbers);
+
+/// @return what was read of the bytes, unless they were too short for it.
+template <class T>
+std::optional<T> UnlessShort(const ByteView& bytes, T read) {
+  if (bytes.IsShort()) return std::nullopt;
+  return std::optional<T>(std::move(read));
+}
 
 }  // namespace metafile
 }  // namespace kelvane
