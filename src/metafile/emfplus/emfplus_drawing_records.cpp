@@ -48,11 +48,6 @@ std::vector<PointF> ReadPoints(ByteView& data, const EmfPlusRecord& record) {
   return ReadEmfPlusPoints(data, data.Read<std::uint32_t>(), numbers);
 }
 
-std::u16string ReadUnits(ByteView& data, std::size_t count) {
-  const auto units = data.Array<char16_t>(count);
-  return {units.begin(), units.end()};
-}
-
 /// Some writers store no place but the first when there is no need for more.
 std::size_t StoredPlaces(const ByteView& data, std::uint32_t options, std::size_t values,
                          bool hasMatrix) {
@@ -178,7 +173,7 @@ std::optional<EmfPlusDrawString> DecodeEmfPlusDrawString(const EmfPlusRecord& re
       SlotOf(record), ReadBrushUse(data, record), data.Read<EmfPlusSlot>(), {}, {}};
   const auto length = data.Read<std::uint32_t>();
   string.layout = data.Read<RectF>();
-  string.text = ReadUnits(data, length);
+  string.text = ReadEmfPlusText(data, length);
   return UnlessShort(data, std::move(string));
 }
 
@@ -188,7 +183,7 @@ std::optional<EmfPlusDrawDriverString> DecodeEmfPlusDrawDriverString(const EmfPl
       SlotOf(record), ReadBrushUse(data, record), data.Read<std::uint32_t>(), {}, {}, {}};
   const bool hasMatrix = data.Read<std::uint32_t>() != 0;
   const auto count = data.Read<std::uint32_t>();
-  string.values = ReadUnits(data, count);
+  string.values = ReadEmfPlusText(data, count);
   string.places =
       ReadEmfPlusPoints(data, StoredPlaces(data, string.options, string.values.size(), hasMatrix),
                         EmfPlusNumbers::kFloats);

@@ -176,6 +176,15 @@ enum class EmfPlusPixelFormat : std::uint32_t {
   k64PremultipliedArgbByItsBits = 0x001C400E
 };
 
+constexpr unsigned EmfPlusBitsPerPixel(EmfPlusPixelFormat format) {
+  return static_cast<std::uint32_t>(format) >> 8 & 0xFF;
+}
+
+/// @return whether pixels number the colours of a palette.
+constexpr bool IsEmfPlusIndexed(EmfPlusPixelFormat format) {
+  return (static_cast<std::uint32_t>(format) & 0x00010000) != 0;
+}
+
 enum class EmfPlusMetafileType : std::uint32_t {
   kWmf = 1,
   kPlaceableWmf = 2,

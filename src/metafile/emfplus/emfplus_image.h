@@ -31,7 +31,10 @@ struct EmfPlusImageFile {
 /// EmfPlusMetafile ([MS-EMFPLUS] 2.2.2.27).
 struct EmfPlusMetafile {
   EmfPlusMetafileType type{};
-  std::span<const unsigned char> bytes;  // a whole file; borrowed from the object's bytes
+
+  // Borrowed from the object's bytes: a whole file; of kPlaceableWmf what follows its first header.
+  std::span<const unsigned char> bytes;
+  std::span<const unsigned char> placeableHeader;  // of kPlaceableWmf
 };
 
 /// EmfPlusImage ([MS-EMFPLUS] 2.2.1.4).

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -43,7 +44,7 @@ class EmfPlusObjectAssembler {
   enum class Progress : std::uint8_t {
     kWhole,    // an object is there
     kPending,  // more pieces are to come
-    kBroken,   // it has no slot, or more pieces than it said
+    kBroken,   // it has no slot, or its pieces make more or less than they said
   };
 
   /// @param record  of type kEmfPlusObject. @param stored  gets the object when there is one.
@@ -53,9 +54,16 @@ class EmfPlusObjectAssembler {
   void Drop();
 
  private:
-  std::uint16_t flags_ = 0;  // of the pieces that wait
-  std::size_t total_ = 0;    // bytes that they will be
-  std::vector<unsigned char> pieces_;
+  struct Pieces {
+    std::uint16_t flags;  // of all the records
+    std::size_t total;    // bytes that they will be
+    std::vector<unsigned char> bytes;
+  };
+
+  void Expect(std::uint16_t flags, std::size_t total);
+  Progress AddPiece(ByteView data, bool mayBeFollowed, EmfPlusStoredObject& stored);
+
+  std::optional<Pieces> waiting_;
 };
 
 /// @param bytes  an object from its version on.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -151,8 +150,6 @@ struct EmfPlusOffsetClip {
   float y = 0;
 };
 std::optional<EmfPlusOffsetClip> DecodeEmfPlusOffsetClip(const EmfPlusRecord& record);
-
-using EmfPlusGuid = std::array<unsigned char, 16>;  // as it is stored
 
 /// An effect for the image that is drawn next.
 struct EmfPlusSerializableObject {

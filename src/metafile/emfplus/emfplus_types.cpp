@@ -87,5 +87,16 @@ RectF ReadEmfPlusRectangle(ByteView& bytes, EmfPlusNumbers numbers) {
                                               : bytes.Read<RectF>();
 }
 
+void ReadEmfPlusVersion(ByteView& bytes) {
+  constexpr std::uint32_t kSignature = 0xDBC01;
+  constexpr unsigned kVersionBits = 12;  // which GDI+ it was
+  if (bytes.Read<std::uint32_t>() >> kVersionBits != kSignature) bytes.Fail();
+}
+
+std::u16string ReadEmfPlusText(ByteView& bytes, std::size_t length) {
+  const ArrayView<char16_t> units = bytes.Array<char16_t>(length);
+  return {units.begin(), units.end()};
+}
+
 }  // namespace metafile
 }  // namespace kelvane

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -47,6 +49,9 @@ struct Argb {
   friend bool operator==(const Argb&, const Argb&) = default;
 };
 
+/// 16 bytes, as they are stored.
+using EmfPlusGuid = std::array<unsigned char, 16>;
+
 /// How coordinates are stored.
 enum class EmfPlusNumbers : std::uint8_t {
   kFloats,
@@ -61,6 +66,20 @@ std::vector<PointF> ReadEmfPlusPoints(ByteView& bytes, std::size_t count, EmfPlu
 std::vector<RectF> ReadEmfPlusRectangles(ByteView& bytes, std::size_t count,
                                          EmfPlusNumbers numbers);
 RectF ReadEmfPlusRectangle(ByteView& bytes, EmfPlusNumbers numbers);
+
+/// What the objects begin with ([MS-EMFPLUS] 2.2.2.19). Fails the view when it is no version of
+/// EMF+.
+void ReadEmfPlusVersion(ByteView& bytes);
+
+/// @return the values that are there; the view is left short when they are fewer than `count`.
+template <class T>
+std::vector<T> ReadEmfPlusList(ByteView& bytes, std::size_t count) {
+  const ArrayView<T> stored = bytes.Array<T>(count);
+  return std::vector<T>(stored.begin(), stored.end());
+}
+
+/// UTF-16 units; as ReadEmfPlusList.
+std::u16string ReadEmfPlusText(ByteView& bytes, std::size_t length);
 
 /// @return what was read of the bytes, unless they were too short for it.
 template <class T>
