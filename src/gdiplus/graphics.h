@@ -1,12 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <map>
+#include <tuple>
 #include <vector>
 
 #include "gdi/canvas.h"
 #include "gdi/shortfall.h"
 #include "gdi/steps.h"
 #include "gdiplus/graphics_state.h"
+#include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
@@ -14,6 +18,9 @@ class FontBook;
 }
 
 namespace kelvane::gdiplus {
+
+/// An image by its bytes and how they are taken: where, how many, width, stride, smoothing.
+using ImageKey = std::tuple<const unsigned char*, std::size_t, std::size_t, std::size_t, bool>;
 
 /// What a picture of EMF+ is played on. The functions of gdiplus/ are those of GDI+ by their names.
 struct Graphics {
@@ -37,6 +44,8 @@ struct Graphics {
 
   /// What has not come out as it should, for whoever reports it, and clears it.
   Shortfalls shortfalls;
+
+  std::map<ImageKey, CFOwned<const CGImage>> images;  // that were made, see ImageFrom
 
   /// What clipping may still take, as in a device context.
   Steps clipSteps{1U << 23};

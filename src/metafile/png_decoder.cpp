@@ -14,6 +14,8 @@ inline namespace metafile {
 namespace {
 
 constexpr std::uint32_t kMostPixelsASide = 0x7FFFFFFF;
+constexpr std::size_t kRgbChannels = 3;
+constexpr std::size_t kRgbaChannels = 4;
 constexpr std::size_t kMostBytesOfAChunk = std::size_t{1} << 20;  // of those that are kept
 
 std::uint32_t ReadBigEndian32(ByteView& bytes) {
@@ -28,8 +30,9 @@ struct PngDecoding {
   ByteView bytes;  // of the file, still to be read
   PngHeader header;
   PixelRectangle part;
+  std::size_t channels;        // 3, or 4 with alpha
   unsigned char* rows;         // one of the whole width; of an interlaced file all of them
-  unsigned char* rgb;          // of the part
+  unsigned char* pixels;       // of the part
   std::size_t rowsOfPart = 0;  // that are complete
 };
 
@@ -53,11 +56,16 @@ void SetLimits(png_structp png) {
   png_set_keep_unknown_chunks(png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
 }
 
-void AskForRgb(png_structp png) {
+void AskForRgb(png_structp png, bool withAlpha) {
+  constexpr png_uint_32 kOpaque = 255;
   png_set_expand(png);
   png_set_scale_16(png);
-  png_set_strip_alpha(png);
   png_set_gray_to_rgb(png);
+  if (withAlpha) {
+    png_set_add_alpha(png, kOpaque, PNG_FILLER_AFTER);
+  } else {
+    png_set_strip_alpha(png);
+  }
 }
 
 /// Reads rows of the last pass, which is the only one of most files.
@@ -67,8 +75,9 @@ void ReadPart(png_structp png, PngDecoding& decoding, std::size_t rowSize) {
     unsigned char* row = decoding.rows + (decoding.header.isInterlaced ? y * rowSize : 0);
     png_read_row(png, row, nullptr);
     if (y < part.top) continue;
-    unsigned char* to = decoding.rgb + 3 * part.width * decoding.rowsOfPart++;
-    std::copy_n(row + 3 * part.left, 3 * part.width, to);
+    const std::size_t size = decoding.channels * part.width;
+    unsigned char* to = decoding.pixels + size * decoding.rowsOfPart++;
+    std::copy_n(row + decoding.channels * part.left, size, to);
   }
 }
 
@@ -76,10 +85,10 @@ void ReadPng(png_structp png, png_infop info, PngDecoding& decoding) {
   png_set_read_fn(png, &decoding, ReadBytes);
   SetLimits(png);
   png_read_info(png, info);
-  AskForRgb(png);
+  AskForRgb(png, decoding.channels == kRgbaChannels);
   const int passes = png_set_interlace_handling(png);
   png_read_update_info(png, info);
-  const std::size_t rowSize = std::size_t{3} * decoding.header.width;
+  const std::size_t rowSize = decoding.channels * decoding.header.width;
   if (png_get_rowbytes(png, info) != rowSize) return;
   for (int pass = 1; pass < passes; ++pass) {
     for (std::size_t y = 0; y < decoding.header.height; ++y)
@@ -91,6 +100,25 @@ void ReadPng(png_structp png, png_infop info, PngDecoding& decoding) {
 /// The library leaves an error by a jump to here, so nothing that it jumps over has a destructor.
 void ReadPngUntilItFails(png_structp png, png_infop info, PngDecoding& decoding) {
   if (setjmp(png_jmpbuf(png)) == 0) ReadPng(png, info, decoding);
+}
+
+std::optional<std::vector<unsigned char>> DecodePixels(std::span<const unsigned char> file,
+                                                       const PixelRectangle& part,
+                                                       std::size_t channels) {
+  const std::optional<PngHeader> header = ReadPngHeader(file);
+  if (!header) return std::nullopt;
+  const std::size_t rowsAtOnce = header->isInterlaced ? header->height : 1;
+  std::vector<unsigned char> rows(channels * std::size_t{header->width} * rowsAtOnce);
+  std::vector<unsigned char> pixels(channels * part.width * part.height);
+  PngDecoding decoding = {ByteView(file), *header, part, channels, rows.data(), pixels.data()};
+  png_structp png =
+      png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, FailPng, IgnorePngWarning);
+  if (png == nullptr) return std::nullopt;
+  png_infop info = png_create_info_struct(png);
+  if (info != nullptr) ReadPngUntilItFails(png, info, decoding);
+  png_destroy_read_struct(&png, &info, nullptr);
+  if (decoding.rowsOfPart == 0) return std::nullopt;
+  return pixels;
 }
 
 }  // namespace
@@ -117,20 +145,12 @@ std::optional<PngHeader> ReadPngHeader(std::span<const unsigned char> file) {
 
 std::optional<std::vector<unsigned char>> DecodePng(std::span<const unsigned char> file,
                                                     const PixelRectangle& part) {
-  const std::optional<PngHeader> header = ReadPngHeader(file);
-  if (!header) return std::nullopt;
-  const std::size_t rowsAtOnce = header->isInterlaced ? header->height : 1;
-  std::vector<unsigned char> rows(3 * std::size_t{header->width} * rowsAtOnce);
-  std::vector<unsigned char> rgb(3 * part.width * part.height);
-  PngDecoding decoding = {ByteView(file), *header, part, rows.data(), rgb.data()};
-  png_structp png =
-      png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, FailPng, IgnorePngWarning);
-  if (png == nullptr) return std::nullopt;
-  png_infop info = png_create_info_struct(png);
-  if (info != nullptr) ReadPngUntilItFails(png, info, decoding);
-  png_destroy_read_struct(&png, &info, nullptr);
-  if (decoding.rowsOfPart == 0) return std::nullopt;
-  return rgb;
+  return DecodePixels(file, part, kRgbChannels);
+}
+
+std::optional<std::vector<unsigned char>> DecodePngWithAlpha(std::span<const unsigned char> file,
+                                                             const PixelRectangle& part) {
+  return DecodePixels(file, part, kRgbaChannels);
 }
 
 }  // namespace metafile

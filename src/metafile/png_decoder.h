@@ -27,5 +27,10 @@ std::optional<PngHeader> ReadPngHeader(std::span<const unsigned char> file);
 std::optional<std::vector<unsigned char>> DecodePng(std::span<const unsigned char> file,
                                                     const PixelRectangle& part);
 
+/// As DecodePng, with a fourth byte: alpha, by which the colours are not multiplied. Rows that a
+/// damaged file lacks are transparent.
+std::optional<std::vector<unsigned char>> DecodePngWithAlpha(std::span<const unsigned char> file,
+                                                             const PixelRectangle& part);
+
 }  // namespace metafile
 }  // namespace kelvane

@@ -1,0 +1,159 @@
+#include "gdiplus/image_pixels.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <initializer_list>
+#include <optional>
+#include <span>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "gdiplus/pixel_formats.h"
+#include "metafile/jpeg_header.h"
+#include "metafile/png_decoder.h"
+#include "platform/quartz/cg_data_provider.h"
+
+namespace kelvane::gdiplus {
+namespace {
+
+using ImageBytes = std::vector<unsigned char>;
+using OwnedImage = CFOwned<const CGImage>;
+
+constexpr std::size_t kRgba = 4;
+constexpr std::size_t kMostPixelsOfAnImage = std::size_t{1} << 40;  // so that bytes can be counted
+constexpr unsigned char kOpaque = 255;
+
+struct ImageSize {
+  std::size_t width;
+  std::size_t height;
+};
+
+CFOwned<const CGDataProvider> ProviderOf(ImageBytes bytes) {
+  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
+  data->bytes = std::move(bytes);
+  return CFOwned<const CGDataProvider>(CGDataProviderCreateWithCFData(data.get()));
+}
+
+/// @param bytes  8 bits a component, without padding.
+OwnedImage PlainImage(ImageSize size, const CGColorSpace& space, ImageBytes bytes, bool isSmooth) {
+  const std::size_t rowSize = size.width * space.components;
+  return OwnedImage(CGImageCreate(size.width, size.height, 8, 8 * space.components, rowSize, &space,
+                                  0, ProviderOf(std::move(bytes)).get(), nullptr, isSmooth,
+                                  kCGRenderingIntentDefault));
+}
+
+OwnedImage ImageOfRgba(ImageSize size, const ImageBytes& rgba, bool isSmooth) {
+  ImageBytes rgb;
+  ImageBytes alpha;
+  rgb.reserve(rgba.size() / kRgba * 3);
+  alpha.reserve(rgba.size() / kRgba);
+  for (std::size_t i = 0; i + kRgba <= rgba.size(); i += kRgba) {
+    rgb.insert(rgb.end(), {rgba[i], rgba[i + 1], rgba[i + 2]});
+    alpha.push_back(rgba[i + 3]);
+  }
+  const CFOwned<const CGColorSpace> colors(CGColorSpaceCreateDeviceRGB());
+  OwnedImage image = PlainImage(size, *colors, std::move(rgb), isSmooth);
+  const auto isOpaque = [](unsigned char a) { return a == kOpaque; };
+  if (image == nullptr || std::ranges::all_of(alpha, isOpaque)) return image;
+  const CFOwned<const CGColorSpace> gray(CGColorSpaceCreateDeviceGray());
+  const OwnedImage mask = PlainImage(size, *gray, std::move(alpha), isSmooth);
+  return OwnedImage(CGImageCreateWithMask(image.get(), mask.get()));
+}
+
+bool AffordPixels(Graphics& graphics, ImageSize size) {
+  const bool isSmall = size.width <= kMostPixelsOfAnImage / size.height;
+  if (isSmall && graphics.canvas->AffordPixels(kRgba * size.width * size.height)) return true;
+  graphics.shortfalls.Add(Shortfall::kBitmapTooLarge);
+  return false;
+}
+
+OwnedImage Unreadable(Graphics& graphics) {
+  graphics.shortfalls.Add(Shortfall::kUnreadableBitmap);
+  return nullptr;
+}
+
+bool IsSmooth(const Graphics& graphics) {
+  return graphics.state.interpolation != EmfPlusInterpolationMode::kNearestNeighbor;
+}
+
+/// Pixels in colours of a palette stay the numbers that they are.
+OwnedImage IndexedImage(const EmfPlusPixels& pixels, unsigned bits, bool isSmooth) {
+  const std::size_t count = std::size_t{1} << bits;
+  ImageBytes table(3 * count);
+  for (std::size_t i = 0; i < std::min(count, pixels.palette.size()); ++i) {
+    const Argb& color = pixels.palette[i];
+    std::ranges::copy(std::initializer_list{color.red, color.green, color.blue},
+                      table.begin() + static_cast<std::ptrdiff_t>(3 * i));
+  }
+  const CFOwned<const CGColorSpace> base(CGColorSpaceCreateDeviceRGB());
+  const CFOwned<const CGColorSpace> space(
+      CGColorSpaceCreateIndexed(base.get(), count - 1, table.data()));
+  return OwnedImage(CGImageCreate(pixels.width, pixels.height, bits, bits, pixels.stride,
+                                  space.get(), 0,
+                                  ProviderOf({pixels.rows.begin(), pixels.rows.end()}).get(),
+                                  nullptr, isSmooth, kCGRenderingIntentDefault));
+}
+
+OwnedImage ImageOf(Graphics& graphics, const EmfPlusPixels& pixels) {
+  const unsigned bits = BitsOf(pixels.format);
+  const bool isOpaque =
+      std::ranges::all_of(pixels.palette, [](Argb color) { return color.alpha == kOpaque; });
+  if (bits >= 1 && bits <= 8 && isOpaque) {
+    OwnedImage image = IndexedImage(pixels, bits, IsSmooth(graphics));
+    return image != nullptr ? std::move(image) : Unreadable(graphics);
+  }
+  const ImageSize size = {pixels.width, pixels.height};
+  if (size.width == 0 || size.height == 0) return Unreadable(graphics);
+  if (!AffordPixels(graphics, size)) return nullptr;
+  const auto rgba = RgbaOf(pixels);
+  return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
+}
+
+OwnedImage PngImage(Graphics& graphics, std::span<const unsigned char> file,
+                    const PngHeader& header) {
+  if (!AffordPixels(graphics, {header.width, header.height})) return nullptr;
+  const auto rgba = DecodePngWithAlpha(file, {0, 0, header.width, header.height});
+  return rgba ? ImageOfRgba({header.width, header.height}, *rgba, IsSmooth(graphics))
+              : Unreadable(graphics);
+}
+
+OwnedImage ImageOf(Graphics& graphics, const EmfPlusImageFile& image) {
+  const std::span<const unsigned char> file = image.bytes;
+  if (const auto png = ReadPngHeader(file)) return PngImage(graphics, file, *png);
+  if (const auto jpeg = ReadJpegHeader(file)) {
+    return OwnedImage(CGImageCreateWithJPEG(jpeg->width, jpeg->height, jpeg->components,
+                                            ProviderOf({file.begin(), file.end()}).get(),
+                                            IsSmooth(graphics)));
+  }
+  return Unreadable(graphics);
+}
+
+ImageKey KeyOf(const EmfPlusPixels& pixels, bool isSmooth) {
+  return {pixels.rows.data(), pixels.rows.size(), pixels.width, pixels.stride, isSmooth};
+}
+
+ImageKey KeyOf(const EmfPlusImageFile& file, bool isSmooth) {
+  return {file.bytes.data(), file.bytes.size(), 0, 0, isSmooth};
+}
+
+template <class Image>
+OwnedImage Remembered(Graphics& graphics, const Image& image) {
+  const ImageKey key = KeyOf(image, IsSmooth(graphics));
+  const auto known = graphics.images.find(key);
+  if (known != graphics.images.end()) return CFShare(known->second.get());
+  OwnedImage made = ImageOf(graphics, image);
+  if (made != nullptr) graphics.images.emplace(key, CFShare(made.get()));
+  return made;
+}
+
+}  // namespace
+
+CFOwned<const CGImage> ImageFrom(Graphics& graphics, const EmfPlusImage& image) {
+  if (graphics.canvas == nullptr) return nullptr;
+  if (const auto* pixels = std::get_if<EmfPlusPixels>(&image)) return Remembered(graphics, *pixels);
+  if (const auto* file = std::get_if<EmfPlusImageFile>(&image)) return Remembered(graphics, *file);
+  return nullptr;
+}
+
+}  // namespace kelvane::gdiplus
