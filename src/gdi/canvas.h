@@ -42,6 +42,9 @@ class Canvas {
   [[nodiscard]] CGContext& Surface() { return surface_; }
   [[nodiscard]] const CGAffineTransform& DeviceToPage() const { return deviceToPage_; }
 
+  /// All that can be seen, device units.
+  [[nodiscard]] const RectangleD& Whole() const { return whole_; }
+
   /// Makes a path in device units the surface's current path.
   /// @param path  empty afterwards, with memory for the next one.
   void Load(CGPath& path);
