@@ -4,7 +4,7 @@ namespace kelvane::gdiplus {
 namespace {
 
 /// Device units in a unit of the page, at so many dots per inch.
-double PixelsIn(EmfPlusUnit unit, double dotsPerInch) {
+double PixelsAt(EmfPlusUnit unit, double dotsPerInch) {
   switch (unit) {
     case EmfPlusUnit::kPoint:
       return dotsPerInch / 72;
@@ -24,11 +24,23 @@ double PixelsIn(EmfPlusUnit unit, double dotsPerInch) {
 
 }  // namespace
 
-TransformD PageToDevice(const Graphics& graphics) {
+TransformD Exactly(const XForm& matrix) {
+  return {matrix.eM11, matrix.eM12, matrix.eM21, matrix.eM22, matrix.eDx, matrix.eDy};
+}
+
+PointD PixelsIn(const Graphics& graphics, EmfPlusUnit unit) {
+  return {PixelsAt(unit, graphics.resolution.x), PixelsAt(unit, graphics.resolution.y)};
+}
+
+TransformD UnitToDevice(const Graphics& graphics, EmfPlusUnit unit) {
   const GraphicsState& state = graphics.state;
-  const double x = state.pageScale * PixelsIn(state.pageUnit, graphics.resolution.x);
-  const double y = state.pageScale * PixelsIn(state.pageUnit, graphics.resolution.y);
-  return TransformD{x, 0, 0, y, 0, 0}.Then(state.container);
+  const PointD pixels = PixelsIn(graphics, unit);
+  return TransformD{state.pageScale * pixels.x, 0, 0, state.pageScale * pixels.y, 0, 0}.Then(
+      state.container);
+}
+
+TransformD PageToDevice(const Graphics& graphics) {
+  return UnitToDevice(graphics, graphics.state.pageUnit);
 }
 
 TransformD WorldToDevice(const Graphics& graphics) {

@@ -11,6 +11,7 @@
 #include "gdi/steps.h"
 #include "gdiplus/graphics_state.h"
 #include "platform/quartz/cg_image.h"
+#include "gdiplus/labelled_states.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
@@ -27,18 +28,13 @@ struct Graphics {
   /// @param target  borrowed; without one nothing is drawn. @param dotsPerInch  of the device.
   Graphics(Canvas* target, PointD dotsPerInch) : canvas(target), resolution(dotsPerInch) {}
 
-  struct Saved {
-    std::uint32_t label;  // that the file chose; may be there more than once
-    GraphicsState state;
-  };
-
   Canvas* canvas;             // null draws nothing
   FontBook* fonts = nullptr;  // null writes nothing
   bool outlinesText = false;  // glyphs become shapes
   PointD resolution;          // dots per inch
 
   GraphicsState state;
-  std::vector<Saved> saved;  // by Save and by containers, outermost first
+  LabelledStates saved;  // by Save and by containers
 
   CGPath scratch;  // of the call at hand; kept for its memory
 
@@ -51,10 +47,21 @@ struct Graphics {
   Steps clipSteps{1U << 23};
 };
 
+/// A matrix of a file in the numbers that geometry is computed in.
+TransformD Exactly(const XForm& matrix);
+
+/// Device units in a unit along both axes, without page scale and containers.
+PointD PixelsIn(const Graphics& graphics, EmfPlusUnit unit);
+
+/// From lengths of the page in some unit to device units, containers included. World units count
+/// as pixels of the page.
+TransformD UnitToDevice(const Graphics& graphics, EmfPlusUnit unit);
+
 /// From page units to device units, containers included.
 TransformD PageToDevice(const Graphics& graphics);
 
-/// From world units to device units.
+/// From world units to device units. Where pixels have their middles, which differs by the pixel
+/// offset, is less than what can be seen on a page: a coordinate lies where it is, as in GDI.
 TransformD WorldToDevice(const Graphics& graphics);
 
 /// Cuts the page to the clip there is. @return false when nothing can be seen.

@@ -23,6 +23,9 @@ struct GraphicsState {
   EmfPlusInterpolationMode interpolation = EmfPlusInterpolationMode::kDefault;
   EmfPlusPixelOffsetMode pixelOffset = EmfPlusPixelOffsetMode::kDefault;
   EmfPlusCompositingMode compositing = EmfPlusCompositingMode::kSourceOver;
+
+  /// True of states that come from one another; others may be equal without it.
+  friend bool operator==(const GraphicsState&, const GraphicsState&) = default;
 };
 
 }  // namespace kelvane::gdiplus
