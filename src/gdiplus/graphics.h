@@ -10,8 +10,8 @@
 #include "gdi/shortfall.h"
 #include "gdi/steps.h"
 #include "gdiplus/graphics_state.h"
-#include "platform/quartz/cg_image.h"
 #include "gdiplus/labelled_states.h"
+#include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {

@@ -18,10 +18,11 @@ namespace kelvane::gdiplus {
 using PlayMetafile =
     std::function<bool(const EmfPlusMetafile& metafile, const TransformD& unitToDevice)>;
 
-/// Draws a part of an image.
+/// Draws a part of an image. Of a metafile that is all of it.
 /// @param source      the part, pixels.
 /// @param corners     where its upper left, upper right and lower left corner go, world units.
-/// @param attributes  null for none.
+/// @param attributes  null for none. No file is known in which more than half a pixel of the part
+///                    lies beyond the image, so how edges wrap makes no difference here.
 void DrawImage(Graphics& graphics, const EmfPlusImage& image, const RectF& source,
                const std::array<PointF, 3>& corners, const EmfPlusImageAttributes* attributes,
                const PlayMetafile& play);
