@@ -9,6 +9,7 @@
 
 #include "platform/pdf/pdf_content.h"
 #include "platform/pdf/pdf_font_choice.h"
+#include "platform/pdf/pdf_group.h"
 #include "platform/pdf/pdf_image.h"
 #include "platform/pdf/pdf_pattern.h"
 #include "platform/pdf/pdf_resources.h"
@@ -109,7 +110,21 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   }
 
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
-    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
+    const CGSharedPattern& pattern = Fills(mode) ? State().fillPattern : State().strokePattern;
+    if (Fills(mode) && Strokes(mode) && (IsVeiled(pattern) || IsVeiled(State().strokePattern))) {
+      PathPainted(path, mode == kCGPathEOFillStroke ? kCGPathEOFill : kCGPathFill);
+      PathPainted(path, kCGPathStroke);
+    } else if (Fills(mode) && IsMixedMesh(pattern)) {
+      FillWithMesh(path, mode == kCGPathEOFill, pattern);
+    } else {
+      BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
+      BeginVeil(pattern);
+      WritePath(path, mode);
+      EndVeil(pattern);
+    }
+  }
+
+  void WritePath(const CGPath& path, CGPathDrawingMode mode) {
     const CGStrokeGeometry stroke = StrokeGeometry(State());
     if (!Strokes(mode) || !stroke.throughTransform) {
       content_.Path(path);
@@ -136,13 +151,30 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 
   void ShadingDrawn(const CGShading& shading) override {
     BeginMark({}, State());
-    const bool isMixed = State().alpha != 1 || State().blendMode != kCGBlendModeNormal;
-    const auto* const mesh = std::get_if<CGTriangleMesh>(&shading);
-    if (isMixed && mesh != nullptr) {
-      content_.DrawXObject(resources_.NameOf(AddMeshGroup(writer_, *mesh), kPdfForm));
+    const bool isVeiled = !IsOpaque(shading);
+    if (isVeiled) content_.Save();
+    if (isVeiled) content_.GraphicsState(VeilOf({shading, {}, mediaBox_}));
+    if ((isVeiled || IsMixed()) && std::holds_alternative<CGTriangleMesh>(shading)) {
+      content_.DrawXObject(GroupOf({shading, {}, mediaBox_}));
     } else {
       content_.Shade(resources_.NameOf(AddShading(writer_, shading), kPdfShading));
     }
+    if (isVeiled) content_.Restore();
+  }
+
+  /// Whether the state mixes marks with what lies below them.
+  [[nodiscard]] bool IsMixed() const {
+    return State().alpha != 1 || State().blendMode != kCGBlendModeNormal;
+  }
+
+  /// @return the name of the state that lets marks through by a shading's alpha.
+  const std::string& VeilOf(const PdfPlacedShading& placed) {
+    const auto group = AddShadingGroup(writer_, placed, PdfChannels::kAlpha);
+    return resources_.NameOf(AddMaskState(writer_, group), kPdfGraphicsState);
+  }
+
+  const std::string& GroupOf(const PdfPlacedShading& placed) {
+    return resources_.NameOf(AddShadingGroup(writer_, placed), kPdfForm);
   }
 
   void GlyphsDrawn(const CGGlyphRun& run) override {
@@ -152,11 +184,14 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
       BeginMark({.text = true}, State());
     }
     if (run.font != font_.face) SetFont(run.font);
+    const CGSharedPattern& pattern = State().fillPattern;
+    BeginVeil(pattern);
     const PdfTextStyle style = {*font_.name, font_.font->CodeSize(), run.size, run.matrix};
     for (const CGPositionedGlyph& glyph : run.glyphs) {
       const PdfFont::Code code = font_.font->Encode(glyph.glyph, glyph.text);
       content_.ShowGlyph(style, glyph.origin, code.value, code.width);
     }
+    EndVeil(pattern);
   }
 
   /// A face as the page knows it. What it points to stays until the page ends.
@@ -203,6 +238,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     content_.Restore();
   }
 
+  // A state has one soft mask: a shading's alpha gives way to the stencil.
   void FillThrough(const QPDFObjectHandle& stencil, const CGAffineTransform& matrix) {
     CGPath square;
     square.AddMappedRectangle({{0, 0}, {1, 1}}, matrix);
@@ -230,10 +266,10 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   void FillColor(const CGColor& color) override { content_.FillColor(color); }
   void StrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
   void FillPattern(const CGSharedPattern& pattern) override {
-    content_.FillPattern(NameOf(pattern));
+    content_.FillPattern(*UseOf(pattern).name);
   }
   void StrokePattern(const CGSharedPattern& pattern) override {
-    content_.StrokePattern(NameOf(pattern));
+    content_.StrokePattern(*UseOf(pattern).name);
   }
   void LineWidth(CGFloat width) override { content_.LineWidth(width); }
   void LineCap(CGLineCap cap) override { content_.LineCap(cap); }
@@ -247,13 +283,59 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
         resources_.NameOf(writer_.AddGraphicsState(compositing), kPdfGraphicsState));
   }
 
-  /// Kept with its name, so that no other pattern can come to lie where it was.
-  const std::string& NameOf(const CGSharedPattern& pattern) {
+  /// A pattern as the page knows it. Names stay until the page ends.
+  struct PagePattern {
+    const std::string* name = nullptr;
+    const std::string* veil = nullptr;   // the state of its alpha; null where it is opaque
+    const std::string* group = nullptr;  // its mesh; null until it is needed
+  };
+
+  /// Kept with its names, so that no other pattern can come to lie where it was.
+  PagePattern& UseOf(const CGSharedPattern& pattern) {
     const auto [entry, isNew] = patterns_.try_emplace(pattern);
+    PagePattern& use = entry->second;
     if (isNew) {
-      entry->second = resources_.NameOf(AddPattern(writer_, *pattern, images_), kPdfPattern);
+      use.name = &resources_.NameOf(AddPattern(writer_, *pattern, images_), kPdfPattern);
+      if (pattern->shading && !IsOpaque(*pattern->shading)) use.veil = &VeilOf(PlaceOf(*pattern));
     }
-    return entry->second;
+    return use;
+  }
+
+  [[nodiscard]] PdfPlacedShading PlaceOf(const CGPattern& pattern) const {
+    return {*pattern.shading, pattern.matrix, mediaBox_};
+  }
+
+  /// @param pattern  may be null, as in the next three.
+  bool IsVeiled(const CGSharedPattern& pattern) {
+    return pattern != nullptr && pattern->shading && UseOf(pattern).veil != nullptr;
+  }
+
+  void BeginVeil(const CGSharedPattern& pattern) {
+    if (!IsVeiled(pattern)) return;
+    content_.Save();
+    content_.GraphicsState(*UseOf(pattern).veil);
+  }
+  void EndVeil(const CGSharedPattern& pattern) {
+    if (IsVeiled(pattern)) content_.Restore();
+  }
+
+  /// A mesh that is mixed with what lies below it needs its group.
+  bool IsMixedMesh(const CGSharedPattern& pattern) {
+    return pattern != nullptr && pattern->shading &&
+           std::holds_alternative<CGTriangleMesh>(*pattern->shading) &&
+           (IsMixed() || IsVeiled(pattern));
+  }
+
+  void FillWithMesh(const CGPath& path, bool isEvenOdd, const CGSharedPattern& pattern) {
+    BeginMark({}, State());
+    PagePattern& use = UseOf(pattern);
+    if (use.group == nullptr) use.group = &GroupOf(PlaceOf(*pattern));
+    content_.Save();
+    if (use.veil != nullptr) content_.GraphicsState(*use.veil);
+    content_.Path(path);
+    content_.Clip(isEvenOdd);
+    content_.DrawXObject(*use.group);
+    content_.Restore();
   }
 
   // Marks mix with what lies below them, which is nothing on a bare page: it does what it likes.
@@ -284,7 +366,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   CGClipWriter clips_;      // of the content
   CGValueWriter values_;    // of the content
   PdfResources resources_;  // of the page
-  std::map<CGSharedPattern, std::string> patterns_;
+  std::map<CGSharedPattern, PagePattern> patterns_;
   PageFont font_;           // of the last glyphs
   bool isBlended_ = false;  // a mark on the page is mixed with what lies below it
   std::optional<PendingPage> pending_;

@@ -17,4 +17,13 @@ QPDFObjectHandle AddGroup(PdfWriter& writer, std::string_view content,
       form, {reinterpret_cast<const unsigned char*>(content.data()), content.size()});
 }
 
+QPDFObjectHandle AddMaskState(PdfWriter& writer, const QPDFObjectHandle& group) {
+  auto mask = QPDFObjectHandle::newDictionary();
+  mask.replaceKey("/S", QPDFObjectHandle::newName("/Luminosity"));
+  mask.replaceKey("/G", group);
+  auto state = QPDFObjectHandle::newDictionary();
+  state.replaceKey("/SMask", mask);
+  return writer.AddSharedObject(state);
+}
+
 }  // namespace kelvane

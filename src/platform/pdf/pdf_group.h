@@ -19,4 +19,10 @@ namespace kelvane {
 QPDFObjectHandle AddGroup(PdfWriter& writer, std::string_view content,
                           const PdfResources& resources, const CGRect& box);
 
+/// @param group  grey, in page space.
+/// @return a graphics state that lets marks through where the group is light (ISO 32000-1,
+///         11.6.5.3), to be set in page space; the same one for the same group. Throws as the
+///         writer does.
+QPDFObjectHandle AddMaskState(PdfWriter& writer, const QPDFObjectHandle& group);
+
 }  // namespace kelvane

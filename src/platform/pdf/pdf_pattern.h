@@ -9,8 +9,9 @@
 namespace kelvane {
 
 /// @param images  of the document; gains the pattern's.
-/// @return the pattern as a tiling pattern of the document, a coloured one (ISO 32000-1, 8.7.3).
-///         Throws as the writer does.
+/// @return the pattern as one of the document, a coloured tiling pattern (ISO 32000-1, 8.7.3) or a
+///         shading pattern (8.7.4), without the alpha of its shading; the same one for an equal
+///         pattern. Throws as the writer does.
 QPDFObjectHandle AddPattern(PdfWriter& writer, const CGPattern& pattern, PdfImages& images);
 
 }  // namespace kelvane

@@ -1,6 +1,7 @@
 #include "platform/pdf/pdf_shading.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
@@ -33,8 +34,28 @@ QPDFObjectHandle Numbers(std::initializer_list<double> values) {
   return Numbers(std::span(values.begin(), values.size()));
 }
 
-QPDFObjectHandle ColorArray(const CGColor& color) {
-  return Numbers({color.red, color.green, color.blue});
+/// Those of a colour's numbers that a shading shows.
+class Components {
+ public:
+  Components(const CGColor& color, PdfChannels channels)
+      : values_{color.red, color.green, color.blue},
+        count_(channels == PdfChannels::kColors ? values_.size() : 1) {
+    if (channels == PdfChannels::kAlpha) values_[0] = color.alpha;
+  }
+
+  [[nodiscard]] std::span<const CGFloat> Values() const { return {values_.data(), count_}; }
+
+ private:
+  std::array<CGFloat, 3> values_;
+  std::size_t count_;
+};
+
+QPDFObjectHandle ColorArray(const CGColor& color, PdfChannels channels) {
+  auto array = QPDFObjectHandle::newArray();
+  const Components components(color, channels);
+  for (const CGFloat value : components.Values())
+    array.appendItem(PdfNumber(value));
+  return array;
 }
 
 QPDFObjectHandle NewFunction(FunctionType type) {
@@ -44,10 +65,10 @@ QPDFObjectHandle NewFunction(FunctionType type) {
   return function;
 }
 
-QPDFObjectHandle Between(const CGColor& first, const CGColor& last) {
+QPDFObjectHandle Between(const CGColor& first, const CGColor& last, PdfChannels channels) {
   auto function = NewFunction(kExponential);
-  function.replaceKey("/C0", ColorArray(first));
-  function.replaceKey("/C1", ColorArray(last));
+  function.replaceKey("/C0", ColorArray(first, channels));
+  function.replaceKey("/C1", ColorArray(last, channels));
   function.replaceKey("/N", QPDFObjectHandle::newInteger(1));
   return function;
 }
@@ -61,14 +82,14 @@ std::vector<CGGradientStop> WholeLine(std::vector<CGGradientStop> stops) {
 
 /// @return the colour along the line, from 0 to 1. Stops in one place are an edge, which takes no
 ///         function of its own.
-QPDFObjectHandle ColorFunction(const std::vector<CGGradientStop>& stops) {
+QPDFObjectHandle ColorFunction(const std::vector<CGGradientStop>& stops, PdfChannels channels) {
   auto functions = QPDFObjectHandle::newArray();
   auto bounds = QPDFObjectHandle::newArray();
   auto encode = QPDFObjectHandle::newArray();
   for (std::size_t i = 1; i < stops.size(); ++i) {
     if (stops[i].location == stops[i - 1].location) continue;
     if (functions.getArrayNItems() > 0) bounds.appendItem(PdfNumber(stops[i - 1].location));
-    functions.appendItem(Between(stops[i - 1].color, stops[i].color));
+    functions.appendItem(Between(stops[i - 1].color, stops[i].color, channels));
     encode.appendItem(PdfNumber(0));
     encode.appendItem(PdfNumber(1));
   }
@@ -80,17 +101,19 @@ QPDFObjectHandle ColorFunction(const std::vector<CGGradientStop>& stops) {
   return stitched;
 }
 
-QPDFObjectHandle NewShading(ShadingType type) {
+QPDFObjectHandle NewShading(ShadingType type, PdfChannels channels) {
   auto shading = QPDFObjectHandle::newDictionary();
   shading.replaceKey("/ShadingType", QPDFObjectHandle::newInteger(type));
-  shading.replaceKey("/ColorSpace", QPDFObjectHandle::newName("/DeviceRGB"));
+  shading.replaceKey(
+      "/ColorSpace",
+      QPDFObjectHandle::newName(channels == PdfChannels::kColors ? "/DeviceRGB" : "/DeviceGray"));
   return shading;
 }
 
-QPDFObjectHandle Add(PdfWriter& writer, const CGAxialShading& axial) {
-  auto shading = NewShading(kAxial);
+QPDFObjectHandle Add(PdfWriter& writer, const CGAxialShading& axial, PdfChannels channels) {
+  auto shading = NewShading(kAxial, channels);
   shading.replaceKey("/Coords", Numbers({axial.start.x, axial.start.y, axial.end.x, axial.end.y}));
-  shading.replaceKey("/Function", ColorFunction(WholeLine(axial.stops)));
+  shading.replaceKey("/Function", ColorFunction(WholeLine(axial.stops), channels));
   const auto yes = QPDFObjectHandle::newBool(true);
   shading.replaceKey("/Extend", QPDFObjectHandle::newArray({yes, yes}));
   return writer.AddSharedObject(shading);
@@ -153,7 +176,7 @@ Spans SpansOf(const CGTriangleMesh& mesh) {
   return spans;
 }
 
-QPDFObjectHandle Add(PdfWriter& writer, const CGTriangleMesh& mesh) {
+QPDFObjectHandle Add(PdfWriter& writer, const CGTriangleMesh& mesh, PdfChannels channels) {
   constexpr int kComponentBits = 8;
   constexpr int kFlagBits = 8;
   constexpr unsigned char kNewTriangle = 0;
@@ -166,33 +189,48 @@ QPDFObjectHandle Add(PdfWriter& writer, const CGTriangleMesh& mesh) {
     data.push_back(kNewTriangle);
     AppendBytes(data, x.Stored(point.x, bits), bits);
     AppendBytes(data, y.Stored(point.y, bits), bits);
-    for (const CGFloat component : {color.red, color.green, color.blue})
+    const Components components(color, channels);
+    for (const CGFloat component : components.Values())
       data.push_back(ByteOf(component));
   }
 
-  auto shading = NewShading(kFreeTriangles);
+  auto shading = NewShading(kFreeTriangles, channels);
   shading.replaceKey("/BitsPerCoordinate", QPDFObjectHandle::newInteger(bits));
   shading.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(kComponentBits));
   shading.replaceKey("/BitsPerFlag", QPDFObjectHandle::newInteger(kFlagBits));
-  shading.replaceKey("/Decode", Numbers({x.Low(), x.High(), y.Low(), y.High(), 0, 1, 0, 1, 0, 1}));
+  std::vector<double> decode = {x.Low(), x.High(), y.Low(), y.High(), 0, 1};
+  if (channels == PdfChannels::kColors) decode.insert(decode.end(), {0, 1, 0, 1});
+  shading.replaceKey("/Decode", Numbers(decode));
   return writer.AddSharedStream(shading, data);
+}
+
+CGRect BoxOf(const CGTriangleMesh& mesh, const PdfPlacedShading& placed) {
+  const auto [x, y] = SpansOf(mesh);
+  const CGRect box = {{static_cast<CGFloat>(x.Low()), static_cast<CGFloat>(y.Low())},
+                      {static_cast<CGFloat>(x.Length()), static_cast<CGFloat>(y.Length())}};
+  return CGRectApplyAffineTransform(box, placed.matrix);
+}
+
+CGRect BoxOf(const CGAxialShading& /*axial*/, const PdfPlacedShading& placed) {
+  return placed.page;
 }
 
 }  // namespace
 
-QPDFObjectHandle AddShading(PdfWriter& writer, const CGShading& shading) {
-  return std::visit([&](const auto& kind) { return Add(writer, kind); }, shading);
+QPDFObjectHandle AddShading(PdfWriter& writer, const CGShading& shading, PdfChannels channels) {
+  return std::visit([&](const auto& kind) { return Add(writer, kind, channels); }, shading);
 }
 
-QPDFObjectHandle AddMeshGroup(PdfWriter& writer, const CGTriangleMesh& mesh) {
+QPDFObjectHandle AddShadingGroup(PdfWriter& writer, const PdfPlacedShading& placed,
+                                 PdfChannels channels) {
   std::string text;
   PdfContent content([&text](std::string_view piece) { text += piece; });
   PdfResources resources;
-  content.Shade(resources.NameOf(Add(writer, mesh), kPdfShading));
+  if (!(placed.matrix == CGAffineTransformIdentity)) content.Concat(placed.matrix);
+  content.Shade(resources.NameOf(AddShading(writer, placed.shading, channels), kPdfShading));
   content.Finish();
-  const auto [x, y] = SpansOf(mesh);
-  const CGRect box = {{static_cast<CGFloat>(x.Low()), static_cast<CGFloat>(y.Low())},
-                      {static_cast<CGFloat>(x.Length()), static_cast<CGFloat>(y.Length())}};
+  const CGRect box =
+      std::visit([&](const auto& kind) { return BoxOf(kind, placed); }, placed.shading);
   return AddGroup(writer, text, resources, box);
 }
 

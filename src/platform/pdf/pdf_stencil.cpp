@@ -31,12 +31,7 @@ QPDFObjectHandle AddStencil(PdfWriter& writer, const QPDFObjectHandle& stencil,
 
 QPDFObjectHandle AddStencilState(PdfWriter& writer, const QPDFObjectHandle& stencil,
                                  const CGAffineTransform& matrix) {
-  auto mask = QPDFObjectHandle::newDictionary();
-  mask.replaceKey("/S", QPDFObjectHandle::newName("/Luminosity"));
-  mask.replaceKey("/G", AddStencil(writer, stencil, matrix));
-  auto state = QPDFObjectHandle::newDictionary();
-  state.replaceKey("/SMask", mask);
-  return writer.AddSharedObject(state);
+  return AddMaskState(writer, AddStencil(writer, stencil, matrix));
 }
 
 }  // namespace kelvane

@@ -39,7 +39,8 @@ CGColorSpaceRef CGColorSpaceCreateIndexed(CGColorSpaceRef base, std::size_t last
                                           const unsigned char* table);
 
 /// A colour as the surface keeps it: components from 0 to 1, grey as three equal ones.
-/// Alpha is kept for the caller; both back ends paint opaque.
+/// Alpha counts in shadings and patterns; of a plain colour it is kept for the caller, and back
+/// ends paint opaque.
 struct CGColor {
   CGFloat red = 0;
   CGFloat green = 0;

@@ -8,7 +8,8 @@ namespace kelvane {
 namespace {
 
 bool IsFinite(const CGColor& color) {
-  return std::isfinite(color.red) && std::isfinite(color.green) && std::isfinite(color.blue);
+  return std::isfinite(color.red) && std::isfinite(color.green) && std::isfinite(color.blue) &&
+         std::isfinite(color.alpha);
 }
 
 bool AreInOrder(const std::vector<CGGradientStop>& stops) {
@@ -55,7 +56,20 @@ std::optional<CGShading> MappedShading(const CGTriangleMesh& mesh, const CGAffin
   return mapped.vertices.empty() ? std::nullopt : std::optional<CGShading>(std::move(mapped));
 }
 
+bool HasOpaqueColors(const CGAxialShading& axial) {
+  return std::ranges::all_of(axial.stops, [](const auto& stop) { return stop.color.alpha == 1; });
+}
+
+bool HasOpaqueColors(const CGTriangleMesh& mesh) {
+  return std::ranges::all_of(mesh.vertices,
+                             [](const auto& vertex) { return vertex.color.alpha == 1; });
+}
+
 }  // namespace
+
+bool IsOpaque(const CGShading& shading) {
+  return std::visit([](const auto& kind) { return HasOpaqueColors(kind); }, shading);
+}
 
 std::optional<CGShading> Mapped(const CGShading& shading, const CGAffineTransform& transform) {
   return std::visit([&](const auto& kind) { return MappedShading(kind, transform); }, shading);

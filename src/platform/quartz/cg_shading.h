@@ -12,7 +12,7 @@ namespace kelvane {
 /// A colour somewhere along a line.
 struct CGGradientStop {
   CGFloat location = 0;  // 0 the line's start, 1 its end
-  CGColor color;         // opaque
+  CGColor color;
 
   friend bool operator==(const CGGradientStop&, const CGGradientStop&) = default;
 };
@@ -28,7 +28,7 @@ struct CGAxialShading {
 
 struct CGMeshVertex {
   CGPoint point;
-  CGColor color;  // opaque
+  CGColor color;
 
   friend bool operator==(const CGMeshVertex&, const CGMeshVertex&) = default;
 };
@@ -41,6 +41,10 @@ struct CGTriangleMesh {
 };
 
 using CGShading = std::variant<CGAxialShading, CGTriangleMesh>;
+
+/// @return whether all of its colours are; else what lies below shows through, by alpha that
+///         changes as the colours do.
+bool IsOpaque(const CGShading& shading);
 
 /// @return the shading that shows, mapped by the transform, what `shading` shows; nullopt when it
 ///         shows nothing, since it has too few stops or vertices, a number that is not finite,

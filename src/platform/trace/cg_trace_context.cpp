@@ -144,9 +144,11 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
 
   void PatternLines(const char* words, const CGPattern& pattern) {
     std::string line = words;
-    AppendNumber(line, pattern.cell.width);
-    AppendNumber(line, pattern.cell.height);
+    if (!pattern.shading) AppendCell(line, pattern);
     LineUnder(std::move(line), pattern.matrix);
+    if (pattern.shading) {
+      std::visit([this](const auto& kind) { ShadingLines(kind); }, *pattern.shading);
+    }
     if (pattern.image != nullptr) Line("  image", {});
     for (const CGPatternShape& shape : pattern.shapes) {
       ColorLine("  fill-color", shape.color);
@@ -155,24 +157,46 @@ class CGTraceContext final : public CGContext, private CGClipOperators, private 
     Line("end-pattern", {});
   }
 
+  static void AppendCell(std::string& line, const CGPattern& pattern) {
+    AppendNumber(line, pattern.cell.width);
+    AppendNumber(line, pattern.cell.height);
+    if (!(pattern.gap == CGSize{})) {
+      line += " gap";
+      AppendNumber(line, pattern.gap.width);
+      AppendNumber(line, pattern.gap.height);
+    }
+    if (pattern.mirrorsX) line += " mirror-x";
+    if (pattern.mirrorsY) line += " mirror-y";
+  }
+
   void ShadingLines(const CGAxialShading& axial) {
     Line("axial", {axial.start.x, axial.start.y, axial.end.x, axial.end.y});
     for (const CGGradientStop& stop : axial.stops)
-      Line("  stop", {stop.location, stop.color.red, stop.color.green, stop.color.blue});
+      ColorLine("  stop", stop.color, {stop.location});
   }
 
   void ShadingLines(const CGTriangleMesh& mesh) {
     Line("mesh", {});
     for (const auto& [point, color] : mesh.vertices)
-      Line("  vertex", {point.x, point.y, color.red, color.green, color.blue});
+      ColorLine("  vertex", color, {point.x, point.y});
   }
 
   void LineUnder(std::string words, const CGAffineTransform& t) {
     Line(words += " under", {t.a, t.b, t.c, t.d, t.tx, t.ty});
   }
 
-  void ColorLine(std::string_view words, const CGColor& color) {
-    Line(words, {color.red, color.green, color.blue});
+  /// @param before  numbers before the colour's.
+  void ColorLine(std::string words, const CGColor& color,
+                 std::initializer_list<CGFloat> before = {}) {
+    for (const CGFloat number : before)
+      AppendNumber(words, number);
+    for (const CGFloat number : {color.red, color.green, color.blue})
+      AppendNumber(words, number);
+    if (color.alpha != 1) {
+      words += " alpha";
+      AppendNumber(words, color.alpha);
+    }
+    Line(words, {});
   }
 
   void Line(std::string_view words, std::initializer_list<CGFloat> numbers) {

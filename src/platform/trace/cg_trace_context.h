@@ -21,6 +21,9 @@ namespace kelvane {
 ///       image                      one, its shapes; so, too, stroke-pattern
 ///       fill-color 1 0 0
 ///     end-pattern
+///     fill-pattern 8 8 gap 9 9 mirror-x mirror-y under a b c d tx ty    what not all cells have
+///     fill-pattern under a b c d tx ty    a shading, as below
+///     end-pattern
 ///     text-mode 0
 ///     blend darken alpha 1
 ///     move 10 -20                  a path, in page space
@@ -38,6 +41,7 @@ namespace kelvane {
 ///       mask e0
 ///     axial 0 0 50 0               colour that changes along a line: start and end
 ///       stop 0 1 0 0               each colour, where it stands first
+///       stop 1 0 0 0 alpha 0.5     one through which what lies below shows; so, too, of others
 ///     mesh                         triangles
 ///       vertex 10 -20 1 0 0        each corner with its colour
 ///     text "Hi" Face 12 under a b c d tx ty    a run of glyphs: text, face, size, matrix,

@@ -124,5 +124,14 @@ TEST(CGContext, DrawsNoShadingWhereNothingShows) {
             "");
 }
 
+TEST(Shading, IsOpaqueWhereAllOfItsColoursAre) {
+  const CGColor opaque = {1, 0, 0, 1};
+  const CGColor clear = {1, 0, 0, 0.5F};
+  EXPECT_TRUE(IsOpaque(CGAxialShading{{0, 0}, {1, 0}, {{0, opaque}, {1, opaque}}}));
+  EXPECT_FALSE(IsOpaque(CGAxialShading{{0, 0}, {1, 0}, {{0, opaque}, {1, clear}}}));
+  EXPECT_TRUE(IsOpaque(CGTriangleMesh{{{{0, 0}, opaque}, {{1, 0}, opaque}, {{0, 1}, opaque}}}));
+  EXPECT_FALSE(IsOpaque(CGTriangleMesh{{{{0, 0}, opaque}, {{1, 0}, opaque}, {{0, 1}, clear}}}));
+}
+
 }  // namespace
 }  // namespace kelvane

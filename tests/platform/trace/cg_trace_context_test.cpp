@@ -1,5 +1,8 @@
 #include "platform/trace/cg_trace_context.h"
 
+#include <memory>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "platform/quartz/cg_context_calls.h"
@@ -105,6 +108,44 @@ TEST(CGTraceContext, WritesAHashOfAJpegFile) {
       CGImageCreateWithJPEG(1, 1, 3, test::ProviderOf({'a'}).get(), false));
   // FNV-1a of "a", as it is published.
   EXPECT_EQ(TraceOfImage(image), "image 1 1 jpeg rgb under 1 0 0 1 0 0\n  bytes hash e40c292c\n");
+}
+
+TEST(CGTraceContext, WritesTheAlphaOfColoursThatHaveOne) {
+  EXPECT_EQ(TraceOf([](CGContextRef c) {
+              CGContextDrawShading(
+                  c, CGAxialShading{{0, 0}, {9, 0}, {{0, {1, 0, 0, 1}}, {1, {0, 1, 0, 0.5F}}}});
+            }),
+            "axial 0 0 9 0\n  stop 0 1 0 0\n  stop 1 0 1 0 alpha 0.5\n");
+}
+
+TEST(CGTraceContext, WritesAPatternThatIsAShading) {
+  CGPattern pattern;
+  pattern.matrix = {2, 0, 0, 2, 0, 0};
+  pattern.shading = CGAxialShading{{0, 0}, {1, 0}, {{0, {1, 0, 0, 1}}, {1, {0, 1, 0, 1}}}};
+  const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
+  EXPECT_EQ(TraceOf([&](CGContextRef c) {
+              c->SetFillPattern(shared);
+              test::FillRect(c, {{0, 0}, {1, 1}});
+            }),
+            "fill-pattern under 2 0 0 2 0 0\n"
+            "axial 0 0 1 0\n  stop 0 1 0 0\n  stop 1 0 1 0\n"
+            "end-pattern\n"
+            "rect 0 0 1 1\nfill\n");
+}
+
+TEST(CGTraceContext, WritesHowCellsFollowEachOther) {
+  CGPattern pattern;
+  pattern.cell = {8, 9};
+  pattern.gap = {1, 2};
+  pattern.mirrorsX = true;
+  pattern.mirrorsY = true;
+  const auto shared = std::make_shared<const CGPattern>(std::move(pattern));
+  EXPECT_EQ(TraceOf([&](CGContextRef c) {
+              c->SetFillPattern(shared);
+              test::FillRect(c, {{0, 0}, {1, 1}});
+            }),
+            "fill-pattern 8 9 gap 1 2 mirror-x mirror-y under 1 0 0 1 0 0\nend-pattern\n"
+            "rect 0 0 1 1\nfill\n");
 }
 
 TEST(CGTraceContext, WritesTheCornersOfAMesh) {
