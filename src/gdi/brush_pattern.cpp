@@ -36,16 +36,6 @@ void AddDiagonal(CGPath& path, bool isFalling) {
   AddPolygon(path, {at(0, s - h), at(h, s), at(0, s)});
 }
 
-/// The lines of a hatch, as thick as a pixel: the fourth row, the fifth column, the diagonals.
-CGPath HatchLines(HatchStyle hatch) {
-  CGPath path;
-  if (hatch == HS_HORIZONTAL || hatch == HS_CROSS) path.AddRectangle({0, 4}, {kHatchCell, 1});
-  if (hatch == HS_VERTICAL || hatch == HS_CROSS) path.AddRectangle({4, 0}, {1, kHatchCell});
-  if (hatch == HS_FDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, true);
-  if (hatch == HS_BDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, false);
-  return path;
-}
-
 CGPattern HatchPattern(const BrushPaint& paint, RasterStep::Color color) {
   CGPattern pattern;
   pattern.cell = {kHatchCell, kHatchCell};
@@ -97,6 +87,16 @@ std::optional<std::vector<unsigned char>> RgbOf(const Dib& dib, const BrushPaint
 }
 
 }  // namespace
+
+// As thick as a pixel: the fourth row, the fifth column, the diagonals.
+CGPath HatchLines(HatchStyle hatch) {
+  CGPath path;
+  if (hatch == HS_HORIZONTAL || hatch == HS_CROSS) path.AddRectangle({0, 4}, {kHatchCell, 1});
+  if (hatch == HS_VERTICAL || hatch == HS_CROSS) path.AddRectangle({4, 0}, {1, kHatchCell});
+  if (hatch == HS_FDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, true);
+  if (hatch == HS_BDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, false);
+  return path;
+}
 
 std::uint64_t SizeOfPattern(const BrushPaint& paint) {
   const std::uint64_t stored = paint.pattern.pixels.size();

@@ -12,6 +12,9 @@ namespace kelvane {
 /// @return how many bytes the bitmap of a brush is, or pixels where a few bytes may be many.
 std::uint64_t SizeOfPattern(const BrushPaint& paint);
 
+/// @return the lines of a hatch in a cell of 8 by 8 pixels, a unit a pixel, y upwards.
+CGPath HatchLines(HatchStyle hatch);
+
 /// @param paint  hatched or of a bitmap. @param color  the step of a raster operation for which
 ///               all of its colours are changed.
 /// @return a cell of the brush, a unit a pixel, its matrix still the identity; nullopt when the

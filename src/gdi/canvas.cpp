@@ -168,14 +168,17 @@ void Canvas::WriteCut(const std::shared_ptr<const ClipCut>& cut) {
   isWinding ? surface_.Clip() : surface_.EOClip();
 }
 
+CGSharedPattern Canvas::PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color) {
+  const CGSharedPattern cell = CellOf(paint, color);
+  return cell != nullptr ? Placed(cell, origin) : nullptr;
+}
+
 // Patterns of one brush at many origins share its bitmap, which may be large. Each takes its place
 // in the document: nobody can tell where the thousandth starts.
-CGSharedPattern Canvas::PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color) {
+CGSharedPattern Canvas::Placed(const CGSharedPattern& cell, PointL origin) {
   constexpr std::size_t kMostPatterns = 1024;
-  const CGSharedPattern cell = CellOf(paint, color);
-  if (cell == nullptr) return nullptr;
   if (patterns_.size() >= kMostPatterns) origin = {};
-  const auto [entry, isNew] = patterns_.try_emplace({cell.get(), origin.x, origin.y});
+  const auto [entry, isNew] = patterns_.try_emplace({cell, origin.x, origin.y});
   if (isNew) {
     const auto x = static_cast<CGFloat>(patternPixelX_);
     const auto y = static_cast<CGFloat>(patternPixelY_);

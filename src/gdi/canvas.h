@@ -95,11 +95,19 @@ class Canvas {
   /// @param origin  of the pattern, device units.
   CGSharedPattern PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color);
 
+  /// @param cell    a unit a pixel of a brush, not null. @param origin  of the pattern, device
+  /// units.
+  /// @return it as it lies on the page, the same one each time.
+  CGSharedPattern Placed(const CGSharedPattern& cell, PointL origin);
+
+  /// All that can be seen, device units.
+  [[nodiscard]] const RectangleD& Whole() const { return whole_; }
+
  private:
   using CellKey =
       std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t, const unsigned char*,
                  DibUsage, std::vector<DibColor>, RasterStep::Color>;
-  using PatternKey = std::tuple<const CGPattern*, std::int32_t, std::int32_t>;  // cell, origin
+  using PatternKey = std::tuple<CGSharedPattern, std::int32_t, std::int32_t>;  // cell, origin
 
   struct WrittenCut {
     std::shared_ptr<const ClipCut> cut;

@@ -16,9 +16,10 @@ enum class Shortfall : std::uint8_t {
   kForeignGlyphs,      // glyph numbers of a face that is not there
   kUnreadableBitmap,   // a bitmap cannot be read, and was not drawn
   kBitmapTooLarge,     // a bitmap is far larger than its data, and was not drawn
+  kBrushTooComplex,    // a brush repeats too often or has too many parts, and came out only nearly
 };
 
-inline constexpr int kShortfalls = 10;
+inline constexpr int kShortfalls = 11;
 
 /// A set of them.
 class Shortfalls {
