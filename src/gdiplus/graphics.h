@@ -13,6 +13,7 @@
 #include "gdiplus/labelled_states.h"
 #include "platform/quartz/cg_image.h"
 #include "platform/quartz/cg_path.h"
+#include "platform/quartz/cg_pattern.h"
 
 namespace kelvane {
 class FontBook;
@@ -22,6 +23,9 @@ namespace kelvane::gdiplus {
 
 /// An image by its bytes and how they are taken: where, how many, width, stride, smoothing.
 using ImageKey = std::tuple<const unsigned char*, std::size_t, std::size_t, std::size_t, bool>;
+
+/// A hatch by its style and its two colours.
+using HatchKey = std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>;
 
 /// What a picture of EMF+ is played on. The functions of gdiplus/ are those of GDI+ by their names.
 struct Graphics {
@@ -41,7 +45,9 @@ struct Graphics {
   /// What has not come out as it should, for whoever reports it, and clears it.
   Shortfalls shortfalls;
 
-  std::map<ImageKey, CFOwned<const CGImage>> images;  // that were made, see ImageFrom
+  // What was made, see ImageFrom and HatchPaint.
+  std::map<ImageKey, CFOwned<const CGImage>> images;
+  std::map<HatchKey, CGSharedPattern> hatches;
 
   /// What clipping may still take, as in a device context.
   Steps clipSteps{1U << 23};

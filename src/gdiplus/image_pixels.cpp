@@ -22,7 +22,7 @@ using OwnedImage = CFOwned<const CGImage>;
 
 constexpr std::size_t kRgba = 4;
 constexpr std::size_t kMostPixelsOfAnImage = std::size_t{1} << 40;  // so that bytes can be counted
-constexpr unsigned char kOpaque = 255;
+constexpr unsigned char kOpaquePixel = 255;
 
 struct ImageSize {
   std::size_t width;
@@ -54,7 +54,7 @@ OwnedImage ImageOfRgba(ImageSize size, const ImageBytes& rgba, bool isSmooth) {
   }
   const CFOwned<const CGColorSpace> colors(CGColorSpaceCreateDeviceRGB());
   OwnedImage image = PlainImage(size, *colors, std::move(rgb), isSmooth);
-  const auto isOpaque = [](unsigned char a) { return a == kOpaque; };
+  const auto isOpaque = [](unsigned char a) { return a == kOpaquePixel; };
   if (image == nullptr || std::ranges::all_of(alpha, isOpaque)) return image;
   const CFOwned<const CGColorSpace> gray(CGColorSpaceCreateDeviceGray());
   const OwnedImage mask = PlainImage(size, *gray, std::move(alpha), isSmooth);
@@ -98,7 +98,7 @@ OwnedImage IndexedImage(const EmfPlusPixels& pixels, unsigned bits, bool isSmoot
 OwnedImage ImageOf(Graphics& graphics, const EmfPlusPixels& pixels) {
   const unsigned bits = BitsOf(pixels.format);
   const bool isOpaque =
-      std::ranges::all_of(pixels.palette, [](Argb color) { return color.alpha == kOpaque; });
+      std::ranges::all_of(pixels.palette, [](Argb color) { return color.alpha == kOpaquePixel; });
   if (bits >= 1 && bits <= 8 && isOpaque) {
     OwnedImage image = IndexedImage(pixels, bits, IsSmooth(graphics));
     return image != nullptr ? std::move(image) : Unreadable(graphics);

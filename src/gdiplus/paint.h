@@ -12,12 +12,12 @@ namespace kelvane::gdiplus {
 /// A brush as the surface takes it: a plain colour with its alpha, or a pattern of whatever kind.
 struct Paint {
   CGColor color;
-  CGSharedPattern pattern;  // in place of the colour
+  CGSharedPattern pattern;  // in place of the colour, whose alpha counts all the same
 };
 
 /// @param bounds  of what is to be coloured, device units; brushes that repeat do so no farther.
 /// @return nullopt for a brush that leaves no mark. What comes out only nearly is told the
-/// graphics.
+///         graphics.
 std::optional<Paint> PaintOf(Graphics& graphics, const EmfPlusBrush& brush,
                              const RectangleD& bounds);
 
