@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <clipper.hpp>
 #include <cmath>
-#include <vector>
 
-#include "gdi/flatten.h"
+#include "gdi/flat_lines.h"
 
 namespace kelvane {
 namespace {
@@ -16,40 +15,6 @@ constexpr double kTolerance = 1.0 / 64;                    // device units
 constexpr double kFarthest = 1 << 21;                      // device units; far outside of any page
 constexpr double kScale = 256;                             // fixed point
 constexpr std::size_t kMostPoints = std::size_t{1} << 16;  // beyond it the outline takes too long
-
-struct Line {
-  std::vector<PointD> points;
-  bool isClosed = false;
-};
-
-/// The figures of a path with their curves as lines. Unlike an area's they may be open.
-std::vector<Line> LinesOf(const CGPath& path) {
-  std::vector<Line> lines;
-  const auto exactly = [](CGPoint point) { return PointD{point.x, point.y}; };
-  const auto add = [&](PointD point) { lines.back().points.push_back(point); };
-  path.ForEach([&](CGPath::Element element, const CGPoint* p) {
-    switch (element) {
-      case CGPath::Element::kMove:
-        lines.push_back({{exactly(p[0])}});
-        return;
-      case CGPath::Element::kLine:
-        return add(exactly(p[0]));
-      case CGPath::Element::kCurve:
-        return FlattenCurve(lines.back().points.back(), exactly(p[0]), exactly(p[1]), exactly(p[2]),
-                            kTolerance, add);
-      case CGPath::Element::kRectangle: {
-        const auto [x, y] = exactly(p[0]);
-        const auto [width, height] = exactly(p[1]);
-        lines.push_back({{{x, y}, {x + width, y}, {x + width, y + height}, {x, y + height}}, true});
-        return;
-      }
-      case CGPath::Element::kClose:
-        lines.back().isClosed = true;
-        return;
-    }
-  });
-  return lines;
-}
 
 cl::EndType EndTypeOf(const PenStroke& stroke, bool isClosed) {
   if (isClosed) return cl::etClosedLine;
@@ -89,7 +54,7 @@ std::optional<CGPath> Widened(const CGPath& path, const PenStroke& stroke, doubl
 
   cl::ClipperOffset offset(miterLimit, kTolerance * kScale);
   std::size_t count = 0;
-  for (const Line& line : LinesOf(path)) {
+  for (const FlatLine& line : FlatLinesOf(path, kTolerance)) {
     count += line.points.size();
     if (count > kMostPoints) return std::nullopt;
     cl::Path fixed;
