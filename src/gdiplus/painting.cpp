@@ -1,6 +1,5 @@
 #include "gdiplus/painting.h"
 
-#include "gdi/surface_stroke.h"
 #include "gdiplus/paint.h"
 #include "gdiplus/path_bounds.h"
 
@@ -14,17 +13,6 @@ void PaintFill(Graphics& graphics, CGPath& path, PolyFillMode fillMode, const Em
   SetFill(surface, *paint);
   graphics.canvas->Load(path);
   surface.DrawPath(fillMode == WINDING ? kCGPathFill : kCGPathEOFill);
-}
-
-void PaintStroke(Graphics& graphics, CGPath& path, const EmfPlusPen& pen) {
-  if (!path.HasSegments() || !path.IsFinite() || !BringClip(graphics)) return path.Clear();
-  const auto paint = PaintOf(graphics, pen.brush, BoundsOf(path));
-  if (!paint) return path.Clear();
-  CGContext& surface = graphics.canvas->Surface();
-  SetStroke(surface, *paint);
-  graphics.canvas->Load(path);
-  const SurfaceStroke stroke = {.miterLimit = pen.miterLimit, .width = pen.width};
-  DrawThrough(*graphics.canvas, stroke, UnitToDevice(graphics, pen.unit), kCGPathStroke);
 }
 
 }  // namespace kelvane::gdiplus
