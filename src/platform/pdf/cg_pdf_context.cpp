@@ -114,28 +114,34 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     if (Fills(mode) && Strokes(mode) && (IsVeiled(pattern) || IsVeiled(State().strokePattern))) {
       PathPainted(path, mode == kCGPathEOFillStroke ? kCGPathEOFill : kCGPathFill);
       PathPainted(path, kCGPathStroke);
-    } else if (Fills(mode) && IsMixedMesh(pattern)) {
-      FillWithMesh(path, mode == kCGPathEOFill, pattern);
-    } else {
-      BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
-      BeginVeil(pattern);
-      WritePath(path, mode);
-      EndVeil(pattern);
-    }
-  }
-
-  void WritePath(const CGPath& path, CGPathDrawingMode mode) {
-    const CGStrokeGeometry stroke = StrokeGeometry(State());
-    if (!Strokes(mode) || !stroke.throughTransform) {
-      content_.Path(path);
-      content_.Paint(mode);
       return;
     }
-    content_.Save();
-    content_.Concat(stroke.transform);
-    content_.Path(path.Mapped(stroke.inverse));
-    content_.Paint(mode);
-    content_.Restore();
+    BeginMark({.fill = Fills(mode), .stroke = Strokes(mode)}, State());
+    BeginVeil(pattern);
+    if (IsMixedMesh(pattern)) {
+      DrawInGroup([&](PdfContent& content, PdfResources& resources) {
+        const auto& name = resources.NameOf(UseOf(pattern).object, kPdfPattern);
+        Fills(mode) ? content.FillPattern(name) : content.StrokePattern(name);
+        WritePath(content, path, mode);
+      });
+    } else {
+      WritePath(content_, path, mode);
+    }
+    EndVeil(pattern);
+  }
+
+  void WritePath(PdfContent& content, const CGPath& path, CGPathDrawingMode mode) const {
+    const CGStrokeGeometry stroke = StrokeGeometry(State());
+    if (!Strokes(mode) || !stroke.throughTransform) {
+      content.Path(path);
+      content.Paint(mode);
+      return;
+    }
+    content.Save();
+    content.Concat(stroke.transform);
+    content.Path(path.Mapped(stroke.inverse));
+    content.Paint(mode);
+    content.Restore();
   }
 
   void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
@@ -186,12 +192,24 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     if (run.font != font_.face) SetFont(run.font);
     const CGSharedPattern& pattern = State().fillPattern;
     BeginVeil(pattern);
-    const PdfTextStyle style = {*font_.name, font_.font->CodeSize(), run.size, run.matrix};
-    for (const CGPositionedGlyph& glyph : run.glyphs) {
-      const PdfFont::Code code = font_.font->Encode(glyph.glyph, glyph.text);
-      content_.ShowGlyph(style, glyph.origin, code.value, code.width);
+    if (IsMixedMesh(pattern)) {
+      DrawInGroup([&](PdfContent& content, PdfResources& resources) {
+        content.FillPattern(resources.NameOf(UseOf(pattern).object, kPdfPattern));
+        ShowRun(content, resources.NameOf(font_.font->Dictionary(), kPdfFont), run);
+      });
+    } else {
+      ShowRun(content_, *font_.name, run);
     }
     EndVeil(pattern);
+  }
+
+  /// @param name  of the run's font, for the content.
+  void ShowRun(PdfContent& content, const std::string& name, const CGGlyphRun& run) const {
+    const PdfTextStyle style = {name, font_.font->CodeSize(), run.size, run.matrix};
+    for (const CGPositionedGlyph& glyph : run.glyphs) {
+      const PdfFont::Code code = font_.font->Encode(glyph.glyph, glyph.text);
+      content.ShowGlyph(style, glyph.origin, code.value, code.width);
+    }
   }
 
   /// A face as the page knows it. What it points to stays until the page ends.
@@ -285,9 +303,9 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 
   /// A pattern as the page knows it. Names stay until the page ends.
   struct PagePattern {
+    QPDFObjectHandle object;
     const std::string* name = nullptr;
-    const std::string* veil = nullptr;   // the state of its alpha; null where it is opaque
-    const std::string* group = nullptr;  // its mesh; null until it is needed
+    const std::string* veil = nullptr;  // the state of its alpha; null where it is opaque
   };
 
   /// Kept with its names, so that no other pattern can come to lie where it was.
@@ -295,14 +313,13 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     const auto [entry, isNew] = patterns_.try_emplace(pattern);
     PagePattern& use = entry->second;
     if (isNew) {
-      use.name = &resources_.NameOf(AddPattern(writer_, *pattern, images_), kPdfPattern);
-      if (pattern->shading && !IsOpaque(*pattern->shading)) use.veil = &VeilOf(PlaceOf(*pattern));
+      use.object = AddPattern(writer_, *pattern, images_);
+      use.name = &resources_.NameOf(use.object, kPdfPattern);
+      if (pattern->shading && !IsOpaque(*pattern->shading)) {
+        use.veil = &VeilOf({*pattern->shading, pattern->matrix, mediaBox_});
+      }
     }
     return use;
-  }
-
-  [[nodiscard]] PdfPlacedShading PlaceOf(const CGPattern& pattern) const {
-    return {*pattern.shading, pattern.matrix, mediaBox_};
   }
 
   /// @param pattern  may be null, as in the next three.
@@ -319,23 +336,24 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     if (IsVeiled(pattern)) content_.Restore();
   }
 
-  /// A mesh that is mixed with what lies below it needs its group.
+  /// Readers mix the parts of a mesh with each other, or forget the mask, unless it has a group.
   bool IsMixedMesh(const CGSharedPattern& pattern) {
     return pattern != nullptr && pattern->shading &&
            std::holds_alternative<CGTriangleMesh>(*pattern->shading) &&
            (IsMixed() || IsVeiled(pattern));
   }
 
-  void FillWithMesh(const CGPath& path, bool isEvenOdd, const CGSharedPattern& pattern) {
-    BeginMark({}, State());
-    PagePattern& use = UseOf(pattern);
-    if (use.group == nullptr) use.group = &GroupOf(PlaceOf(*pattern));
-    content_.Save();
-    if (use.veil != nullptr) content_.GraphicsState(*use.veil);
-    content_.Path(path);
-    content_.Clip(isEvenOdd);
-    content_.DrawXObject(*use.group);
-    content_.Restore();
+  /// Widths, dashes and the mode of text are those of the state that the group is drawn in.
+  /// @param draw  writes a content that names things of its own.
+  template <class Draw>
+  void DrawInGroup(Draw&& draw) {
+    std::string text;
+    PdfContent content([&text](std::string_view piece) { text += piece; });
+    PdfResources resources;
+    draw(content, resources);
+    content.Finish();
+    content_.DrawXObject(
+        resources_.NameOf(AddGroup(writer_, text, resources, mediaBox_), kPdfForm));
   }
 
   // Marks mix with what lies below them, which is nothing on a bare page: it does what it likes.

@@ -33,9 +33,13 @@ int Rows(const CGPattern& pattern) {
   return pattern.mirrorsY ? 2 : 1;
 }
 
+/// Viewers give an image every pixel that it touches, and mirror images touch each other: each is
+/// taken in by less than anyone can see.
 /// @return what maps the unit square to a column's or row's part along one axis: scale and shift.
-std::pair<CGFloat, CGFloat> PartAt(int index, CGFloat size) {
-  return index == 0 ? std::pair(size, CGFloat{0}) : std::pair(-size, 2 * size);
+std::pair<CGFloat, CGFloat> PartAt(int index, int parts, CGFloat size) {
+  const CGFloat hair = parts == 1 ? 0 : size / 4096;
+  const CGFloat seen = size - 2 * hair;
+  return index == 0 ? std::pair(seen, hair) : std::pair(-seen, 2 * size - hair);
 }
 
 void DrawImages(const CGPattern& pattern, QPDFObjectHandle image, PdfResources& resources,
@@ -44,8 +48,8 @@ void DrawImages(const CGPattern& pattern, QPDFObjectHandle image, PdfResources& 
   const std::string& name = resources.NameOf(image, kPdfImage);
   for (int row = 0; row < Rows(pattern); ++row) {
     for (int column = 0; column < Columns(pattern); ++column) {
-      const auto [width, left] = PartAt(column, pattern.cell.width);
-      const auto [height, bottom] = PartAt(row, pattern.cell.height);
+      const auto [width, left] = PartAt(column, Columns(pattern), pattern.cell.width);
+      const auto [height, bottom] = PartAt(row, Rows(pattern), pattern.cell.height);
       content.Save();
       content.Concat({width, 0, 0, height, left, bottom});
       content.DrawXObject(name);

@@ -180,6 +180,26 @@ TEST(PdfShadingPattern, OfATranslucentMeshIsMixedOnce) {
   EXPECT_EQ(page.At(10, 40), kGreenPixel);
 }
 
+TEST(PdfShadingPattern, OfATranslucentMeshStrokesThroughItsAlpha) {
+  const Raster page(PdfBytesOf([](CGContextRef c) {
+    CGContextSetLineWidth(c, 20);
+    CGPattern pattern;
+    pattern.shading = CGTriangleMesh{{{{0, 0}, kRed}, {{100, 0}, {1, 0, 0, 0}}, {{0, 100}, kRed}}};
+    c->SetStrokePattern(Shared(std::move(pattern)));
+    test::StrokeLine(c, {0, 10}, {80, 10});
+  }));
+  ExpectNear(page.At(50, 90), {255, 129, 129});
+  EXPECT_EQ(page.At(50, 75), kWhitePixel);
+}
+
+TEST(PdfShadingPattern, OfATranslucentMeshColoursTextInAGroup) {
+  const std::string content = PdfContentOf([](CGContextRef c) {
+    c->SetFillPattern(Half(kHalfRed));
+    test::DrawHelvetica(c, u"A", 10, {});
+  });
+  EXPECT_EQ(content, "/Pattern cs\n/P1 scn\nq\n/G1 gs\n/Fm1 Do\nQ\n");
+}
+
 TEST(PdfShading, IsDrawnWithItsAlpha) {
   const Raster page(PdfBytesOf([](CGContextRef c) {
     CGContextDrawShading(c, CGAxialShading{{20, 0}, {80, 0}, {{0, kRed}, {1, {1, 0, 0, 0}}}});
