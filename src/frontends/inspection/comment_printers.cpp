@@ -1,7 +1,6 @@
 #include "frontends/inspection/record_printers.h"
 #include "metafile/emf/emf_comment_records.h"
 #include "metafile/emf/emf_record_type.h"
-#include "metafile/emfplus/emfplus_record.h"
 
 namespace kelvane {
 namespace {
@@ -39,12 +38,6 @@ void AddPublicComment(FieldWriter& fields, ByteView& data) {
   }
 }
 
-/// The types alone: what they hold is a format of its own.
-void AddEmfPlus(FieldWriter& fields, ByteView data) {
-  while (const auto record = NextEmfPlusRecord(data))
-    fields.Hexadecimal("EmfPlusRecord", record->type);
-}
-
 void PrintComment(ByteView& bytes, FieldWriter& fields) {
   CommentRecord record = DecodeComment(bytes);
   fields.Field("DataSize", record.data.Bytes().size());
@@ -53,8 +46,8 @@ void PrintComment(ByteView& bytes, FieldWriter& fields) {
       AddPublicComment(fields, record.data);
       if (record.data.IsShort()) bytes.Fail();
       return;
-    case EmfCommentKind::kEmfPlus:
-      return AddEmfPlus(fields, record.data);
+    case EmfCommentKind::kEmfPlus:  // its records have lines of their own
+      return;
     case EmfCommentKind::kSpool:
     case EmfCommentKind::kPrivate:
       fields.Field("PrivateData", record.data);

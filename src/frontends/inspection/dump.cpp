@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "frontends/inspection/emfplus_dump.h"
 #include "frontends/inspection/record_printers.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
@@ -36,6 +37,7 @@ void DumpEnd(EmfEnd end, std::size_t offset, std::size_t left, FieldWriter& fiel
 
 void Dump(std::span<const unsigned char> file, std::ostream& out) {
   FieldWriter fields(out);
+  EmfPlusDump emfPlus(fields);
   EmfRecordIterator records(file);
   while (out) {
     auto record = records.Next();
@@ -43,7 +45,9 @@ void Dump(std::span<const unsigned char> file, std::ostream& out) {
       DumpEnd(records.End().value(), records.Offset(), file.size() - records.Offset(), fields);
       break;
     }
+    const EmfRecord asStored = *record;
     DumpRecord(*record, fields);
+    if (asStored.type == EMR_COMMENT) emfPlus.AddComment(asStored.offset, asStored.bytes);
   }
   fields.Flush();
 }

@@ -105,11 +105,27 @@ void FieldWriter::WriteNamed(ValueNames names, std::uint32_t value) {
   WriteHexadecimal(unnamed);
 }
 
-void FieldWriter::Write(const ArrayView<char16_t>& units) {
+void FieldWriter::Write(const Argb& color) {
+  text_.Append("#");
+  char* out = text_.Room(kNumberRoom);
+  for (const unsigned char channel : {color.alpha, color.red, color.green, color.blue})
+    out = WriteByte(out, channel);
+  text_.EndAt(out);
+}
+
+template <class Units>
+void FieldWriter::WriteUnits(const Units& units) {
   text_.Append("\"");
   for (std::size_t i = 0; i < units.size(); FlushWhenLong())
     i += AppendEscaped(text_, units[i], i + 1 < units.size() ? units[i + 1] : u'\0');
   text_.Append("\"");
+}
+
+void FieldWriter::Write(const ArrayView<char16_t>& units) {
+  WriteUnits(units);
+}
+void FieldWriter::Write(std::u16string_view units) {
+  WriteUnits(units);
 }
 
 void FieldWriter::Write(const ArrayView<unsigned char>& units) {

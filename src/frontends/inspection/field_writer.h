@@ -8,11 +8,13 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <vector>
 
 #include "base/text_buffer.h"
 #include "frontends/inspection/escaped_text.h"
 #include "frontends/inspection/value_names.h"
 #include "metafile/byte_view.h"
+#include "metafile/emfplus/emfplus_types.h"
 #include "metafile/gdi_types.h"
 
 namespace kelvane {
@@ -31,7 +33,7 @@ ArrayView<Unit> UpToNul(const ArrayView<Unit>& units) {
 ///
 ///     a number        12 or 0.5
 ///     a named value   MM_TEXT, TA_LEFT|TA_BASELINE; 0x20 for what has no name
-///     a colour        #rrggbb; 0xtt112233 when its top byte is not 0
+///     a colour        #rrggbb; 0xtt112233 when its top byte is not 0; with alpha #aarrggbb
 ///     a structure     (1,2)
 ///     a list          2:(1,2),(3,4)    how many, and each of them
 ///     bytes           9:0a0b0c         how many, and the first of them
@@ -88,6 +90,8 @@ class FieldWriter {
   void Write(std::int64_t number);
   void Write(float number);
   void Write(ColorRef color);
+  void Write(const Argb& color);
+  void Write(std::u16string_view units);
   void Write(const ArrayView<char16_t>& units);
   void Write(const ArrayView<char>& units);           // in a code page that is not known here
   void Write(const ArrayView<unsigned char>& units);  // the low bytes of UTF-16
@@ -121,6 +125,10 @@ class FieldWriter {
   void Write(const ArrayView<T>& values) {
     WriteList(values);
   }
+  template <class T>
+  void Write(const std::vector<T>& values) {
+    WriteList(values);
+  }
 
   /// A text with room for so many units.
   template <std::size_t count>
@@ -143,6 +151,9 @@ class FieldWriter {
       FlushWhenLong();
     }
   }
+
+  template <class Units>
+  void WriteUnits(const Units& units);
 
   void Write(std::size_t number) { Write(static_cast<std::int64_t>(number)); }
   void WriteHexadecimal(std::uint32_t number);

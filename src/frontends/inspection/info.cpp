@@ -104,6 +104,17 @@ std::string CountsOf(const MetafileInfo& info) {
   return lines;
 }
 
+std::string EmfPlusCountsOf(const MetafileInfo& info) {
+  std::string lines;
+  for (std::uint32_t i = 0; i < info.emfPlusCountOf.size(); ++i) {
+    const std::size_t count = info.emfPlusCountOf[i];
+    if (count > 0) lines += CountLine(count, EmfPlusRecordName(kEmfPlusHeader + i));
+  }
+  if (info.unknownEmfPlusRecords > 0)
+    lines += CountLine(info.unknownEmfPlusRecords, "of no known type");
+  return lines;
+}
+
 }  // namespace
 
 std::optional<std::string> InfoOf(std::span<const unsigned char> file, std::string_view name) {
@@ -121,6 +132,7 @@ std::optional<std::string> InfoOf(std::span<const unsigned char> file, std::stri
   text += Line("fonts", FontsOf(*info));
   text += Line("framing", EndOf(*info));
   text += Line("EMF+ records", std::to_string(info->emfPlusRecords));
+  text += EmfPlusCountsOf(*info);
   text += Line("records", RecordsOf(*info));
   return text + CountsOf(*info);
 }

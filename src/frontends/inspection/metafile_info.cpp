@@ -34,6 +34,9 @@ class Inspector {
     if (comment.kind != EmfCommentKind::kEmfPlus) return;
     while (const auto record = NextEmfPlusRecord(comment.data)) {
       ++info_.emfPlusRecords;
+      ++(EmfPlusRecordName(record->type).empty()
+             ? info_.unknownEmfPlusRecords
+             : info_.emfPlusCountOf[record->type - std::size_t{kEmfPlusHeader}]);
       if (record->type == kEmfPlusHeader) info_.isDual = (record->flags & kEmfPlusDualFlag) != 0;
     }
   }

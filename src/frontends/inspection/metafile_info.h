@@ -10,6 +10,7 @@
 #include "metafile/emf/emf_header.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
+#include "metafile/emfplus/emfplus_record_type.h"
 
 namespace kelvane {
 
@@ -24,6 +25,8 @@ struct MetafileInfo {
   std::size_t unknownRecords = 0;                         // of no such type
 
   std::size_t emfPlusRecords = 0;
+  std::array<std::size_t, kEmfPlusRecordTypes> emfPlusCountOf = {};  // by type, from the first on
+  std::size_t unknownEmfPlusRecords = 0;                             // of no such type
   bool isDual = false;  // whether EMF has the whole picture beside EMF+, too
 
   EmfEnd end{};               // what ended the records

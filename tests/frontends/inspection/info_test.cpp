@@ -102,6 +102,19 @@ TEST(Info, CountsEmfPlusRecords) {
   EXPECT_EQ(InfoLine(file, "format"), "EMF+ within EMF");
 }
 
+TEST(Info, CountsEmfPlusRecordsByType) {
+  const auto file =
+      FileWith(EmfPlusComment({{0x4001, 0}, {0x4014, 0}, {0x4014, 0}, {0x4000, 0}, {0x403A, 0}}));
+  const std::string text = InfoOf(file, "").value();
+  const std::size_t start = text.find("  EMF+ records");
+  EXPECT_EQ(text.substr(start, text.find("  records", start) - start),
+            "  EMF+ records  5\n"
+            "         1 EmfPlusHeader\n"
+            "         2 EmfPlusFillPath\n"
+            "         1 EmfPlusSetTSClip\n"
+            "         1 of no known type\n");
+}
+
 TEST(Info, SaysWhenEmfHasThePictureBesideEmfPlus) {
   EXPECT_EQ(InfoLine(FileWith(EmfPlusComment({{0x4001, 1}})), "format"),
             "EMF with EMF+, each the whole picture");

@@ -157,7 +157,7 @@ Samples Comments() {
   const std::string identified = " PublicCommentIdentifier=";
   return {
       {{EMR_COMMENT}, Comment(Bytes().Each({1, 2, 3, 4})), " DataSize=4 PrivateData=4:01020304"},
-      {{EMR_COMMENT}, Comment(plus), " DataSize=32 EmfPlusRecord=0x4001 EmfPlusRecord=0x4002"},
+      {{EMR_COMMENT}, Comment(plus), " DataSize=32"},
       {{EMR_COMMENT},
        Comment(publicComment(3)),
        " DataSize=8" + identified + "EMR_COMMENT_ENDGROUP"},
