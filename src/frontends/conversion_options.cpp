@@ -130,6 +130,13 @@ constexpr ConversionOption kOptions[] = {
      [](ConversionOptions& options, std::string_view value) {
        options.outlinesText = value == "yes";
      }},
+    {"emfplus", "auto|always|never", "auto",
+     "whether EMF+ makes the picture of a file that has it; auto: when all of it can be played", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.emfPlus = value == "always"  ? EmfPlusChoice::kAlways
+                         : value == "never" ? EmfPlusChoice::kNever
+                                            : EmfPlusChoice::kAuto;
+     }},
     {"strict", "no|yes", "no", "fails when anything is left out of the picture", "",
      [](ConversionOptions& options, std::string_view value) { options.strict = value == "yes"; }},
 };

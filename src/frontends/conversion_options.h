@@ -7,6 +7,7 @@
 
 #include "gdi/font_map.h"
 #include "players/page_placement.h"
+#include "players/play_setting.h"
 
 namespace kelvane {
 
@@ -18,7 +19,8 @@ struct ConversionOptions {
   std::vector<std::string> fontDirectories;  // absolute paths, looked into before installed fonts
   FontMap fontMap;
   bool outlinesText = false;  // whether text becomes shapes
-  bool strict = false;        // whether a document that lacks something counts as a failure
+  EmfPlusChoice emfPlus = EmfPlusChoice::kAuto;
+  bool strict = false;  // whether a document that lacks something counts as a failure
 };
 
 /// An option as the C interface lists it. The tool, its manual page and its completion follow the

@@ -12,7 +12,7 @@
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/quartz/cg_data_consumer.h"
 #include "players/emf/emf_player.h"
-#include "players/text_setting.h"
+#include "players/play_setting.h"
 
 namespace kelvane {
 namespace {
@@ -62,8 +62,9 @@ void Remark(PageTrouble trouble, Report& report) {
 
 /// The page of a picture whose header tells of none.
 PagePlacement PageOfWhatIsDrawn(Bytes file, const PictureGeometry& picture,
-                                const PageSizeWish& wish, const TextSetting& text, Report& report) {
-  const auto area = DrawnArea(file, text);
+                                const PageSizeWish& wish, const PlaySetting& setting,
+                                Report& report) {
+  const auto area = DrawnArea(file, setting);
   const auto page = area ? PlaceAreaOnPage(picture, *area, wish) : std::nullopt;
   if (page) {
     report.Remark("the header tells of no page: it is what is drawn");
@@ -76,10 +77,10 @@ PagePlacement PageOfWhatIsDrawn(Bytes file, const PictureGeometry& picture,
 }
 
 PagePlacement PageOf(Bytes file, const EmfHeader& header, const ConversionOptions& options,
-                     const TextSetting& text, Report& report) {
+                     const PlaySetting& setting, Report& report) {
   const PictureGeometry picture = GeometryOf(header);
   const auto page = PlaceOnPage(picture, options.page, options.size);
-  if (!page) return PageOfWhatIsDrawn(file, picture, options.size, text, report);
+  if (!page) return PageOfWhatIsDrawn(file, picture, options.size, setting, report);
   Remark(page->trouble, report);
   return *page;
 }
@@ -87,7 +88,7 @@ PagePlacement PageOf(Bytes file, const EmfHeader& header, const ConversionOption
 /// Plays the records onto a page and writes that as a document. @return how many records there
 /// were.
 std::size_t WriteDocument(Bytes file, const EmfHeader& header, const PagePlacement& page,
-                          const TextSetting& text, CFMutableDataRef output, Report& report) {
+                          const PlaySetting& setting, CFMutableDataRef output, Report& report) {
   CFDictionary information;
   information.texts = {{kCGPDFContextTitle, Text(header.title)},
                        {kCGPDFContextCreator, Text(header.creator)}};
@@ -96,7 +97,7 @@ std::size_t WriteDocument(Bytes file, const EmfHeader& header, const PagePlaceme
   const CFOwned<CGContext> surface(CGPDFContextCreate(consumer.get(), &box, &information));
   if (!surface) throw std::runtime_error("the page has no area");
   CGContextBeginPage(surface.get(), &box);
-  const std::size_t records = PlayEmf(file, page, text, *surface, report);
+  const std::size_t records = PlayEmf(file, page, setting, *surface, report);
   CGContextEndPage(surface.get());
   CGPDFContextClose(surface.get());
   return records;
@@ -127,10 +128,11 @@ void Convert(Bytes file, const ConversionOptions& options, PictureConversion& co
   if (!header) return Fail(conversion, ConversionStatus::kNoPicture, WhyNone(file));
   const TextSetting text = {FontRegistries::Shared().For(options.fontDirectories), options.fontMap,
                             options.outlinesText};
-  const PagePlacement page = PageOf(file, *header, options, text, conversion.report);
+  const PlaySetting setting = {text, options.emfPlus};
+  const PagePlacement page = PageOf(file, *header, options, setting, conversion.report);
   conversion.document.reset(CFDataCreateMutable(kCFAllocatorDefault, 0));
   conversion.records =
-      WriteDocument(file, *header, page, text, conversion.document.get(), conversion.report);
+      WriteDocument(file, *header, page, setting, conversion.document.get(), conversion.report);
   conversion.format = options.format;
   conversion.pageSize = page.size;
   if (options.strict && !conversion.report.IsWhole()) {

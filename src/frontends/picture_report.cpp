@@ -4,6 +4,7 @@
 
 #include "frontends/json_writer.h"
 #include "metafile/emf/emf_record_type.h"
+#include "metafile/emfplus/emfplus_record_type.h"
 
 namespace kelvane {
 namespace {
@@ -13,7 +14,8 @@ double ToThousandths(double number) {
 }
 
 void AddRecords(const ReportedRecords& records, JsonWriter& json) {
-  const std::string_view name = RecordName(records.type);
+  std::string_view name = RecordName(records.type);
+  if (name.empty()) name = EmfPlusRecordName(records.type);
   json.BeginObject();
   json.Key("record");
   json.Text(name.empty() ? "unknown" : name);

@@ -100,9 +100,6 @@ class Canvas {
   /// @return it as it lies on the page, the same one each time.
   CGSharedPattern Placed(const CGSharedPattern& cell, PointL origin);
 
-  /// All that can be seen, device units.
-  [[nodiscard]] const RectangleD& Whole() const { return whole_; }
-
  private:
   using CellKey =
       std::tuple<Brush::Kind, HatchStyle, std::uint32_t, std::int64_t, const unsigned char*,

@@ -44,6 +44,13 @@ TEST(ConversionOptions, SetWhetherTextBecomesShapes) {
   EXPECT_FALSE(With("outline-text", "no").outlinesText);
 }
 
+TEST(ConversionOptions, SetWhichRecordsMakeThePicture) {
+  EXPECT_EQ(ConversionOptions().emfPlus, EmfPlusChoice::kAuto);
+  EXPECT_EQ(With("emfplus", "always").emfPlus, EmfPlusChoice::kAlways);
+  EXPECT_EQ(With("emfplus", "never").emfPlus, EmfPlusChoice::kNever);
+  EXPECT_EQ(With("emfplus", "auto").emfPlus, EmfPlusChoice::kAuto);
+}
+
 TEST(ConversionOptions, AddDirectoriesOfFontsByTheirWholePaths) {
   const test::TemporaryFolder folder;
   std::filesystem::create_directory(folder / "more");
@@ -129,7 +136,7 @@ TEST(ConversionOptions, SayOfAFormatThatIsToComeThatItIsNotThereYet) {
 TEST(ConversionOptions, SayWhichThereAreWhenOneIsUnknown) {
   EXPECT_EQ(RefusalOf("dpi", "200"),
             "there is no option 'dpi': there are format, page, width, height, scale, font-dir, "
-            "font-map, outline-text and strict");
+            "font-map, outline-text, emfplus and strict");
 }
 
 struct RefusedValue {
@@ -165,7 +172,7 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedValue{"AboveTheMost", "scale", "1000.1"},
         RefusedValue{"NoDirectory", "font-dir", ""}, RefusedValue{"AFile", "font-dir", "/dev/null"},
         RefusedValue{"NoAnswerOnText", "outline-text", "maybe"},
-        RefusedValue{"NoAnswer", "strict", "true"}),
+        RefusedValue{"NoHalf", "emfplus", "yes"}, RefusedValue{"NoAnswer", "strict", "true"}),
     [](const auto& row) { return row.param.test; });
 
 }  // namespace

@@ -47,7 +47,7 @@ const Arrows& Floors() {
       {"gdi", {"metafile", "platform/fonts"}},
       {"gdiplus", {"gdi", "metafile/emfplus"}},
       {"players", {"gdiplus"}},
-      {"players/emfplus", {"players"}},
+      {"players/emfplus", {"players", "metafile/emfplus"}},
       {"players/emf", {"players/emfplus", "metafile/emf"}},
       {"classic/reader", {"platform/quartz"}},
       {"classic/playable", {"classic/reader"}},

@@ -16,6 +16,9 @@ _kelvane() {
     --page)
       mapfile -t COMPREPLY < <(compgen -W 'frame bounds' -- "$current")
       return ;;
+    --emfplus)
+      mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$current")
+      return ;;
     -d | --directory | --font-dir)
       mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
     -o | --output | --report | --font-map)
@@ -26,7 +29,7 @@ _kelvane() {
       case $current in
         -*)
           mapfile -t COMPREPLY < <(compgen -W '--output --directory --jobs --report --format --page
-            --width --height --scale --font-dir --font-map --outline-text --strict --help --version' -- "$current")
+            --width --height --scale --font-dir --font-map --outline-text --emfplus --strict --help --version' -- "$current")
           return ;;
       esac
       mapfile -t COMPREPLY < <(

@@ -1,26 +1,21 @@
 #include "metafile/emf/emf_comment_records.h"
-#include "metafile/emfplus/emfplus_record.h"
 #include "players/emf/emf_handler.h"
+#include "players/emfplus/emfplus_player.h"
 
 namespace kelvane {
 namespace {
 
-/// The first record of EMF+ says whether the records of EMF have the same picture.
-void PlayEmfPlus(EmfPlayback& p, ByteView data) {
-  while (const auto record = NextEmfPlusRecord(data)) {
-    if (record->type == kEmfPlusHeader) {
-      p.hasEmfHalf = (record->flags & kEmfPlusDualFlag) != 0;
-    }
-    ++p.emfPlusRecords;
-  }
-  if (!p.hasEmfHalf) p.LeftOut("its EMF+ records are not played yet");
+void PlayEmfPlusComment(EmfPlayback& p, ByteView data) {
+  if (p.emfPlus == nullptr) return;
+  PlayEmfPlus(*p.emfPlus, data);
+  p.device.canvas = p.emfPlus->handsOver ? p.canvas : nullptr;
 }
 
 /// Groups and other forms of the picture mark nothing: what is to be seen stands in the records.
 void PlayComment(EmfPlayback& p, const CommentRecord& r) {
   switch (r.kind) {
     case EmfCommentKind::kEmfPlus:
-      return PlayEmfPlus(p, r.data);
+      return PlayEmfPlusComment(p, r.data);
     case EmfCommentKind::kPrivate:
       ++p.privateComments;
       return;

@@ -11,6 +11,8 @@
 
 namespace kelvane {
 
+struct EmfPlusPlayback;
+
 /// An EMF file being played.
 struct EmfPlayback {
   DeviceContext& device;
@@ -18,12 +20,21 @@ struct EmfPlayback {
   std::uint32_t type = 0;      // of the record at hand
   std::uint32_t blitType = 0;  // of the last bitmap record
 
-  std::size_t emfPlusRecords = 0;
-  bool hasEmfHalf = false;  // whether EMF records have what EMF+ has
+  /// Null when the records of EMF make the picture. Otherwise those of EMF+ do, with those of EMF
+  /// to which they hand over; the device has this canvas only for them.
+  EmfPlusPlayback* emfPlus = nullptr;
+  Canvas* canvas = device.canvas;
+
   std::size_t privateComments = 0;
 
-  void LeftOut(std::string_view why) { report.LeftOut(type, why); }
-  void OnlyNearly(std::string_view why) { report.OnlyNearly(type, why); }
+  [[nodiscard]] bool IsShown() const { return emfPlus == nullptr || device.canvas != nullptr; }
+
+  void LeftOut(std::string_view why) {
+    if (IsShown()) report.LeftOut(type, why);
+  }
+  void OnlyNearly(std::string_view why) {
+    if (IsShown()) report.OnlyNearly(type, why);
+  }
   void Damaged(std::string_view why) { report.Damaged(type, why); }
 };
 

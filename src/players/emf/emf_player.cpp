@@ -1,16 +1,19 @@
 #include "players/emf/emf_player.h"
 
-#include <array>
+#include <optional>
 #include <string>
-#include <string_view>
 
 #include "gdi/canvas.h"
+#include "gdi/exactly.h"
 #include "gdi/font_book.h"
 #include "gdi/painting.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
 #include "players/drawn_extent.h"
+#include "players/emf/emf_halves.h"
 #include "players/emf/emf_handler.h"
+#include "players/emfplus/emfplus_playback.h"
+#include "players/shortfall_words.h"
 
 namespace kelvane {
 namespace {
@@ -32,35 +35,6 @@ DeviceResolution ResolutionOf(const PictureGeometry& picture) {
           DotsPerInch(picture.devicePixelsHigh, picture.deviceMillimetersHigh)};
 }
 
-struct ShortfallWords {
-  std::string_view why;
-  Omission omission = Omission::kOnlyNearly;
-};
-
-/// By shortfall.
-constexpr std::array<ShortfallWords, kShortfalls> kShortfallWords = {{
-    {"its raster operation on these colours is only near"},
-    {"the bitmap of a brush or pen cannot be read"},
-    {"its clip is too complex and was left as it was"},
-    {"its region is too complex and was not painted"},
-    {"its path is too complex to be widened"},
-    {"what it repeats was drawn too often, and not again"},
-    {"no font has some of its characters"},
-    {"its text is glyph numbers of a font that is not there", Omission::kLeftOut},
-    {"its bitmap cannot be read", Omission::kLeftOut},
-    {"its bitmap is far larger than its data", Omission::kLeftOut},
-}};
-
-void ReportShortfalls(EmfPlayback& playback) {
-  Shortfalls& shortfalls = playback.device.shortfalls;
-  if (shortfalls.IsEmpty()) return;
-  for (std::size_t i = 0; i < kShortfallWords.size(); ++i) {
-    if (!shortfalls.Has(static_cast<Shortfall>(i))) continue;
-    playback.report.Note(kShortfallWords[i].omission, playback.type, kShortfallWords[i].why);
-  }
-  shortfalls.Clear();
-}
-
 /// Whether a record may make the marks that wait longer.
 bool AddsToPendingMarks(std::uint32_t type) {
   return type == EMR_MOVETOEX || type == EMR_LINETO || type == EMR_SETPIXELV;
@@ -68,7 +42,7 @@ bool AddsToPendingMarks(std::uint32_t type) {
 
 void FinishMarks(EmfPlayback& playback) {
   DrawPendingMarks(playback.device);
-  ReportShortfalls(playback);
+  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
 }
 
 /// What a blit falls short of is told of its own record.
@@ -76,7 +50,7 @@ void FinishBlits(EmfPlayback& playback) {
   if (playback.device.pendingBlits.blits.empty()) return;
   playback.type = playback.blitType;
   DrawPendingBlits(playback.device);
-  ReportShortfalls(playback);
+  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
 }
 
 void Play(EmfPlayback& playback, EmfRecord& record) {
@@ -88,14 +62,10 @@ void Play(EmfPlayback& playback, EmfRecord& record) {
   const PlayEmfRecord play = FindEmfHandler(record.type);
   if (play == nullptr) return playback.LeftOut("it is of an unknown kind");
   play(playback, record.bytes);
-  ReportShortfalls(playback);
+  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
 }
 
 void ReportComments(const EmfPlayback& playback) {
-  if (playback.hasEmfHalf) {
-    playback.report.Remark(std::to_string(playback.emfPlusRecords) +
-                           " EMF+ records are not played; the picture is drawn from its EMF half");
-  }
   if (playback.privateComments > 0) {
     playback.report.Remark(std::to_string(playback.privateComments) +
                            " comments of programs were passed over");
@@ -119,29 +89,87 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
   return count;
 }
 
+RectangleD AreaOfPage(const PagePlacement& page) {
+  const CGRect area =
+      CGRectApplyAffineTransform({{0, 0}, page.size}, CGAffineTransformInvert(page.deviceToPage));
+  return {area.origin.x, area.origin.y, area.origin.x + area.size.width,
+          area.origin.y + area.size.height};
+}
+
+/// Metafiles within images of a metafile may be played again and again, each with others within.
+/// So they have a share of what the whole file may take, by their sizes.
+struct NestedPlay {
+  Steps bytes;
+  int depth = 0;
+};
+
+/// A picture on its way onto a surface.
+struct Playing {
+  std::span<const unsigned char> file;
+  const PlaySetting& setting;
+  CGContext& surface;
+  Report& report;
+  NestedPlay& nested;
+};
+
 /// @param whole  what can be seen, device units.
-std::size_t PlayOnto(CGContext& surface, const CGAffineTransform& deviceToPage,
-                     std::span<const unsigned char> file, const EmfHeader& header,
-                     const RectangleD& whole, const TextSetting& text, Report& report) {
-  surface.WatchGround({1, 1, 1, 1});  // paper is white
-  Canvas canvas(surface, deviceToPage, whole, ResolutionOf(GeometryOf(header)));
+std::size_t PlayOnto(const Playing& playing, const EmfHeader& header,
+                     const CGAffineTransform& deviceToPage, const RectangleD& whole);
+
+bool PlayWithin(const Playing& outer, const EmfPlusMetafile& metafile,
+                const TransformD& unitToPage) {
+  constexpr int kDeepest = 8;
+  const auto header = ReadEmfHeader(metafile.bytes);
+  if (!header || outer.nested.depth >= kDeepest || !unitToPage.KeepsRectangles()) return false;
+  const auto page = PlaceOnPage(GeometryOf(*header), PageChoice::kFrame, {});
+  if (!page || !outer.nested.bytes.Take(metafile.bytes.size())) return false;
+  const TransformD pageToUnit = {1 / page->size.width, 0, 0, -1 / page->size.height, 0, 1};
+  const CGAffineTransform& t = page->deviceToPage;
+  const TransformD deviceToPage =
+      TransformD{t.a, t.b, t.c, t.d, t.tx, t.ty}.Then(pageToUnit).Then(unitToPage);
+  ++outer.nested.depth;
+  PlayOnto({metafile.bytes, outer.setting, outer.surface, outer.report, outer.nested}, *header,
+           Rounded(deviceToPage), AreaOfPage(*page));
+  --outer.nested.depth;
+  return true;
+}
+
+std::size_t PlayOnto(const Playing& playing, const EmfHeader& header,
+                     const CGAffineTransform& deviceToPage, const RectangleD& whole) {
+  const auto [file, setting, surface, report, nested] = playing;
+  const DeviceResolution resolution = ResolutionOf(GeometryOf(header));
+  Canvas canvas(surface, deviceToPage, whole, resolution);
   canvas.AllowFor(file.size());
-  FontBook fonts(text.registry, surface.FontFilter(), text.map);
+  FontBook fonts(setting.text.registry, surface.FontFilter(), setting.text.map);
   DeviceContext device({header.device, header.millimeters, whole.left, whole.right}, &canvas);
   device.fonts = &fonts;
-  device.outlinesText = text.outlines;
+  device.outlinesText = setting.text.outlines;
+  gdiplus::Graphics graphics(&canvas, {resolution.dotsPerInchX, resolution.dotsPerInchY});
+  graphics.fonts = &fonts;
+  graphics.outlinesText = setting.text.outlines;
   EmfPlayback playback = {device, report};
+  std::optional<EmfPlusPlayback> emfPlus;
+  if (ChooseHalf(file, setting.emfPlus, report) == EmfHalf::kEmfPlus) {
+    const auto playWithin = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
+      return PlayWithin(playing, metafile, unitToDevice.Then(canvas.ToPage()));
+    };
+    emfPlus.emplace(EmfPlusPlayback{graphics, report, playWithin});
+    playback.emfPlus = &*emfPlus;
+    device.canvas = nullptr;
+  }
   const std::size_t count = PlayRecords(file, playback);
   ReportComments(playback);
   report.UsedFonts(fonts.Uses());
   return count;
 }
 
-RectangleD AreaOfPage(const PagePlacement& page) {
-  const CGRect area =
-      CGRectApplyAffineTransform({{0, 0}, page.size}, CGAffineTransformInvert(page.deviceToPage));
-  return {area.origin.x, area.origin.y, area.origin.x + area.size.width,
-          area.origin.y + area.size.height};
+/// @return how many records there were.
+std::size_t PlayWhole(std::span<const unsigned char> file, const EmfHeader& header,
+                      const PlaySetting& setting, CGContext& surface, Report& report,
+                      const CGAffineTransform& deviceToPage, const RectangleD& whole) {
+  NestedPlay nested = {Steps((1U << 20) + 16 * std::uint64_t{file.size()})};
+  surface.WatchGround({1, 1, 1, 1});  // paper is white
+  return PlayOnto({file, setting, surface, report, nested}, header, deviceToPage, whole);
 }
 
 }  // namespace
@@ -164,25 +192,25 @@ PictureGeometry GeometryOf(const EmfHeader& header) {
 }
 
 std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file,
-                                         const TextSetting& text) {
+                                         const PlaySetting& setting) {
   const auto header = ReadEmfHeader(file);
   if (!header) return std::nullopt;
   constexpr double kFar = 1 << 24;  // beyond it single precision has no whole units
   const CFOwned<DrawnExtent> extent(new DrawnExtent);
   extent->BeginPage({{0, 0}, {1, 1}});
   Report unread;
-  PlayOnto(*extent, {}, file, *header, {-kFar, -kFar, kFar, kFar}, text, unread);
+  PlayWhole(file, *header, setting, *extent, unread, {}, {-kFar, -kFar, kFar, kFar});
   extent->EndPage();
   return extent->Area();
 }
 
 std::size_t PlayEmf(std::span<const unsigned char> file, const PagePlacement& page,
-                    const TextSetting& text, CGContext& surface, Report& report) {
+                    const PlaySetting& setting, CGContext& surface, Report& report) {
   const auto header = ReadEmfHeader(file);
   if (!header) return 0;
   surface.SaveGState();
   const std::size_t count =
-      PlayOnto(surface, page.deviceToPage, file, *header, AreaOfPage(page), text, report);
+      PlayWhole(file, *header, setting, surface, report, page.deviceToPage, AreaOfPage(page));
   surface.RestoreGState();
   return count;
 }

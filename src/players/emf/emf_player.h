@@ -7,8 +7,8 @@
 #include "metafile/emf/emf_header.h"
 #include "platform/quartz/cg_context.h"
 #include "players/page_placement.h"
+#include "players/play_setting.h"
 #include "players/report.h"
-#include "players/text_setting.h"
 
 namespace kelvane {
 
@@ -22,15 +22,15 @@ PictureGeometry GeometryOf(const EmfHeader& header);
 /// @return what the records draw, in device units; nullopt when they draw nothing. For files whose
 ///         header does not say. Throws std::bad_alloc.
 std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file,
-                                         const TextSetting& text);
+                                         const PlaySetting& setting);
 
 /// Plays all records onto the surface's page. Whatever is in the file, the surface's state is
 /// afterwards what it was.
 /// @param page    where the picture lies on it.
-/// @param text    how text is set.
+/// @param setting  how it is played.
 /// @param report  gets what is missing or only nearly there.
 /// @return how many records there were. Throws what the surface throws.
 std::size_t PlayEmf(std::span<const unsigned char> file, const PagePlacement& page,
-                    const TextSetting& text, CGContext& surface, Report& report);
+                    const PlaySetting& setting, CGContext& surface, Report& report);
 
 }  // namespace kelvane

@@ -218,35 +218,7 @@ TEST(EmfPlayer, MarksNothingByABlitThatLeavesThePage) {
   EXPECT_EQ(Played(Metafile().BitBlt({0, 0}, {99, 99}, kDestination).Build()).trace, "");
 }
 
-// EMF+.
-
-constexpr std::uint32_t kEmfPlus = 0x2B464D45;
-constexpr std::uint32_t kPlusHeader = 0x4001;
-constexpr std::uint32_t kPlusEnd = 0x4002;
-constexpr std::uint32_t kDual = 1;
-
-Bytes PlusComment(std::uint32_t flags) {
-  Bytes records = Bytes().U32(kEmfPlus);
-  records.U16(kPlusHeader).U16(flags).U32(28).U32(16).Zeros(16);
-  records.U16(kPlusEnd).U16(0).U32(12).U32(0);
-  return Bytes().U32(static_cast<std::uint32_t>(records.Size())).Append(records.Data());
-}
-
-TEST(EmfPlayer, ReportsEmfPlusWithoutAHalfInEmf) {
-  const PlayedEmf played = PlayedAlone(EMR_GDICOMMENT, PlusComment(0));
-  EXPECT_EQ(played.report, "left out EMR_COMMENT 1: its EMF+ records are not played yet\n");
-  EXPECT_FALSE(played.isWhole);
-}
-
-TEST(EmfPlayer, PlaysTheHalfInEmfAndRemarksTheOther) {
-  Metafile metafile;
-  metafile.Record(EMR_GDICOMMENT, PlusComment(kDual));
-  const PlayedEmf played = Played(AddLine(metafile).Build());
-  EXPECT_EQ(played.trace, kLine);
-  EXPECT_EQ(played.report, "");
-  EXPECT_THAT(played.remarks, ElementsAre("2 EMF+ records are not played; the picture is drawn "
-                                          "from its EMF half"));
-}
+// Comments.
 
 TEST(EmfPlayer, CountsTheCommentsOfPrograms) {
   Metafile metafile;

@@ -62,7 +62,7 @@ std::string TraceOfScene(const std::string& scene) {
   const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
   CGContextBeginPage(surface.get(), &box);
   PlayEmf({reinterpret_cast<const unsigned char*>(file.data()), file.size()}, page,
-          test::InstalledFonts(), *surface, report);
+          {test::InstalledFonts()}, *surface, report);
   CGContextEndPage(surface.get());
   return trace + Lines(report);
 }

@@ -39,13 +39,13 @@ std::string LinesOf(const Report& report) {
 
 }  // namespace
 
-PlayedEmf Played(const std::vector<unsigned char>& file) {
+PlayedEmf Played(const std::vector<unsigned char>& file, EmfPlusChoice emfPlus) {
   PlayedEmf played;
   Report report;
   const CFOwned<CGContext> surface(CGTraceContextCreate(played.trace));
   surface->BeginPage({{0, 0}, {100, 100}});
   played.trace.clear();
-  played.records = PlayEmf(file, {{100, 100}, {}}, InstalledFonts(), *surface, report);
+  played.records = PlayEmf(file, {{100, 100}, {}}, {InstalledFonts(), emfPlus}, *surface, report);
   played.report = LinesOf(report);
   played.remarks = report.Remarks();
   played.isWhole = report.IsWhole();
@@ -53,7 +53,7 @@ PlayedEmf Played(const std::vector<unsigned char>& file) {
 }
 
 std::optional<StoredRectangle> DrawnAreaOf(const std::vector<unsigned char>& file) {
-  return DrawnArea(file, InstalledFonts());
+  return DrawnArea(file, {InstalledFonts()});
 }
 
 bool HasEmfHeader(const std::vector<unsigned char>& file) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "players/page_placement.h"
+#include "players/play_setting.h"
 
 namespace kelvane::test {
 
@@ -19,7 +20,8 @@ struct PlayedEmf {
   std::size_t records = 0;
 };
 
-PlayedEmf Played(const std::vector<unsigned char>& file);
+PlayedEmf Played(const std::vector<unsigned char>& file,
+                 EmfPlusChoice emfPlus = EmfPlusChoice::kAuto);
 
 std::optional<StoredRectangle> DrawnAreaOf(const std::vector<unsigned char>& file);
 

@@ -1,0 +1,53 @@
+#include "players/emfplus/emfplus_player.h"
+
+#include "metafile/emfplus/emfplus_record_type.h"
+#include "metafile/jpeg_header.h"
+#include "metafile/png_decoder.h"
+#include "players/emfplus/emfplus_handler.h"
+#include "players/shortfall_words.h"
+
+namespace kelvane {
+namespace {
+
+void PlayOne(EmfPlusPlayback& playback, const EmfPlusRecord& record) {
+  playback.type = record.type;
+  if (record.type != kEmfPlusObject) playback.assembler.Drop();
+  playback.handsOver = false;
+  const PlayEmfPlusRecord play = FindEmfPlusHandler(record.type);
+  if (play == nullptr) return playback.LeftOut("it is of a kind that is not played");
+  play(playback, record);
+  ReportShortfalls(playback.graphics.shortfalls, playback.type, playback.report);
+}
+
+bool IsPlayable(const EmfPlusImage& image) {
+  if (const auto* const file = std::get_if<EmfPlusImageFile>(&image)) {
+    return ReadPngHeader(file->bytes) || ReadJpegHeader(file->bytes);
+  }
+  const auto* const metafile = std::get_if<EmfPlusMetafile>(&image);
+  return metafile == nullptr || (metafile->type != EmfPlusMetafileType::kWmf &&
+                                 metafile->type != EmfPlusMetafileType::kPlaceableWmf);
+}
+
+}  // namespace
+
+std::size_t PlayEmfPlus(EmfPlusPlayback& playback, ByteView data) {
+  std::size_t count = 0;
+  while (const auto record = NextEmfPlusRecord(data)) {
+    PlayOne(playback, *record);
+    ++count;
+  }
+  return count;
+}
+
+bool IsPlayable(const EmfPlusRecord& record) {
+  if (FindEmfPlusHandler(record.type) == nullptr) return false;
+  if (record.type != kEmfPlusObject) return true;
+  EmfPlusObjectAssembler assembler;
+  EmfPlusStoredObject stored;
+  // What comes in pieces is found out when it is drawn.
+  if (assembler.Add(record, stored) != EmfPlusObjectAssembler::Progress::kWhole) return true;
+  const auto* const image = std::get_if<EmfPlusImage>(&stored.object);
+  return image == nullptr || IsPlayable(*image);
+}
+
+}  // namespace kelvane
