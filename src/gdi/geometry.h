@@ -16,6 +16,10 @@ inline bool IsFinite(PointD point) {
   return std::isfinite(point.x) && std::isfinite(point.y);
 }
 
+inline double Distance(PointD a, PointD b) {
+  return std::hypot(b.x - a.x, b.y - a.y);
+}
+
 /// A rectangle by its edges; y grows downwards, right and bottom lie outside.
 struct RectangleD {
   double left = 0;

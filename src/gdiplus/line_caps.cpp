@@ -63,7 +63,7 @@ void AddLine(OutlineBuilder& outline, const FlatLine& line, const LineJoin& join
   outline.AddBand(clean, {width / 2, -width / 2}, join);
   if (clean.isClosed || clean.points.size() < 2) return;
   const auto end = [](PointD inner, PointD outer) {
-    const double length = std::hypot(outer.x - inner.x, outer.y - inner.y);
+    const double length = Distance(inner, outer);
     return LineEnd{outer, {(outer.x - inner.x) / length, (outer.y - inner.y) / length}};
   };
   AddPlainCap(outline, startCap, end(clean.points[1], clean.points[0]), width);

@@ -45,7 +45,7 @@ std::optional<std::vector<FlatLine>> DashesOf(const FlatLine& line, std::span<co
   for (std::size_t i = 1; i < points.size(); ++i) {
     const PointD from = points[i - 1];
     const PointD to = points[i];
-    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    const double length = Distance(from, to);
     double done = 0;
     while (length - done > pattern.Left()) {
       if (++changes > 2 * most) return std::nullopt;

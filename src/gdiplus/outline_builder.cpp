@@ -27,8 +27,7 @@ double Cross(PointD a, PointD b) {
   return a.x * b.y - a.y * b.x;
 }
 PointD Direction(PointD from, PointD to) {
-  const PointD v = to - from;
-  return (1 / std::hypot(v.x, v.y)) * v;
+  return (1 / Distance(from, to)) * (to - from);
 }
 PointD LeftOf(PointD direction) {
   return {direction.y, -direction.x};
@@ -61,18 +60,30 @@ class Edge {
 
   void AddEnd(PointD at, PointD direction) { points_.push_back(Beside(at, direction)); }
 
-  /// Goes around a corner, whose two directions are of length 1.
-  void AddCorner(PointD at, PointD in, PointD out) {
+  /// Goes around a corner.
+  void AddCorner(PointD before, PointD at, PointD after) {
     constexpr double kNearlyStraight = 0.99;
+    const PointD in = Direction(before, at);
+    const PointD out = Direction(at, after);
     const double dot = Dot(in, out);
     if (dot > kNearlyStraight) return AddMeeting(at, in, out);
-    if (Cross(in, out) * distance_ < 0) return AddInside(at, in, out);
-    AddOutside(at, in, out);
+    if (Cross(in, out) * distance_ >= 0) return AddOutside(at, in, out);
+    const double shorter = std::min(Distance(before, at), Distance(at, after));
+    MeetsWithin(dot, shorter) ? AddMeeting(at, in, out) : AddInside(at, in, out);
   }
 
  private:
   [[nodiscard]] PointD Beside(PointD at, PointD direction) const {
     return at + distance_ * LeftOf(direction);
+  }
+
+  /// Whether the edges on the inside of a corner meet beside both of its lines. A part of a line
+  /// that has the line's middle hides what is beyond in any case.
+  /// @param dot  of their directions. @param shorter  the length of the shorter one.
+  [[nodiscard]] bool MeetsWithin(double dot, double shorter) const {
+    if (turnsAtTheMiddle_ || dot <= -1) return false;
+    const double tangent = std::sqrt((1 - dot) / (1 + dot));  // of half of the turn
+    return std::abs(distance_) * tangent <= shorter;
   }
 
   /// Where the edges of both lines meet.
@@ -136,26 +147,15 @@ class Edge {
 
 void AddEdge(Edge& edge, std::span<const PointD> points, bool isClosed) {
   const std::size_t count = points.size();
-  const auto direction = [&](std::size_t i) {
-    return Direction(points[i % count], points[(i + 1) % count]);
-  };
   if (isClosed) {
-    PointD in = direction(count - 1);
-    for (std::size_t i = 0; i < count; ++i) {
-      const PointD out = direction(i);
-      edge.AddCorner(points[i], in, out);
-      in = out;
-    }
+    for (std::size_t i = 0; i < count; ++i)
+      edge.AddCorner(points[(i + count - 1) % count], points[i], points[(i + 1) % count]);
     return;
   }
-  PointD in = direction(0);
-  edge.AddEnd(points.front(), in);
-  for (std::size_t i = 1; i + 1 < count; ++i) {
-    const PointD out = direction(i);
-    edge.AddCorner(points[i], in, out);
-    in = out;
-  }
-  edge.AddEnd(points.back(), in);
+  edge.AddEnd(points.front(), Direction(points[0], points[1]));
+  for (std::size_t i = 1; i + 1 < count; ++i)
+    edge.AddCorner(points[i - 1], points[i], points[i + 1]);
+  edge.AddEnd(points.back(), Direction(points[count - 2], points[count - 1]));
 }
 
 }  // namespace

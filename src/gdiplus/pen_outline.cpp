@@ -15,10 +15,6 @@ namespace {
 
 constexpr std::size_t kMostDashes = std::size_t{1} << 15;
 
-double Length(PointD a, PointD b) {
-  return std::hypot(b.x - a.x, b.y - a.y);
-}
-
 /// Takes a length off the end of a line.
 /// @return what was its end, and where it pointed; the line is empty when it was not long enough.
 LineEnd CutBack(std::vector<PointD>& points, double cut) {
@@ -27,7 +23,7 @@ LineEnd CutBack(std::vector<PointD>& points, double cut) {
   double left = cut;
   while (left > 0 && points.size() > 1) {
     inner = points[points.size() - 2];
-    const double length = Length(inner, points.back());
+    const double length = Distance(inner, points.back());
     if (length > left) {
       const double t = left / length;
       PointD& end = points.back();
@@ -40,7 +36,7 @@ LineEnd CutBack(std::vector<PointD>& points, double cut) {
     }
   }
   if (points.size() < 2) points.clear();
-  const double length = Length(inner, at);
+  const double length = Distance(inner, at);
   if (length == 0) return {at, {0, 1}};
   return {at, {(at.x - inner.x) / length, (at.y - inner.y) / length}};
 }

@@ -294,6 +294,16 @@ TEST(CompoundPen, GoesAroundClosedFiguresOnBothSides) {
             "move 10 50\nline 60 50\nline 60 10\nline 10 10\nclose\nfill\n");
 }
 
+TEST(CompoundPen, HasCornersWhereTheEdgesOfABandMeetOnTheInside) {
+  EmfPlusPen pen = PenOf(8);
+  pen.compound = {0.75F, 1};
+  TracedGraphics graphics;
+  DrawRectangles(graphics, pen, std::vector<RectF>{{10, 10, 50, 40}});
+  EXPECT_EQ(graphics.TakeMarks(),
+            "move 12 12\nline 58 12\nline 58 48\nline 12 48\nclose\n"
+            "move 14 46\nline 56 46\nline 56 14\nline 14 14\nclose\nfill\n");
+}
+
 TEST(DashCaps, LieInsideTheLengthOfTheDash) {
   EmfPlusPen pen = PenOf(4);
   pen.style = EmfPlusLineStyle::kDash;

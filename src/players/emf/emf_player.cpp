@@ -104,7 +104,7 @@ struct NestedPlay {
 };
 
 /// A picture on its way onto a surface.
-struct Playing {
+struct PlayedPicture {
   std::span<const unsigned char> file;
   const PlaySetting& setting;
   CGContext& surface;
@@ -113,10 +113,10 @@ struct Playing {
 };
 
 /// @param whole  what can be seen, device units.
-std::size_t PlayOnto(const Playing& playing, const EmfHeader& header,
+std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
                      const CGAffineTransform& deviceToPage, const RectangleD& whole);
 
-bool PlayWithin(const Playing& outer, const EmfPlusMetafile& metafile,
+bool PlayWithin(const PlayedPicture& outer, const EmfPlusMetafile& metafile,
                 const TransformD& unitToPage) {
   constexpr int kDeepest = 8;
   const auto header = ReadEmfHeader(metafile.bytes);
@@ -134,9 +134,9 @@ bool PlayWithin(const Playing& outer, const EmfPlusMetafile& metafile,
   return true;
 }
 
-std::size_t PlayOnto(const Playing& playing, const EmfHeader& header,
+std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
                      const CGAffineTransform& deviceToPage, const RectangleD& whole) {
-  const auto [file, setting, surface, report, nested] = playing;
+  const auto [file, setting, surface, report, nested] = picture;
   const DeviceResolution resolution = ResolutionOf(GeometryOf(header));
   Canvas canvas(surface, deviceToPage, whole, resolution);
   canvas.AllowFor(file.size());
@@ -151,7 +151,7 @@ std::size_t PlayOnto(const Playing& playing, const EmfHeader& header,
   std::optional<EmfPlusPlayback> emfPlus;
   if (ChooseHalf(file, setting.emfPlus, report) == EmfHalf::kEmfPlus) {
     const auto playWithin = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
-      return PlayWithin(playing, metafile, unitToDevice.Then(canvas.ToPage()));
+      return PlayWithin(picture, metafile, unitToDevice.Then(canvas.ToPage()));
     };
     emfPlus.emplace(EmfPlusPlayback{graphics, report, playWithin});
     playback.emfPlus = &*emfPlus;
