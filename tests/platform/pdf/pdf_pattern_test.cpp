@@ -29,8 +29,8 @@ using test::Raster;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr CGColor kRed = {1, 0, 0, 1};
-constexpr CGColor kBlue = {0, 0, 1, 1};
+constexpr CGColor kRedMark = {1, 0, 0, 1};
+constexpr CGColor kBlueMark = {0, 0, 1, 1};
 constexpr CGColor kNoBlue = {0, 0, 1, 0};
 constexpr CGColor kHalfRed = {1, 0, 0, 0.5F};
 
@@ -75,7 +75,7 @@ void ExpectNear(const Raster::Color& color, const Raster::Color& expected) {
 
 // The middle of the pixel at 35 is 15.5 of the 60 points along: 0.258.
 TEST(PdfShadingPattern, FillsInItsColours) {
-  const Raster page = Filled(Across(kRed, kBlue), CGRectMake(0, 0, 100, 50));
+  const Raster page = Filled(Across(kRedMark, kBlueMark), CGRectMake(0, 0, 100, 50));
   EXPECT_EQ(page.At(5, 75), kRedPixel);
   EXPECT_EQ(page.At(95, 75), kBluePixel);
   ExpectNear(page.At(35, 75), {189, 0, 66});
@@ -84,21 +84,21 @@ TEST(PdfShadingPattern, FillsInItsColours) {
 
 // Colours that change along x, sheared: those at x = 50 below lie at x = 70 above.
 TEST(PdfShadingPattern, ShearsWithItsMatrix) {
-  const Raster page = Filled(Along(kRed, kBlue, {60, 0, 20, 100, 20, 0}));
+  const Raster page = Filled(Along(kRedMark, kBlueMark, {60, 0, 20, 100, 20, 0}));
   ExpectNear(page.At(50, 99), {125, 0, 130});
   ExpectNear(page.At(70, 0), {125, 0, 130});
 }
 
 // 30.5 of 60 points along, half of red is left over white.
 TEST(PdfShadingPattern, LetsPaperShowThroughByItsAlpha) {
-  const Raster page = Filled(Across(kRed, {1, 0, 0, 0}));
+  const Raster page = Filled(Across(kRedMark, {1, 0, 0, 0}));
   EXPECT_EQ(page.At(5, 50), kRedPixel);
   ExpectNear(page.At(50, 50), {255, 130, 130});
   EXPECT_EQ(page.At(95, 50), kWhitePixel);
 }
 
 TEST(PdfShadingPattern, KeepsTheColourBelowItsAlpha) {
-  const Raster page = Filled(Across(kRed, kNoBlue));
+  const Raster page = Filled(Across(kRedMark, kNoBlue));
   ExpectNear(page.At(50, 50), {255 - 64, 130, 255 - 62});
 }
 
@@ -126,7 +126,7 @@ TEST(PdfShadingPattern, ColoursStrokes) {
   const Raster page(PdfBytesOf([](CGContextRef c) {
     CGContextConcatCTM(c, {1, 0, 0, 2, 0, 0});  // the pen is deformed, the pattern stays
     CGContextSetLineWidth(c, 10);
-    c->SetStrokePattern(Across(kRed, {1, 0, 0, 0}));
+    c->SetStrokePattern(Across(kRedMark, {1, 0, 0, 0}));
     test::StrokeLine(c, {0, 25}, {100, 25});
   }));
   EXPECT_EQ(page.At(5, 50), kRedPixel);
@@ -138,7 +138,7 @@ TEST(PdfShadingPattern, FillsAndStrokesWithTwoKindsOfAlpha) {
   const Raster page(PdfBytesOf([](CGContextRef c) {
     CGContextSetLineWidth(c, 10);
     c->SetFillPattern(Across(kHalfRed, kHalfRed));
-    c->SetStrokePattern(Across(kBlue, kNoBlue));
+    c->SetStrokePattern(Across(kBlueMark, kNoBlue));
     CGContextAddRect(c, CGRectMake(20, 20, 60, 60));
     CGContextDrawPath(c, kCGPathFillStroke);
   }));
@@ -150,9 +150,9 @@ TEST(PdfShadingPattern, FillsAndStrokesWithTwoKindsOfAlpha) {
 // Without their alpha the two patterns are one.
 TEST(PdfShadingPattern, ColoursText) {
   const std::string content = PdfContentOf([](CGContextRef c) {
-    c->SetFillPattern(Across(kRed, kNoBlue));
+    c->SetFillPattern(Across(kRedMark, kNoBlue));
     test::DrawHelvetica(c, u"A", 10, {});
-    c->SetFillPattern(Across(kRed, kBlue));
+    c->SetFillPattern(Across(kRedMark, kBlueMark));
     test::DrawHelvetica(c, u"A", 10, {});
   });
   EXPECT_EQ(content,
@@ -161,7 +161,7 @@ TEST(PdfShadingPattern, ColoursText) {
 }
 
 TEST(PdfShadingPattern, OfAMeshFillsWhatTheMeshCovers) {
-  const Raster page = Filled(Half(kRed), CGRectMake(0, 0, 50, 50));
+  const Raster page = Filled(Half(kRedMark), CGRectMake(0, 0, 50, 50));
   EXPECT_EQ(page.At(10, 90), kRedPixel);
   EXPECT_EQ(page.At(55, 90), kWhitePixel);
   EXPECT_EQ(page.At(48, 52), kWhitePixel);
@@ -184,7 +184,8 @@ TEST(PdfShadingPattern, OfATranslucentMeshStrokesThroughItsAlpha) {
   const Raster page(PdfBytesOf([](CGContextRef c) {
     CGContextSetLineWidth(c, 20);
     CGPattern pattern;
-    pattern.shading = CGTriangleMesh{{{{0, 0}, kRed}, {{100, 0}, {1, 0, 0, 0}}, {{0, 100}, kRed}}};
+    pattern.shading =
+        CGTriangleMesh{{{{0, 0}, kRedMark}, {{100, 0}, {1, 0, 0, 0}}, {{0, 100}, kRedMark}}};
     c->SetStrokePattern(Shared(std::move(pattern)));
     test::StrokeLine(c, {0, 10}, {80, 10});
   }));
@@ -202,7 +203,7 @@ TEST(PdfShadingPattern, OfATranslucentMeshColoursTextInAGroup) {
 
 TEST(PdfShading, IsDrawnWithItsAlpha) {
   const Raster page(PdfBytesOf([](CGContextRef c) {
-    CGContextDrawShading(c, CGAxialShading{{20, 0}, {80, 0}, {{0, kRed}, {1, {1, 0, 0, 0}}}});
+    CGContextDrawShading(c, CGAxialShading{{20, 0}, {80, 0}, {{0, kRedMark}, {1, {1, 0, 0, 0}}}});
     test::SetFill(c, 0, 0, 1);
     FillRect(c, {{0, 0}, {100, 10}});
   }));
@@ -225,14 +226,14 @@ TEST(PdfTilingPattern, HasShapesWithAlpha) {
   CGPattern bars = Bars(kHalfRed);
   CGPath rest;
   rest.AddRectangle({5, 0}, {5, 10});
-  bars.shapes.push_back({rest, kBlue});
+  bars.shapes.push_back({rest, kBlueMark});
   const Raster page = Filled(Shared(std::move(bars)));
   ExpectNear(page.At(42, 50), {255, 128, 128});
   EXPECT_EQ(page.At(47, 50), kBluePixel);
 }
 
 TEST(PdfTilingPattern, LeavesGapsBetweenItsCells) {
-  CGPattern bars = Bars(kRed);
+  CGPattern bars = Bars(kRedMark);
   bars.gap = {30, 1000};
   const Raster page = Filled(Shared(std::move(bars)));
   EXPECT_EQ(page.At(42, 95), kRedPixel);
@@ -276,7 +277,7 @@ TEST(PdfPattern, OfEqualValueIsStoredOnce) {
     for (int i = 0; i < 2; ++i) {
       c->SetFillPattern(Shared(Bars(kHalfRed)));
       FillRect(c, {{0, 0}, {10, 10}});
-      c->SetFillPattern(Across(kRed, kNoBlue));
+      c->SetFillPattern(Across(kRedMark, kNoBlue));
       FillRect(c, {{0, 0}, {10, 10}});
     }
   });
@@ -289,8 +290,9 @@ TEST(PdfPattern, OfAnyKindMakesAFileWithoutFault) {
   const std::string bytes = PdfBytesOf([](CGContextRef c) {
     CGPattern gapped = Bars(kHalfRed);
     gapped.gap = {1, 2};
-    for (const CGSharedPattern& pattern : {Across(kRed, kNoBlue), Half(kHalfRed), Half(kRed),
-                                           Shared(Bars(kHalfRed)), Shared(std::move(gapped))}) {
+    for (const CGSharedPattern& pattern :
+         {Across(kRedMark, kNoBlue), Half(kHalfRed), Half(kRedMark), Shared(Bars(kHalfRed)),
+          Shared(std::move(gapped))}) {
       c->SetFillPattern(pattern);
       c->SetStrokePattern(pattern);
       CGContextAddRect(c, CGRectMake(10, 10, 60, 60));

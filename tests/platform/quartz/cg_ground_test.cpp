@@ -10,8 +10,8 @@ namespace kelvane {
 namespace {
 
 constexpr CGColor kPaper = {1, 1, 1, 1};
-constexpr CGColor kRed = {1, 0, 0, 1};
-constexpr CGColor kBlue = {0, 0, 1, 1};
+constexpr CGColor kRedGround = {1, 0, 0, 1};
+constexpr CGColor kBlueGround = {0, 0, 1, 1};
 
 CGPath Rectangle(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
   CGPath path;
@@ -49,27 +49,27 @@ TEST_F(Ground, IsPaperAtFirst) {
 }
 
 TEST_F(Ground, HasTheColorOfAFilledRectangle) {
-  Paint(Rectangle(10, 10, 20, 20), Filling(kRed));
-  EXPECT_EQ(ground_.ColorOf({10, 10, 30, 30}), kRed);
-  EXPECT_EQ(ground_.ColorOf({12, 12, 13, 13}), kRed);
+  Paint(Rectangle(10, 10, 20, 20), Filling(kRedGround));
+  EXPECT_EQ(ground_.ColorOf({10, 10, 30, 30}), kRedGround);
+  EXPECT_EQ(ground_.ColorOf({12, 12, 13, 13}), kRedGround);
   EXPECT_EQ(ground_.ColorOf({30, 10, 40, 30}), kPaper);
   EXPECT_EQ(ground_.ColorOf({5, 5, 15, 15}), std::nullopt);
 }
 
 TEST_F(Ground, HasTheColorThatWasPaintedLast) {
-  Paint(Rectangle(0, 0, 50, 50), Filling(kRed));
-  Paint(Rectangle(10, 10, 20, 20), Filling(kBlue));
-  EXPECT_EQ(ground_.ColorOf({11, 11, 29, 29}), kBlue);
-  EXPECT_EQ(ground_.ColorOf({31, 31, 49, 49}), kRed);
-  Paint(Rectangle(0, 0, 50, 50), Filling(kRed));
-  EXPECT_EQ(ground_.ColorOf({0, 0, 50, 50}), kRed);
+  Paint(Rectangle(0, 0, 50, 50), Filling(kRedGround));
+  Paint(Rectangle(10, 10, 20, 20), Filling(kBlueGround));
+  EXPECT_EQ(ground_.ColorOf({11, 11, 29, 29}), kBlueGround);
+  EXPECT_EQ(ground_.ColorOf({31, 31, 49, 49}), kRedGround);
+  Paint(Rectangle(0, 0, 50, 50), Filling(kRedGround));
+  EXPECT_EQ(ground_.ColorOf({0, 0, 50, 50}), kRedGround);
 }
 
 TEST_F(Ground, KnowsRectanglesOfLines) {
-  Paint(Polygon({{0, 0}, {9, 0}, {9, 9}, {0, 9}}), Filling(kRed));
-  EXPECT_EQ(ground_.ColorOf({0, 0, 9, 9}), kRed);
-  Paint(Polygon({{20, 0}, {20, 9}, {29, 9}, {29, 0}, {20, 0}}), Filling(kBlue));
-  EXPECT_EQ(ground_.ColorOf({20, 0, 29, 9}), kBlue);
+  Paint(Polygon({{0, 0}, {9, 0}, {9, 9}, {0, 9}}), Filling(kRedGround));
+  EXPECT_EQ(ground_.ColorOf({0, 0, 9, 9}), kRedGround);
+  Paint(Polygon({{20, 0}, {20, 9}, {29, 9}, {29, 0}, {20, 0}}), Filling(kBlueGround));
+  EXPECT_EQ(ground_.ColorOf({20, 0, 29, 9}), kBlueGround);
 }
 
 TEST_F(Ground, IsNotKnownUnderAnyOtherShape) {
@@ -82,19 +82,19 @@ TEST_F(Ground, IsNotKnownUnderAnyOtherShape) {
                              Polygon({{4, 0}, {9, 4}, {4, 9}, {0, 4}}),
                              Polygon({{0, 0}, {9, 0}, {9, 9}, {0, 9}, {4, 4}})}) {
     ground_ = CGGround(kPaper);
-    Paint(path, Filling(kRed));
+    Paint(path, Filling(kRedGround));
     EXPECT_EQ(ground_.ColorOf({3, 3, 4, 4}), std::nullopt);
     EXPECT_EQ(ground_.ColorOf({10, 10, 11, 11}), kPaper);
   }
 }
 
 TEST_F(Ground, IsNotKnownWhereMarksAreMixedWithIt) {
-  CGGraphicsState darkening = Filling(kRed);
+  CGGraphicsState darkening = Filling(kRedGround);
   darkening.blendMode = kCGBlendModeDarken;
-  CGGraphicsState translucent = Filling(kRed);
+  CGGraphicsState translucent = Filling(kRedGround);
   translucent.alpha = 0.5F;
   CGGraphicsState glazing = Filling({1, 0, 0, 0.5F});
-  CGGraphicsState patterned = Filling(kRed);
+  CGGraphicsState patterned = Filling(kRedGround);
   patterned.fillPattern = std::make_shared<const CGPattern>();
   for (const CGGraphicsState& state : {darkening, translucent, glazing, patterned}) {
     ground_ = CGGround(kPaper);
@@ -104,7 +104,7 @@ TEST_F(Ground, IsNotKnownWhereMarksAreMixedWithIt) {
 }
 
 TEST_F(Ground, IsNotKnownUnderAStroke) {
-  CGGraphicsState state = Filling(kRed);
+  CGGraphicsState state = Filling(kRedGround);
   state.lineWidth = 4;
   Paint(Rectangle(10, 10, 50, 50), state, kCGPathStroke);
   EXPECT_EQ(ground_.ColorOf({30, 30, 40, 40}), std::nullopt);
@@ -113,23 +113,23 @@ TEST_F(Ground, IsNotKnownUnderAStroke) {
 }
 
 TEST_F(Ground, IsKnownWithinTheOutlineOfAFilledRectangle) {
-  CGGraphicsState state = Filling(kRed);
+  CGGraphicsState state = Filling(kRedGround);
   state.lineWidth = 4;
   Paint(Rectangle(10, 10, 50, 50), state, kCGPathFillStroke);
-  EXPECT_EQ(ground_.ColorOf({14, 14, 56, 56}), kRed);
+  EXPECT_EQ(ground_.ColorOf({14, 14, 56, 56}), kRedGround);
   EXPECT_EQ(ground_.ColorOf({11, 14, 56, 56}), std::nullopt);
 }
 
 TEST_F(Ground, IsColoredOnlyWithinTheClip) {
   clips_.push_back({Rectangle(0, 0, 10, 100), false, 1, 0});
-  Paint(Rectangle(5, 5, 20, 20), Filling(kRed));
-  EXPECT_EQ(ground_.ColorOf({5, 5, 10, 25}), kRed);
+  Paint(Rectangle(5, 5, 20, 20), Filling(kRedGround));
+  EXPECT_EQ(ground_.ColorOf({5, 5, 10, 25}), kRedGround);
   EXPECT_EQ(ground_.ColorOf({12, 6, 13, 7}), std::nullopt);
 }
 
 TEST_F(Ground, IsNotKnownUnderAClipOfAnyShape) {
   clips_.push_back({Polygon({{0, 0}, {90, 0}, {0, 90}}), false, 1, 0});
-  Paint(Rectangle(5, 5, 20, 20), Filling(kRed));
+  Paint(Rectangle(5, 5, 20, 20), Filling(kRedGround));
   EXPECT_EQ(ground_.ColorOf({6, 6, 7, 7}), std::nullopt);
 }
 
@@ -143,8 +143,9 @@ TEST_F(Ground, KeepsMarksThatLieApartApart) {
 
 TEST_F(Ground, ForgetsTheOldestOfManyMarks) {
   for (int i = 0; i < 40; ++i)
-    Paint(Rectangle(static_cast<CGFloat>(10 * i), 0, 5, 5), Filling(i % 2 == 0 ? kRed : kBlue));
-  EXPECT_EQ(ground_.ColorOf({391, 1, 394, 4}), kBlue);
+    Paint(Rectangle(static_cast<CGFloat>(10 * i), 0, 5, 5),
+          Filling(i % 2 == 0 ? kRedGround : kBlueGround));
+  EXPECT_EQ(ground_.ColorOf({391, 1, 394, 4}), kBlueGround);
   EXPECT_EQ(ground_.ColorOf({1, 1, 4, 4}), std::nullopt);
   EXPECT_EQ(ground_.ColorOf({7, 1, 8, 4}), std::nullopt);  // between two of those
   EXPECT_EQ(ground_.ColorOf({0, 50, 400, 60}), kPaper);
@@ -155,9 +156,9 @@ TEST(TheGroundOfASurface, IsNotKnownUntilItIsWatched) {
     EXPECT_EQ(surface->GroundOf({0, 0, 1, 1}), std::nullopt);
     surface->WatchGround(kPaper);
     EXPECT_EQ(surface->GroundOf({0, 0, 1, 1}), kPaper);
-    surface->SetFillColor(kRed);
+    surface->SetFillColor(kRedGround);
     test::FillRect(surface, {{0, 0}, {5, 5}});
-    EXPECT_EQ(surface->GroundOf({0, 0, 1, 1}), kRed);
+    EXPECT_EQ(surface->GroundOf({0, 0, 1, 1}), kRedGround);
   });
 }
 
