@@ -136,7 +136,7 @@ std::uint32_t NumberOf(Argb color) {
 }  // namespace
 
 std::optional<Paint> HatchPaint(Graphics& graphics, const EmfPlusHatchBrush& brush) {
-  constexpr std::uint64_t kCost = kSide * kSide;
+  constexpr auto kCost = std::uint64_t{kSide} * kSide;
   if (brush.style >= kEmfPlusHatchStyles) return std::nullopt;
   if (brush.foreground.alpha == 0 && brush.background.alpha == 0) return std::nullopt;
   // Where all is equally translucent, all is opaque, and brought onto the page with that alpha.

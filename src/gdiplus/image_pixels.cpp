@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <initializer_list>
 #include <optional>
 #include <span>
 #include <utility>
@@ -83,8 +82,9 @@ OwnedImage IndexedImage(const EmfPlusPixels& pixels, unsigned bits, bool isSmoot
   ImageBytes table(3 * count);
   for (std::size_t i = 0; i < std::min(count, pixels.palette.size()); ++i) {
     const Argb& color = pixels.palette[i];
-    std::ranges::copy(std::initializer_list{color.red, color.green, color.blue},
-                      table.begin() + static_cast<std::ptrdiff_t>(3 * i));
+    table[3 * i] = color.red;
+    table[3 * i + 1] = color.green;
+    table[3 * i + 2] = color.blue;
   }
   const CFOwned<const CGColorSpace> base(CGColorSpaceCreateDeviceRGB());
   const CFOwned<const CGColorSpace> space(

@@ -162,8 +162,8 @@ void AddEdge(Edge& edge, std::span<const PointD> points, bool isClosed) {
 
 FlatLine WithoutRepeats(const FlatLine& line) {
   FlatLine without = line;
-  const auto [first, last] = std::ranges::unique(without.points);
-  without.points.erase(first, last);
+  without.points.erase(std::unique(without.points.begin(), without.points.end()),
+                       without.points.end());
   while (without.isClosed && without.points.size() > 1 &&
          without.points.front() == without.points.back()) {
     without.points.pop_back();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <ranges>
 
 namespace kelvane {
 namespace {
@@ -121,9 +120,9 @@ void CGGround::ForgetOlderHalf() {
 }
 
 std::optional<CGColor> CGGround::ColorOf(const CGBox& box) const {
-  for (const Area& area : areas_ | std::views::reverse) {
-    if (Holds(area.box, box)) return area.color;
-    if (!AreApart(area.box, box)) return std::nullopt;
+  for (auto area = areas_.rbegin(); area != areas_.rend(); ++area) {
+    if (Holds(area->box, box)) return area->color;
+    if (!AreApart(area->box, box)) return std::nullopt;
   }
   return paper_;
 }
