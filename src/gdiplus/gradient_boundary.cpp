@@ -100,11 +100,12 @@ bool AreNumbers(const std::vector<PointF>& points) {
 }  // namespace
 
 std::vector<Corners> BoundaryOf(const EmfPlusPathGradientBrush& brush, double tolerance) {
-  const auto* path = std::get_if<EmfPlusPath>(&brush.boundary);
-  const auto* polygon = std::get_if<std::vector<PointF>>(&brush.boundary);
-  if (!AreNumbers(path != nullptr ? path->points : *polygon)) return {};
   BoundaryBuilder builder(brush, tolerance);
-  path != nullptr ? AddBoundary(builder, *path) : AddBoundary(builder, *polygon);
+  if (const auto* path = std::get_if<EmfPlusPath>(&brush.boundary)) {
+    if (AreNumbers(path->points)) AddBoundary(builder, *path);
+  } else if (const auto* polygon = std::get_if<std::vector<PointF>>(&brush.boundary)) {
+    if (AreNumbers(*polygon)) AddBoundary(builder, *polygon);
+  }
   return builder.Take();
 }
 

@@ -46,7 +46,9 @@ Stops StopsOf(const EmfPlusLinearGradientBrush& brush) {
 
 Stops RepeatedStops(const Stops& stops, const Tiles& tiles, EmfPlusWrapMode wrap) {
   Stops repeated;
-  for (double tile = 0; tile < tiles.count; ++tile) {
+  const auto count = static_cast<std::size_t>(tiles.count);
+  for (std::size_t number = 0; number < count; ++number) {
+    const auto tile = static_cast<double>(number);
     const bool isMirrored = IsMirrored(wrap, tiles.first + tile);
     for (std::size_t i = 0; i < stops.size(); ++i) {
       const CGGradientStop& stop = stops[isMirrored ? stops.size() - 1 - i : i];

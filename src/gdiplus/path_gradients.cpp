@@ -136,12 +136,20 @@ TileGrid GridOf(EmfPlusWrapMode wrap, const RectangleD& box, const RectangleD& s
   return grid;
 }
 
+std::size_t CountOf(const TileRange& range) {
+  return range.first <= range.last ? static_cast<std::size_t>(range.last - range.first) + 1 : 0;
+}
+
 CGTriangleMesh RepeatedMesh(const std::vector<MeshCorner>& corners, const TileGrid& grid,
                             const TransformD& toDevice, const Canvas& canvas) {
   const TransformD toPage = toDevice.Then(canvas.ToPage());
   CGTriangleMesh mesh;
-  for (double row = grid.rows.first; row <= grid.rows.last; ++row) {
-    for (double column = grid.columns.first; column <= grid.columns.last; ++column) {
+  const std::size_t rows = CountOf(grid.rows);
+  const std::size_t columns = CountOf(grid.columns);
+  for (std::size_t i = 0; i < rows; ++i) {
+    const double row = grid.rows.first + static_cast<double>(i);
+    for (std::size_t j = 0; j < columns; ++j) {
+      const double column = grid.columns.first + static_cast<double>(j);
       for (const auto& [point, color] : corners) {
         const PointD placed = {grid.x.Place(point.x, column), grid.y.Place(point.y, row)};
         mesh.vertices.push_back({canvas.RoundOnPage(Rounded(toPage.Map(placed))), color});
