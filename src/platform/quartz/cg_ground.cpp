@@ -120,11 +120,11 @@ void CGGround::ForgetOlderHalf() {
 }
 
 std::optional<CGColor> CGGround::ColorOf(const CGBox& box) const {
-  for (auto area = areas_.rbegin(); area != areas_.rend(); ++area) {
-    if (Holds(area->box, box)) return area->color;
-    if (!AreApart(area->box, box)) return std::nullopt;
-  }
-  return paper_;
+  const auto newest = std::find_if(areas_.rbegin(), areas_.rend(), [&](const Area& area) {
+    return Holds(area.box, box) || !AreApart(area.box, box);
+  });
+  if (newest == areas_.rend()) return paper_;
+  return Holds(newest->box, box) ? newest->color : std::nullopt;
 }
 
 }  // namespace kelvane
