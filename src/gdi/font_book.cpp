@@ -33,6 +33,12 @@ CGFontExtent CellOf(const CGFontDescription& face) {
   return says(face.header) ? face.header : CGFontExtent{face.ascent, face.descent};
 }
 
+/// @return what the gap of the other table leaves between lines of the cell; units of the face.
+double LeadingOf(const CGFontDescription& face, const CGFontExtent& cell) {
+  const double highest = face.header.ascent - face.header.descent + face.header.lineGap;
+  return std::max(highest - (cell.ascent - cell.descent), 0.0);
+}
+
 TextRule RuleOf(const CGFontRule& rule, double unitsPerEm, const TextRule& usual) {
   if (rule.thickness <= 0) return usual;
   return {rule.top / unitsPerEm, rule.thickness / unitsPerEm};
@@ -85,6 +91,7 @@ TextFont Measured(const FontStyle& style) {
   font.em = 1;
   font.ascent = saysCell ? std::max(cell.ascent / unitsPerEm, 0.0) : kUsualAscent;
   font.descent = saysCell ? std::max(-cell.descent / unitsPerEm, 0.0) : kUsualDescent;
+  font.leading = saysCell ? LeadingOf(face, cell) / unitsPerEm : 0;
   font.underline = RuleOf(face.underline, unitsPerEm, kUsualUnderline);
   font.strikeOut = RuleOf(face.strikeOut, unitsPerEm, kUsualStrikeOut);
   return font;
@@ -114,6 +121,7 @@ const TextFont& FontBook::Resolve(const LogFont& font, double pixel) {
   text.em = EmOf(font.height, pixel, text.ascent + text.descent);
   text.ascent *= text.em;
   text.descent *= text.em;
+  text.leading *= text.em;
   if (font.width != 0)
     text.xScale = std::abs(static_cast<double>(font.width)) / (face.averageWidth * text.em);
   if (fonts_.size() >= kMostFonts) formerFonts_ = std::exchange(fonts_, {});

@@ -33,6 +33,7 @@ struct TextFont {
   double em = 0;
   double ascent = 0;        // from the baseline up, of the cell
   double descent = 0;       // from the baseline down, of the cell
+  double leading = 0;       // between the cells of lines
   double xScale = 1;        // of glyphs and advances, against their natural width
   bool isAsAsked = false;   // the face is the one asked for, so that glyph numbers mean the same
   bool isVertical = false;  // a face whose name begins with @: wide characters lie on their side

@@ -1,11 +1,10 @@
 #include "gdi/glyph_marks.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
 #include "gdi/exactly.h"
-#include "gdi/page_color.h"
-#include "gdi/painting.h"
 
 namespace kelvane {
 namespace {
@@ -70,23 +69,17 @@ TransformD GlyphsToDevice(const PlacedRun& run, const TextFrame& frame) {
 
 }  // namespace
 
-void DrawGlyphs(DeviceContext& device, PlacedLine& line, const TextFrame& frame, PointD origin,
-                RgbColor color) {
-  if (!BringClip(device)) return;
-  CGContext& surface = device.canvas->Surface();
-  surface.SetFillColor(ColorOnPage(color));
-  surface.SetFillPattern(nullptr);
-  surface.SetBlendMode(kCGBlendModeNormal);
+void DrawGlyphs(Canvas& canvas, PlacedLine& line, const TextFrame& frame, PointD origin) {
   for (PlacedRun& run : line.runs) {
     const TextFrame runFrame = run.isTurned ? frame.Turned() : frame;
     const auto lineToEms = LineToEms(runFrame);
-    if (lineToEms) DrawRun(surface, run, *lineToEms, OnPage(*device.canvas, runFrame, origin));
+    if (lineToEms) DrawRun(canvas.Surface(), run, *lineToEms, OnPage(canvas, runFrame, origin));
   }
 }
 
-bool AddOutlines(DeviceContext& device, const PlacedLine& line, const TextFrame& frame,
-                 PointD origin, CGPath& path) {
-  const bool isKept = device.state.bracket.has_value();  // which costs more than what goes out
+bool AddOutlines(Canvas* canvas, const PlacedLine& line, const TextFrame& frame, PointD origin,
+                 OutlineUse use, CGPath& path) {
+  const std::size_t elementsOfAPart = use == OutlineUse::kKept ? 1 : 8;
   for (const PlacedRun& run : line.runs) {
     TransformD matrix = GlyphsToDevice(run, run.isTurned ? frame.Turned() : frame);
     for (const CGPositionedGlyph& glyph : run.glyphs) {
@@ -95,12 +88,32 @@ bool AddOutlines(DeviceContext& device, const PlacedLine& line, const TextFrame&
       matrix.dy = origin.y + place.y;
       const CGPath outline = run.face.typeface->Font()->Outline(glyph.glyph);
       const std::size_t elements = outline.Reached().elements;
-      if (device.canvas != nullptr && !device.canvas->Afford(isKept ? elements : elements / 8))
-        return false;
+      if (canvas != nullptr && !canvas->Afford(elements / elementsOfAPart)) return false;
       path.AddPath(outline, Rounded(matrix));
     }
   }
   return true;
+}
+
+void AddLineBox(const TextFrame& frame, PointD origin, const RectangleD& box, CGPath& path) {
+  const auto corner = [&](double x, double y) {
+    const PointD place = frame.ToDevice({x, y});
+    return CGPoint{static_cast<CGFloat>(origin.x + place.x),
+                   static_cast<CGFloat>(origin.y + place.y)};
+  };
+  path.MoveTo(corner(box.left, box.top));
+  path.LineTo(corner(box.right, box.top));
+  path.LineTo(corner(box.right, box.bottom));
+  path.LineTo(corner(box.left, box.bottom));
+  path.Close();
+}
+
+void AddRule(const TextRule& rule, const TextFont& font, double from, double to,
+             const TextFrame& frame, PointD origin, CGPath& path) {
+  const double pixel = 1 / frame.PixelsUp();
+  const double top = rule.top * font.em;
+  const double thickness = std::max(rule.thickness * font.em, pixel);
+  AddLineBox(frame, origin, {from, top - thickness, to, top}, path);
 }
 
 }  // namespace kelvane

@@ -50,6 +50,9 @@ class LinePlacer {
         font_(font),
         spacing_(spacing) {}
 
+  /// @param advances  gets those of the face, one a unit.
+  void Measure(std::vector<double>& advances) { measured_ = &advances; }
+
   /// Characters in the order in which they stand there.
   void PlaceInOrder() {
     for (std::size_t at = 0; at < units_.size();) {
@@ -122,6 +125,7 @@ class LinePlacer {
 
   /// @param natural  the advance of the face, ems.
   void Advance(std::size_t start, std::size_t units, double natural) {
+    if (measured_ != nullptr) (*measured_)[start] += natural * em_;
     if (!text_.advances.empty()) {
       pen_ = Behind(start, units);
       return;
@@ -192,17 +196,14 @@ class LinePlacer {
   double em_;  // logical units along the baseline
   const TextFont& font_;
   Spacing spacing_;
+  std::vector<double>* measured_ = nullptr;
   PointD pen_;
   PlacedLine line_;         // since the last piece
   std::size_t glyphs_ = 0;  // in it
 };
 
-}  // namespace
-
-void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
-               const Spacing& spacing, const Reading& reading,
-               const std::function<void(PlacedLine& piece)>& take) {
-  LinePlacer placer(text, font, frame, spacing, take);
+void Place(LinePlacer& placer, const WrittenText& text, const TextFont& font,
+           const Reading& reading) {
   if (text.areGlyphs) {
     placer.PlaceGlyphs();
   } else if (reading.isOrdered || font.isVertical ||
@@ -213,6 +214,25 @@ void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& f
                                            : LineDirection::kRightwards);
   }
   placer.EndPiece();
+}
+
+}  // namespace
+
+void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& frame,
+               const Spacing& spacing, const Reading& reading,
+               const std::function<void(PlacedLine& piece)>& take) {
+  LinePlacer placer(text, font, frame, spacing, take);
+  Place(placer, text, font, reading);
+}
+
+std::vector<double> MeasureText(const WrittenText& text, const TextFont& font,
+                                const TextFrame& frame, const Reading& reading) {
+  std::vector<double> advances(text.units.size());
+  const std::function<void(PlacedLine&)> drop = [](PlacedLine&) {};
+  LinePlacer placer(text, font, frame, {}, drop);
+  placer.Measure(advances);
+  Place(placer, text, font, reading);
+  return advances;
 }
 
 }  // namespace kelvane

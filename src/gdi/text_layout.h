@@ -50,4 +50,10 @@ void PlaceText(const WrittenText& text, const TextFont& font, const TextFrame& f
                const Spacing& spacing, const Reading& reading,
                const std::function<void(PlacedLine& piece)>& take);
 
+/// @param text  its own advances do not count.
+/// @return how far each unit of a line moves the pen in its face, logical units; what stands
+///         together moves it at its first unit.
+std::vector<double> MeasureText(const WrittenText& text, const TextFont& font,
+                                const TextFrame& frame, const Reading& reading);
+
 }  // namespace kelvane

@@ -10,6 +10,7 @@
 #include "gdi/font_book.h"
 #include "gdi/glyph_marks.h"
 #include "gdi/objects.h"
+#include "gdi/page_color.h"
 #include "gdi/painting.h"
 #include "gdi/text_frame.h"
 #include "gdi/text_layout.h"
@@ -104,31 +105,14 @@ SetLine Set(DeviceContext& device, const TextPlacing& placing, const TextFont& f
   return line;
 }
 
-/// Adds a rectangle of the line's own axes.
-void AddBox(const SetLine& line, const RectangleD& box, CGPath& path) {
-  const auto corner = [&](double x, double y) {
-    const PointD place = line.frame.ToDevice({x, y});
-    return CGPoint{static_cast<CGFloat>(line.origin.x + place.x),
-                   static_cast<CGFloat>(line.origin.y + place.y)};
-  };
-  path.MoveTo(corner(box.left, box.top));
-  path.LineTo(corner(box.right, box.top));
-  path.LineTo(corner(box.right, box.bottom));
-  path.LineTo(corner(box.left, box.bottom));
-  path.Close();
-}
-
 void AddCell(const SetLine& line, const TextFont& font, CGPath& path) {
-  AddBox(line, {0, -font.descent, line.placed.end.x, font.ascent}, path);
+  AddLineBox(line.frame, line.origin, {0, -font.descent, line.placed.end.x, font.ascent}, path);
 }
 
-/// Underline and strike-out run from the start of the line to its end, a pixel thick at least.
+/// Underline and strike-out run from the start of the line to its end.
 void AddRules(const SetLine& line, const LogFont& asked, const TextFont& font, CGPath& path) {
-  const double pixel = 1 / std::hypot(line.frame.up.x, line.frame.up.y);
   const auto add = [&](const TextRule& rule) {
-    const double top = rule.top * font.em;
-    const double thickness = std::max(rule.thickness * font.em, pixel);
-    AddBox(line, {0, top - thickness, line.placed.end.x, top}, path);
+    AddRule(rule, font, 0, line.placed.end.x, line.frame, line.origin, path);
   };
   if (asked.underline != 0) add(font.underline);
   if (asked.strikeOut != 0) add(font.strikeOut);
@@ -156,8 +140,9 @@ void ForEachPiece(DeviceContext& device, SetLine& line, const TextFont& font, Dr
 }
 
 void AddOutlines(DeviceContext& device, SetLine& line, const TextFont& font, CGPath& path) {
+  const OutlineUse use = device.state.bracket ? OutlineUse::kKept : OutlineUse::kPainted;
   ForEachPiece(device, line, font, [&](const PlacedLine& piece) {
-    if (!AddOutlines(device, piece, line.frame, line.origin, path))
+    if (!AddOutlines(device.canvas, piece, line.frame, line.origin, use, path))
       device.shortfalls.Add(Shortfall::kDrawnTooOften);
   });
 }
@@ -168,6 +153,17 @@ void AddToBracket(DeviceContext& device, SetLine& line, const TextFont& font) {
   AddOutlines(device, line, font, path);
   AddRules(line, *device.state.font, font, path);
   device.state.figureIsOpen = false;
+}
+
+void DrawGlyphs(DeviceContext& device, SetLine& line, const TextFont& font, RgbColor color) {
+  if (!BringClip(device)) return;
+  CGContext& surface = device.canvas->Surface();
+  surface.SetFillColor(ColorOnPage(color));
+  surface.SetFillPattern(nullptr);
+  surface.SetBlendMode(kCGBlendModeNormal);
+  ForEachPiece(device, line, font, [&](PlacedLine& piece) {
+    DrawGlyphs(*device.canvas, piece, line.frame, line.origin);
+  });
 }
 
 void Draw(DeviceContext& device, SetLine& line, const TextFont& font) {
@@ -181,9 +177,7 @@ void Draw(DeviceContext& device, SetLine& line, const TextFont& font) {
   if (device.outlinesText) {
     AddOutlines(device, line, font, device.scratch);
   } else {
-    ForEachPiece(device, line, font, [&](PlacedLine& piece) {
-      DrawGlyphs(device, piece, line.frame, line.origin, color);
-    });
+    DrawGlyphs(device, line, font, color);
   }
   AddRules(line, *state.font, font, device.scratch);
   FillWith(device, device.scratch, WINDING, color, R2_COPYPEN);

@@ -71,12 +71,12 @@ void Clear(WrittenText& text) {
   text.areGlyphs = text.hasUnknownGlyphs = text.hasUnknownSymbols = false;
 }
 
-void Interpret(const TextPlacing& placing, const TextFont& font, WrittenText& text) {
-  if ((placing.options & ETO_GLYPH_INDEX) != 0) return TakeGlyphs(font, text);
+}  // namespace
+
+void InterpretText(bool areGlyphs, const TextFont& font, WrittenText& text) {
+  if (areGlyphs) return TakeGlyphs(font, text);
   if (font.symbols != nullptr) TakeSymbols(*font.symbols, text);
 }
-
-}  // namespace
 
 void ReadText(const TextPlacing& placing, std::u16string units, const TextFont& font,
               WrittenText& text) {
@@ -87,7 +87,7 @@ void ReadText(const TextPlacing& placing, std::u16string units, const TextFont& 
     for (std::size_t i = 0; i < text.units.size(); ++i)
       text.advances.push_back(AdvanceOf(placing, i));
   }
-  Interpret(placing, font, text);
+  InterpretText((placing.options & ETO_GLYPH_INDEX) != 0, font, text);
 }
 
 void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont& asked,
@@ -108,7 +108,7 @@ void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont&
       }
     }
   }
-  Interpret(placing, font, text);
+  InterpretText((placing.options & ETO_GLYPH_INDEX) != 0, font, text);
 }
 
 }  // namespace kelvane

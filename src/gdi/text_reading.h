@@ -10,6 +10,11 @@
 
 namespace kelvane {
 
+/// Turns units, with their advances, into what the face can show: numbers of glyphs of another face
+/// and codes of symbols into characters.
+/// @param areGlyphs  the units are numbers.
+void InterpretText(bool areGlyphs, const TextFont& font, WrittenText& text);
+
 /// Reads the text of a call.
 /// @param placing  its advances are for as many units.
 /// @param text     what was in it goes.

@@ -41,6 +41,11 @@ TEST_F(AFontBook, TakesAHeightBelowZeroForTheEms) {
   EXPECT_EQ(font.descent, 434);
 }
 
+// Its other table has a gap of 67 between cells of the same height.
+TEST_F(AFontBook, LeavesBetweenLinesWhatTheCellsDoNotFill) {
+  EXPECT_EQ(book.Resolve(Named(u"Liberation Sans", -2048), kPixel).leading, 67);
+}
+
 TEST_F(AFontBook, TakesAHeightAboveZeroForTheCells) {
   const TextFont& font = book.Resolve(Named(u"Liberation Sans", 1854 + 434), kPixel);
   EXPECT_NEAR(font.em, 2048, kNear);

@@ -107,6 +107,10 @@ class Line {
     return line;
   }
 
+  [[nodiscard]] std::vector<double> Measured() const {
+    return MeasureText(text_, font_, frame_, reading_);
+  }
+
   [[nodiscard]] std::string Placed() const { return Words(Place()); }
 
  private:
@@ -132,6 +136,26 @@ std::string End(double place) {
 }
 
 // Advances of the face.
+
+TEST(MeasuredText, HasTheAdvancesOfItsFace) {
+  EXPECT_THAT(Line(u"A a").Measured(),
+              testing::ElementsAre(kLiberationUpperA, kLiberationSpace, kLiberationA));
+}
+
+TEST(MeasuredText, TakesNoAdvancesThatAreGiven) {
+  EXPECT_THAT(Line(u"Aa").With(Along({5, 6})).Measured(),
+              testing::ElementsAre(kLiberationUpperA, kLiberationA));
+}
+
+TEST(MeasuredText, CountsALetterWithItsMarksOnce) {
+  EXPECT_THAT(Line(u"A\u0301\u0301a").Measured(),
+              testing::ElementsAre(kLiberationUpperA, 0, 0, kLiberationA));
+}
+
+TEST(MeasuredText, KeepsTheOrderOfItsUnitsWhereTheyReadLeftwards) {
+  EXPECT_THAT(Line(u"\u05D0\u05D1", kOfManyScripts).Leftwards().Measured(),
+              testing::ElementsAre(kDejaVuAlef, kDejaVuBet));
+}
 
 TEST(ALineOfText, HasTheAdvancesOfItsFace) {
   EXPECT_EQ(Line(u"Aa").Placed(), "LiberationSans: " + At("A", 0) + At("a", kLiberationUpperA) +
