@@ -9,8 +9,9 @@ using EmfPlusHandlersByType = std::array<PlayEmfPlusRecord, kEmfPlusRecordTypes>
 
 EmfPlusHandlersByType MakeEmfPlusHandlers() {
   EmfPlusHandlersByType handlers{};
-  for (const auto& table : {EmfPlusShapeHandlers(), EmfPlusImageHandlers(), EmfPlusStateHandlers(),
-                            EmfPlusClipHandlers(), EmfPlusControlHandlers()}) {
+  for (const auto& table :
+       {EmfPlusShapeHandlers(), EmfPlusTextHandlers(), EmfPlusImageHandlers(),
+        EmfPlusStateHandlers(), EmfPlusClipHandlers(), EmfPlusControlHandlers()}) {
     for (const EmfPlusHandler& row : table)
       handlers[row.type - kEmfPlusHeader] = row.play;
   }

@@ -55,6 +55,7 @@ void WithEmfPlusBrush(EmfPlusPlayback& playback, const EmfPlusBrushUse& brush, U
 
 // The tables, by family.
 std::span<const EmfPlusHandler> EmfPlusShapeHandlers();
+std::span<const EmfPlusHandler> EmfPlusTextHandlers();
 std::span<const EmfPlusHandler> EmfPlusImageHandlers();
 std::span<const EmfPlusHandler> EmfPlusStateHandlers();
 std::span<const EmfPlusHandler> EmfPlusClipHandlers();
