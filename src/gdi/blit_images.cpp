@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "gdi/raster_operation.h"
+#include "gdi/sample_images.h"
 #include "platform/quartz/cg_data_provider.h"
 
 namespace kelvane {
@@ -48,32 +49,6 @@ void Recolor(Bytes& rgb, const Coloring& coloring) {
     rgb[i + 1] = green[rgb[i + 1]];
     rgb[i + 2] = blue[rgb[i + 2]];
   }
-}
-
-/// How the samples of an image lie: a picture's size, how deep they are, in which colours.
-struct SampleLayout {
-  std::size_t width;
-  std::size_t height;
-  std::size_t bits;  // a component
-  CFOwned<const CGColorSpace> space;
-  bool isSmooth;
-};
-
-std::size_t RowSize(std::size_t width, std::size_t bits) {
-  return (width * bits + 7) / 8;
-}
-
-CFOwned<const CGImage> MakeImage(const SampleLayout& layout, const CGDataProvider& provider) {
-  const std::size_t bits = layout.bits * layout.space->components;
-  return CFOwned<const CGImage>(CGImageCreate(
-      layout.width, layout.height, layout.bits, bits, RowSize(layout.width, bits),
-      layout.space.get(), 0, &provider, nullptr, layout.isSmooth, kCGRenderingIntentDefault));
-}
-
-CFOwned<const CGDataProvider> ProviderOf(Bytes bytes) {
-  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  data->bytes = std::move(bytes);
-  return CFOwned<const CGDataProvider>(CGDataProviderCreateWithCFData(data.get()));
 }
 
 template <class Make>
@@ -156,13 +131,13 @@ CFOwned<const CGImage> IndexedImage(const Parts& parts, const Coloring& coloring
   };
   const SampleLayout layout = LayoutOf(parts, IndexedSpace(first.Colors(), coloring), isSmooth,
                                        isPacked ? first.BitCount() : 8);
-  return MakeImage(layout, *Making([parts, decode] { return Joined(parts, decode); }));
+  return ImageOfSamples(layout, *Making([parts, decode] { return Joined(parts, decode); }));
 }
 
 CFOwned<const CGImage> GrayImage(const Parts& parts, bool isSmooth) {
   const auto decode = [](const DibPart& part) { return DecodeGray(part.dib, part.rectangle); };
-  return MakeImage(LayoutOf(parts, Gray(), isSmooth),
-                   *Making([parts, decode] { return Joined(parts, decode); }));
+  return ImageOfSamples(LayoutOf(parts, Gray(), isSmooth),
+                        *Making([parts, decode] { return Joined(parts, decode); }));
 }
 
 CFOwned<const CGImage> RgbImage(const Parts& parts, const Coloring& coloring, bool isSmooth) {
@@ -174,7 +149,7 @@ CFOwned<const CGImage> RgbImage(const Parts& parts, const Coloring& coloring, bo
     Recolor(rgb, coloring);
     return rgb;
   };
-  return MakeImage(LayoutOf(parts, Rgb(), isSmooth), *Making(make));
+  return ImageOfSamples(LayoutOf(parts, Rgb(), isSmooth), *Making(make));
 }
 
 /// Files are decoded at once: nobody can tell before whether they can be read.
@@ -182,7 +157,7 @@ CFOwned<const CGImage> DecodedImage(const DibPart& part, const Coloring& colorin
   std::optional<Bytes> rgb = DecodeRgb(part.dib, part.rectangle);
   if (!rgb) return nullptr;
   Recolor(*rgb, coloring);
-  return MakeImage(LayoutOf({part}, Rgb(), isSmooth), *ProviderOf(*std::move(rgb)));
+  return ImageOfRgb(part.rectangle.width, part.rectangle.height, *std::move(rgb), isSmooth);
 }
 
 std::optional<std::uint8_t> Whiteness(DibColor color) {
@@ -243,13 +218,12 @@ CFOwned<const CGImage> ImageOf(const std::vector<DibPart>& parts, const Coloring
 }
 
 CFOwned<const CGImage> ImageOf(const Blit& blit, std::vector<std::uint8_t> rgb) {
-  return MakeImage(LayoutOf({{blit.dib, blit.part}}, Rgb(), blit.isSmooth),
-                   *ProviderOf(std::move(rgb)));
+  return ImageOfRgb(blit.part.width, blit.part.height, std::move(rgb), blit.isSmooth);
 }
 
 CFOwned<const CGImage> StencilOf(const std::vector<std::uint8_t>& shown, std::size_t width,
                                  std::size_t height) {
-  const std::size_t rowSize = RowSize(width, 1);
+  const std::size_t rowSize = BytesOfSamples(width, 1);
   Bytes bits(rowSize * height);
   for (std::size_t y = 0; y < height; ++y) {
     for (std::size_t x = 0; x < width; ++x) {
@@ -263,8 +237,7 @@ CFOwned<const CGImage> StencilOf(const std::vector<std::uint8_t>& shown, std::si
 }
 
 CFOwned<const CGImage> SoftMaskOf(std::vector<std::uint8_t> alpha, const Blit& blit) {
-  return MakeImage(LayoutOf({{blit.dib, blit.part}}, Gray(), blit.isSmooth),
-                   *ProviderOf(std::move(alpha)));
+  return ImageOfGray(blit.part.width, blit.part.height, std::move(alpha), blit.isSmooth);
 }
 
 std::optional<std::vector<std::uint8_t>> WhitePixels(const Blit& blit) {

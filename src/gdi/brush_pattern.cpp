@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "gdi/page_color.h"
+#include "gdi/sample_images.h"
 #include "metafile/dib.h"
-#include "platform/quartz/cg_data_provider.h"
 
 namespace kelvane {
 namespace {
@@ -57,16 +57,6 @@ void Recolor(std::vector<unsigned char>& rgb, RasterStep::Color color) {
   }
 }
 
-CFOwned<const CGImage> ImageOf(const Dib& dib, std::vector<unsigned char> rgb) {
-  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  data->bytes = std::move(rgb);
-  const CFOwned<const CGDataProvider> provider(CGDataProviderCreateWithCFData(data.get()));
-  const CFOwned<const CGColorSpace> space(CGColorSpaceCreateDeviceRGB());
-  return CFOwned<const CGImage>(CGImageCreate(dib.Width(), dib.Height(), 8, 24, 3 * dib.Width(),
-                                              space.get(), 0, provider.get(), nullptr, false,
-                                              kCGRenderingIntentDefault));
-}
-
 /// The bits of a bitmap in the two colours of the device; its own do not matter.
 std::vector<unsigned char> MonoRgb(const Dib& dib, const PixelRectangle& whole,
                                    const BrushPaint& paint) {
@@ -114,7 +104,7 @@ std::optional<CGPattern> MakePattern(const BrushPaint& paint, RasterStep::Color 
   Recolor(*rgb, color);
   CGPattern pattern;
   pattern.cell = {static_cast<CGFloat>(dib->Width()), static_cast<CGFloat>(dib->Height())};
-  pattern.image = ImageOf(*dib, *std::move(rgb));
+  pattern.image = ImageOfRgb(dib->Width(), dib->Height(), *std::move(rgb), false);
   return pattern;
 }
 

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "gdi/sample_images.h"
 #include "gdiplus/pixel_formats.h"
 #include "metafile/jpeg_header.h"
 #include "metafile/png_decoder.h"
@@ -28,20 +29,6 @@ struct ImageSize {
   std::size_t height;
 };
 
-CFOwned<const CGDataProvider> ProviderOf(ImageBytes bytes) {
-  const CFOwned<CFData> data(CFDataCreateMutable(kCFAllocatorDefault, 0));
-  data->bytes = std::move(bytes);
-  return CFOwned<const CGDataProvider>(CGDataProviderCreateWithCFData(data.get()));
-}
-
-/// @param bytes  8 bits a component, without padding.
-OwnedImage PlainImage(ImageSize size, const CGColorSpace& space, ImageBytes bytes, bool isSmooth) {
-  const std::size_t rowSize = size.width * space.components;
-  return OwnedImage(CGImageCreate(size.width, size.height, 8, 8 * space.components, rowSize, &space,
-                                  0, ProviderOf(std::move(bytes)).get(), nullptr, isSmooth,
-                                  kCGRenderingIntentDefault));
-}
-
 OwnedImage ImageOfRgba(ImageSize size, const ImageBytes& rgba, bool isSmooth) {
   ImageBytes rgb;
   ImageBytes alpha;
@@ -51,12 +38,10 @@ OwnedImage ImageOfRgba(ImageSize size, const ImageBytes& rgba, bool isSmooth) {
     rgb.insert(rgb.end(), {rgba[i], rgba[i + 1], rgba[i + 2]});
     alpha.push_back(rgba[i + 3]);
   }
-  const CFOwned<const CGColorSpace> colors(CGColorSpaceCreateDeviceRGB());
-  OwnedImage image = PlainImage(size, *colors, std::move(rgb), isSmooth);
+  OwnedImage image = ImageOfRgb(size.width, size.height, std::move(rgb), isSmooth);
   const auto isOpaque = [](unsigned char a) { return a == kOpaquePixel; };
   if (image == nullptr || std::ranges::all_of(alpha, isOpaque)) return image;
-  const CFOwned<const CGColorSpace> gray(CGColorSpaceCreateDeviceGray());
-  const OwnedImage mask = PlainImage(size, *gray, std::move(alpha), isSmooth);
+  const OwnedImage mask = ImageOfGray(size.width, size.height, std::move(alpha), isSmooth);
   return OwnedImage(CGImageCreateWithMask(image.get(), mask.get()));
 }
 
@@ -77,7 +62,8 @@ bool IsSmooth(const Graphics& graphics) {
 }
 
 /// Pixels in colours of a palette stay the numbers that they are.
-OwnedImage IndexedImage(const EmfPlusPixels& pixels, unsigned bits, bool isSmooth) {
+OwnedImage IndexedImage(const EmfPlusPixels& pixels, bool isSmooth) {
+  const unsigned bits = EmfPlusBitsPerPixel(pixels.format);
   const std::size_t count = std::size_t{1} << bits;
   ImageBytes table(3 * count);
   for (std::size_t i = 0; i < std::min(count, pixels.palette.size()); ++i) {
@@ -96,11 +82,10 @@ OwnedImage IndexedImage(const EmfPlusPixels& pixels, unsigned bits, bool isSmoot
 }
 
 OwnedImage ImageOf(Graphics& graphics, const EmfPlusPixels& pixels) {
-  const unsigned bits = BitsOf(pixels.format);
   const bool isOpaque =
       std::ranges::all_of(pixels.palette, [](Argb color) { return color.alpha == kOpaquePixel; });
-  if (bits >= 1 && bits <= 8 && isOpaque) {
-    OwnedImage image = IndexedImage(pixels, bits, IsSmooth(graphics));
+  if (IsEmfPlusIndexed(pixels.format) && isOpaque) {
+    OwnedImage image = IndexedImage(pixels, IsSmooth(graphics));
     return image != nullptr ? std::move(image) : Unreadable(graphics);
   }
   const ImageSize size = {pixels.width, pixels.height};

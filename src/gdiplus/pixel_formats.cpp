@@ -148,39 +148,8 @@ bool AreThere(const EmfPlusPixels& pixels, unsigned bits) {
 
 }  // namespace
 
-unsigned BitsOf(EmfPlusPixelFormat format) {
-  switch (format) {
-    case EmfPlusPixelFormat::k1Indexed:
-      return 1;
-    case EmfPlusPixelFormat::k4Indexed:
-      return 4;
-    case EmfPlusPixelFormat::k8Indexed:
-      return 8;
-    case EmfPlusPixelFormat::k16Gray:
-    case EmfPlusPixelFormat::k16Rgb555:
-    case EmfPlusPixelFormat::k16Rgb565:
-    case EmfPlusPixelFormat::k16Argb1555:
-      return 16;
-    case EmfPlusPixelFormat::k24Rgb:
-      return 24;
-    case EmfPlusPixelFormat::k32Rgb:
-    case EmfPlusPixelFormat::k32Argb:
-    case EmfPlusPixelFormat::k32PremultipliedArgb:
-      return 32;
-    case EmfPlusPixelFormat::k48Rgb:
-      return 48;
-    case EmfPlusPixelFormat::k64Argb:
-    case EmfPlusPixelFormat::k64PremultipliedArgb:
-    case EmfPlusPixelFormat::k64PremultipliedArgbByItsBits:
-      return 64;
-    case EmfPlusPixelFormat::kUndefined:
-      break;
-  }
-  return 0;
-}
-
 std::optional<std::vector<unsigned char>> RgbaOf(const EmfPlusPixels& pixels) {
-  const unsigned bits = BitsOf(pixels.format);
+  const unsigned bits = EmfPlusBitsPerPixel(pixels.format);
   if (bits == 0 || !AreThere(pixels, bits)) return std::nullopt;
   switch (pixels.format) {
     case EmfPlusPixelFormat::k1Indexed:

@@ -7,9 +7,6 @@
 
 namespace kelvane::gdiplus {
 
-/// @return bits of a pixel; 0 for a format that is none.
-unsigned BitsOf(EmfPlusPixelFormat format);
-
 /// @return red, green, blue and alpha, a byte each, rows top first and without padding; colours are
 ///         not multiplied by alpha. nullopt for a format that is none and for rows that are not
 ///         there.
