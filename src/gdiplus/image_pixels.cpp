@@ -8,8 +8,11 @@
 #include <variant>
 #include <vector>
 
+#include "gdi/blit_images.h"
 #include "gdi/sample_images.h"
 #include "gdiplus/pixel_formats.h"
+#include "metafile/bmp_file.h"
+#include "metafile/gif_decoder.h"
 #include "metafile/jpeg_header.h"
 #include "metafile/png_decoder.h"
 #include "platform/quartz/cg_data_provider.h"
@@ -103,9 +106,30 @@ OwnedImage PngImage(Graphics& graphics, std::span<const unsigned char> file,
               : Unreadable(graphics);
 }
 
+OwnedImage GifImage(Graphics& graphics, std::span<const unsigned char> file,
+                    const GifHeader& header) {
+  const ImageSize size = {header.width, header.height};
+  if (!AffordPixels(graphics, size)) return nullptr;
+  const auto rgba = DecodeGifWithAlpha(file);
+  return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
+}
+
+OwnedImage BmpImage(Graphics& graphics, const DibBytes& bytes) {
+  const auto dib = Dib::Read(bytes);
+  if (!dib) return Unreadable(graphics);
+  const ImageSize size = {dib->Width(), dib->Height()};
+  if (dib->IsCompressed() && !AffordPixels(graphics, size)) return nullptr;
+  OwnedImage image =
+      kelvane::ImageOf({{*dib, {0, 0, size.width, size.height}}}, {}, IsSmooth(graphics));
+  return image != nullptr ? std::move(image) : Unreadable(graphics);
+}
+
+/// What a file is, its bytes say.
 OwnedImage ImageOf(Graphics& graphics, const EmfPlusImageFile& image) {
   const std::span<const unsigned char> file = image.bytes;
   if (const auto png = ReadPngHeader(file)) return PngImage(graphics, file, *png);
+  if (const auto gif = ReadGifHeader(file)) return GifImage(graphics, file, *gif);
+  if (const auto bmp = ReadBmpFile(file)) return BmpImage(graphics, *bmp);
   if (const auto jpeg = ReadJpegHeader(file)) {
     return OwnedImage(CGImageCreateWithJPEG(jpeg->width, jpeg->height, jpeg->components,
                                             ProviderOf({file.begin(), file.end()}).get(),

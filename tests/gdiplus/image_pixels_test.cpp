@@ -7,6 +7,7 @@
 
 #include "gdiplus/pixel_formats.h"
 #include "platform/trace/cg_trace_context.h"
+#include "support/bytes.h"
 #include "support/images.h"
 #include "support/png.h"
 
@@ -135,6 +136,69 @@ TEST_F(ImagesOfEmfPlus, OfPngFilesKeepTheirAlpha) {
 TEST_F(ImagesOfEmfPlus, OfJpegFilesStayTheFiles) {
   const Bytes file = test::JpegOf(3);
   EXPECT_EQ(TraceOf(EmfPlusImageFile{file}).substr(0, 22), "image 8 8 jpeg rgb smo");
+}
+
+/// A GIF file of the smallest picture: one pixel, its first colour.
+/// @param isTransparent  the first colour.
+Bytes GifOf(bool isTransparent, std::uint32_t width = 1, std::uint32_t height = 1) {
+  test::Bytes file;
+  file.Each({'G', 'I', 'F', '8', '9', 'a'}).U16(width).U16(height).Each({0x80, 0, 0});
+  file.Each({1, 2, 3, 4, 5, 6});
+  file.Each({0x21, 0xF9, 4, isTransparent ? 1U : 0U, 0, 0, 0, 0});
+  file.Each({0x2C, 0, 0, 0, 0, 1, 0, 1, 0, 0});
+  file.Each({2, 2, 0x44, 0x01, 0, 0x3B});  // from 3 bits each: clear, colour 0, end
+  return file.Data();
+}
+
+TEST_F(ImagesOfEmfPlus, OfGifFilesAreSeenThroughWhereTheyAreTransparent) {
+  const Bytes opaque = GifOf(false);
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{opaque}),
+            "image 1 1 rgb smooth under 1 0 0 1 0 0\n  bytes 010203\n");
+  const Bytes transparent = GifOf(true);
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{transparent}),
+            "image 1 1 rgb smooth soft-masked 1 1 under 1 0 0 1 0 0\n"
+            "  bytes 000000\n"
+            "  mask 00\n");
+}
+
+TEST_F(ImagesOfEmfPlus, OfGifFilesMayHaveAScreenFarLargerThanTheirData) {
+  const Bytes file = GifOf(false, 0xFFFF, 0xFFFF);
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
+  EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+}
+
+/// @param pixels  from here on in the file.
+Bytes BmpOf(const test::BitmapFields& fields, std::uint32_t pixels, const Bytes& behindTheHeader) {
+  test::Bytes file;
+  file.Each({'B', 'M'}).U32(0).U32(0).U32(pixels).BitmapHeader(fields).Append(behindTheHeader);
+  return file.Data();
+}
+
+TEST_F(ImagesOfEmfPlus, OfBmpFilesAreTheirBitmaps) {
+  const Bytes file = BmpOf({.width = 1, .height = 2}, 54, {3, 2, 1, 0, 6, 5, 4, 0});
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}),
+            "image 1 2 rgb smooth under 1 0 0 1 0 0\n  bytes 040506 010203\n");
+}
+
+TEST_F(ImagesOfEmfPlus, OfBmpFilesStayNumbersOfColors) {
+  const Bytes file = BmpOf({.width = 2, .bitCount = 1, .colorsUsed = 2}, 62,
+                           {3, 2, 1, 0, 6, 5, 4, 0, 0x40, 0, 0, 0});
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}),
+            "image 2 1 indexed 1 smooth under 1 0 0 1 0 0\n  bytes 40\n  colors 010203 040506\n");
+}
+
+TEST_F(ImagesOfEmfPlus, OfBmpFilesWithoutTheirPixelsAreTold) {
+  const Bytes file = BmpOf({.width = 1, .height = 2}, 54, {3, 2, 1, 0});
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
+  EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kUnreadableBitmap));
+}
+
+TEST_F(ImagesOfEmfPlus, OfBmpFilesFarLargerThanTheirDataAreTold) {
+  constexpr std::uint32_t kRunLengths = 1;
+  const Bytes file = BmpOf(
+      {.width = 1 << 30, .height = 1 << 30, .bitCount = 8, .compression = kRunLengths}, 54, {0, 1});
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
+  EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
 }
 
 TEST_F(ImagesOfEmfPlus, AreMadeOnce) {
