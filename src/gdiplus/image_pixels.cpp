@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <utility>
@@ -15,6 +16,7 @@
 #include "metafile/gif_decoder.h"
 #include "metafile/jpeg_header.h"
 #include "metafile/png_decoder.h"
+#include "metafile/tiff_decoder.h"
 #include "platform/quartz/cg_data_provider.h"
 
 namespace kelvane::gdiplus {
@@ -48,11 +50,16 @@ OwnedImage ImageOfRgba(ImageSize size, const ImageBytes& rgba, bool isSmooth) {
   return OwnedImage(CGImageCreateWithMask(image.get(), mask.get()));
 }
 
-bool AffordPixels(Graphics& graphics, ImageSize size) {
-  const bool isSmall = size.width <= kMostPixelsOfAnImage / size.height;
-  if (isSmall && graphics.canvas->AffordPixels(kRgba * size.width * size.height)) return true;
+bool AffordBytes(Graphics& graphics, std::uint64_t bytes) {
+  if (graphics.canvas->AffordPixels(bytes)) return true;
   graphics.shortfalls.Add(Shortfall::kBitmapTooLarge);
   return false;
+}
+
+bool AffordPixels(Graphics& graphics, ImageSize size) {
+  const bool isSmall = size.width <= kMostPixelsOfAnImage / size.height;
+  const std::size_t pixels = isSmall ? size.width * size.height : kMostPixelsOfAnImage;
+  return AffordBytes(graphics, kRgba * pixels);
 }
 
 OwnedImage Unreadable(Graphics& graphics) {
@@ -124,12 +131,22 @@ OwnedImage BmpImage(Graphics& graphics, const DibBytes& bytes) {
   return image != nullptr ? std::move(image) : Unreadable(graphics);
 }
 
+OwnedImage TiffImage(Graphics& graphics, std::span<const unsigned char> file,
+                     const TiffHeader& header) {
+  const ImageSize size = {header.width, header.height};
+  if (!AffordPixels(graphics, size)) return nullptr;
+  if (!AffordBytes(graphics, header.bytesToDecode)) return nullptr;
+  const auto rgba = DecodeTiffWithAlpha(file);
+  return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
+}
+
 /// What a file is, its bytes say.
 OwnedImage ImageOf(Graphics& graphics, const EmfPlusImageFile& image) {
   const std::span<const unsigned char> file = image.bytes;
   if (const auto png = ReadPngHeader(file)) return PngImage(graphics, file, *png);
   if (const auto gif = ReadGifHeader(file)) return GifImage(graphics, file, *gif);
   if (const auto bmp = ReadBmpFile(file)) return BmpImage(graphics, *bmp);
+  if (const auto tiff = ReadTiffHeader(file)) return TiffImage(graphics, file, *tiff);
   if (const auto jpeg = ReadJpegHeader(file)) {
     return OwnedImage(CGImageCreateWithJPEG(jpeg->width, jpeg->height, jpeg->components,
                                             ProviderOf({file.begin(), file.end()}).get(),

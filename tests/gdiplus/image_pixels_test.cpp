@@ -10,6 +10,7 @@
 #include "support/bytes.h"
 #include "support/images.h"
 #include "support/png.h"
+#include "support/tiff.h"
 
 namespace kelvane::gdiplus {
 namespace {
@@ -199,6 +200,24 @@ TEST_F(ImagesOfEmfPlus, OfBmpFilesFarLargerThanTheirDataAreTold) {
       {.width = 1 << 30, .height = 1 << 30, .bitCount = 8, .compression = kRunLengths}, 54, {0, 1});
   EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
   EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+}
+
+TEST_F(ImagesOfEmfPlus, OfTiffFilesKeepTheirAlpha) {
+  const Bytes file = test::TiffFile({.width = 2, .samples = 4}, {255, 0, 0, 255, 0, 255, 0, 51});
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}),
+            "image 2 1 rgb smooth soft-masked 2 1 under 1 0 0 1 0 0\n"
+            "  bytes ff000000ff00\n"
+            "  mask ff33\n");
+}
+
+TEST_F(ImagesOfEmfPlus, OfTiffFilesFarLargerThanTheirDataAreTold) {
+  for (const test::TiffFields& fields : {test::TiffFields{.width = 1U << 16, .height = 1U << 16},
+                                         test::TiffFields{.tileSide = 1U << 14}}) {
+    graphics_.shortfalls.Clear();
+    const Bytes file = test::TiffFile(fields, {1, 2, 3});
+    EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
+    EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+  }
 }
 
 TEST_F(ImagesOfEmfPlus, AreMadeOnce) {
