@@ -21,8 +21,8 @@ using PlayMetafile =
 /// Draws a part of an image. Of a metafile that is all of it.
 /// @param source      the part, pixels.
 /// @param corners     where its upper left, upper right and lower left corner go, world units.
-/// @param attributes  null for none. No file is known in which more than half a pixel of the part
-///                    lies beyond the image, so how edges wrap makes no difference here.
+/// @param attributes  how the image goes on where the part reaches beyond it by more than half a
+///                    pixel; null for not at all.
 void DrawImage(Graphics& graphics, const EmfPlusImage& image, const RectF& source,
                const std::array<PointF, 3>& corners, const EmfPlusImageAttributes* attributes,
                const PlayMetafile& play);
