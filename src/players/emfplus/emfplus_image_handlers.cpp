@@ -1,5 +1,8 @@
+#include <string>
+#include <string_view>
 #include <utility>
 
+#include "metafile/emfplus/emfplus_image_effect.h"
 #include "metafile/emfplus/emfplus_state_records.h"
 #include "players/emfplus/emfplus_handler.h"
 
@@ -20,6 +23,12 @@ void DrawImage(EmfPlusPlayback& p, EmfPlusSlot image, EmfPlusSlot attributes, co
   });
 }
 
+std::string WhyWithoutEffect(const EmfPlusGuid& effect) {
+  const std::string_view name = EmfPlusEffectName(effect);
+  return "its effect " + std::string(name.empty() ? "of an unknown kind" : name) +
+         " is not applied";
+}
+
 constexpr EmfPlusHandler kImageRows[] = {
     {kEmfPlusDrawImage,
      PlayingEmfPlus<DecodeEmfPlusDrawImage>([](EmfPlusPlayback& p, const auto& r) {
@@ -27,13 +36,13 @@ constexpr EmfPlusHandler kImageRows[] = {
      })},
     {kEmfPlusDrawImagePoints,
      PlayingEmfPlus<DecodeEmfPlusDrawImagePoints>([](EmfPlusPlayback& p, const auto& r) {
-       if (std::exchange(p.hasEffect, false) && r.hasEffect) {
-         p.OnlyNearly("its effect is not applied");
-       }
+       const auto effect = std::exchange(p.effect, std::nullopt);
+       if (effect && r.hasEffect) p.OnlyNearly(WhyWithoutEffect(*effect));
        DrawImage(p, r.image, r.attributes, r.source, r.corners);
      })},
-    {kEmfPlusSerializableObject, PlayingEmfPlus<DecodeEmfPlusSerializableObject>(
-                                     [](EmfPlusPlayback& p, const auto&) { p.hasEffect = true; })},
+    {kEmfPlusSerializableObject,
+     PlayingEmfPlus<DecodeEmfPlusSerializableObject>(
+         [](EmfPlusPlayback& p, const auto& r) { p.effect = r.effect; })},
 };
 
 }  // namespace

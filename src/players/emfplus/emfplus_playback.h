@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -25,7 +26,7 @@ struct EmfPlusPlayback {
 
   /// The records of EMF that follow belong to the picture, until the next ones of EMF+.
   bool handsOver = false;
-  bool hasEffect = false;  // for the image that is drawn next
+  std::optional<EmfPlusGuid> effect = {};  // for the image that is drawn next
 
   EmfPlusObjectAssembler assembler = {};
 
