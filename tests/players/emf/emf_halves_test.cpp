@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/bytes.h"
 #include "support/metafile.h"
+#include "support/plus_records.h"
 #include "traced_emf.h"
 
 namespace kelvane::test {
@@ -13,42 +13,20 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr std::uint32_t kEmfPlus = 0x2B464D45;
-constexpr std::uint32_t kDual = 1;
-constexpr std::uint32_t kRed = 0xFFFF0000;
+PlusRecords& AddSquare(PlusRecords& records) {
+  return records.FillRectangle(0xFFFF0000, {10, 20}, {5, 5});
+}
 
-/// Records of EMF+ in one comment.
-class PlusRecords {
- public:
-  PlusRecords& Record(std::uint32_t type, std::uint32_t flags, const Bytes& data = {}) {
-    const auto size = static_cast<std::uint32_t>(data.Size());
-    records_.U16(type).U16(flags).U32(12 + size).U32(size).Append(data.Data());
-    return *this;
-  }
+/// A header and a red square at (10, 20) with sides of 5.
+PlusRecords SquareBehind(std::uint32_t headerFlags) {
+  PlusRecords records;
+  return AddSquare(records.Header(headerFlags));
+}
 
-  PlusRecords& Header(std::uint32_t flags) {
-    return Record(0x4001, flags, Bytes().U32(0xDBC01002).U32(1).U32(96).U32(96));
-  }
-
-  /// A red square at (10, 20) with sides of 5.
-  PlusRecords& FillSquare() {
-    return Record(0x400A, 0xC000, Bytes().U32(kRed).U32(1).Point(10, 20).Point(5, 5));
-  }
-
-  PlusRecords& GetDC() { return Record(0x4004, 0); }
-
-  /// StrokeFillPath, which no program is known to write.
-  PlusRecords& Unplayable() { return Record(0x4037, 0); }
-
-  Metafile& AddTo(Metafile& metafile) const {
-    return metafile.Record(
-        EMR_GDICOMMENT,
-        Bytes().U32(static_cast<std::uint32_t>(records_.Size())).Append(records_.Data()));
-  }
-
- private:
-  Bytes records_ = Bytes().U32(kEmfPlus);
-};
+/// The same, and StrokeFillPath, which no program is known to write.
+PlusRecords UnplayableBehind(std::uint32_t headerFlags) {
+  return SquareBehind(headerFlags).Record(0x4037, 0);
+}
 
 const std::string kSquare = "fill-color 1 0 0\n";
 const std::string kLine = "move 0 0\nline 1 1\n";
@@ -72,7 +50,7 @@ bool HasLine(const PlayedEmf& played) {
 }
 
 TEST(EmfHalves, AreNotPlayedBoth) {
-  const PlayedEmf played = Played(FileOf(PlusRecords().Header(kDual).FillSquare()));
+  const PlayedEmf played = Played(FileOf(SquareBehind(kPlusDual)));
   EXPECT_TRUE(HasSquare(played)) << played.trace;
   EXPECT_FALSE(HasLine(played));
   EXPECT_EQ(played.report, "");
@@ -81,7 +59,7 @@ TEST(EmfHalves, AreNotPlayedBoth) {
 }
 
 TEST(EmfHalves, AreTheOneInEmfWhereTheOtherCannotBePlayedWhole) {
-  const PlayedEmf played = Played(FileOf(PlusRecords().Header(kDual).FillSquare().Unplayable()));
+  const PlayedEmf played = Played(FileOf(UnplayableBehind(kPlusDual)));
   EXPECT_FALSE(HasSquare(played));
   EXPECT_TRUE(HasLine(played));
   EXPECT_EQ(played.report, "");
@@ -91,7 +69,7 @@ TEST(EmfHalves, AreTheOneInEmfWhereTheOtherCannotBePlayedWhole) {
 }
 
 TEST(EmfHalves, AreTheOneInEmfPlusWhereTheOtherIsNotWhole) {
-  const PlayedEmf played = Played(FileOf(PlusRecords().Header(0).FillSquare().Unplayable()));
+  const PlayedEmf played = Played(FileOf(UnplayableBehind(0)));
   EXPECT_TRUE(HasSquare(played));
   EXPECT_FALSE(HasLine(played));
   EXPECT_THAT(played.report, HasSubstr("it is of a kind that is not played"));
@@ -99,12 +77,11 @@ TEST(EmfHalves, AreTheOneInEmfPlusWhereTheOtherIsNotWhole) {
 }
 
 TEST(EmfHalves, AreTheOneThatIsAskedFor) {
-  const auto unplayable = FileOf(PlusRecords().Header(kDual).FillSquare().Unplayable());
+  const auto unplayable = FileOf(UnplayableBehind(kPlusDual));
   EXPECT_TRUE(HasSquare(Played(unplayable, EmfPlusChoice::kAlways)));
   EXPECT_FALSE(HasLine(Played(unplayable, EmfPlusChoice::kAlways)));
-  for (const std::uint32_t flags : {0U, kDual}) {
-    const PlayedEmf never =
-        Played(FileOf(PlusRecords().Header(flags).FillSquare()), EmfPlusChoice::kNever);
+  for (const std::uint32_t flags : {0U, kPlusDual}) {
+    const PlayedEmf never = Played(FileOf(SquareBehind(flags)), EmfPlusChoice::kNever);
     EXPECT_FALSE(HasSquare(never));
     EXPECT_TRUE(HasLine(never));
     EXPECT_THAT(never.remarks, ElementsAre("the picture is drawn from its EMF half: as was asked"));
@@ -115,7 +92,8 @@ TEST(EmfHalves, HandOverToEmfUntilTheNextRecordOfEmfPlus) {
   Metafile metafile;
   PlusRecords().Header(0).GetDC().AddTo(metafile);
   AddEmfLine(metafile);
-  PlusRecords().FillSquare().AddTo(metafile);
+  PlusRecords square;
+  AddSquare(square).AddTo(metafile);
   metafile.Polyline({{7, 7}, {8, 8}});
   const PlayedEmf played = Played(metafile.Build());
   EXPECT_TRUE(HasLine(played));
