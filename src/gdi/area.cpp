@@ -63,6 +63,13 @@ CGPath PathOf(const Polygons& polygons) {
   return path;
 }
 
+/// What it takes at least to look at an area.
+std::size_t PartsOf(const Area& area) {
+  const auto* outline = std::get_if<Outline>(&area);
+  return outline != nullptr ? outline->path->Reached().elements
+                            : std::get<Region>(area).EdgeCount();
+}
+
 Area AreaOf(const Polygons& polygons) {
   if (polygons.figures.empty()) return Region();
   return Outline{std::make_shared<CGPath>(PathOf(polygons)), polygons.fillMode};
@@ -102,6 +109,7 @@ std::optional<Area> Combine(const Area& a, const Area& b, RegionMode mode, Steps
   if (regionA != nullptr && regionB != nullptr) {
     return Combine(*regionA, *regionB, mode, steps);
   }
+  if (!steps.Take(PartsOf(a) + PartsOf(b))) return std::nullopt;
   const auto polygons = Combine(PolygonsOf(a), PolygonsOf(b), mode, steps);
   if (!polygons) return std::nullopt;
   return AreaOf(*polygons);
