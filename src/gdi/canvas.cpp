@@ -115,7 +115,7 @@ std::optional<RgbColor> Canvas::GroundUnder(const std::array<PointD, 4>& corners
 }
 
 bool Canvas::Afford(std::uint64_t parts) {
-  const bool isAfforded = repeats_.Take(parts);
+  const bool isAfforded = allowance_->repeats.Take(parts);
   hasRunOut_ = hasRunOut_ || !isAfforded;
   return isAfforded;
 }

@@ -68,13 +68,18 @@ class Canvas {
   /// entered and of paths that are saved and painted, the bytes of brushes in ever new colours. A
   /// large file may have more of it.
   bool Afford(std::uint64_t parts);
+  [[nodiscard]] std::uint64_t StillAffordable() const { return allowance_->repeats.Left(); }
   void AllowFor(std::size_t fileSize) {
-    repeats_.Add(fileSize);
-    pixels_.Add(8 * std::uint64_t{fileSize});
+    allowance_->repeats.Add(fileSize);
+    allowance_->pixels.Add(8 * std::uint64_t{fileSize});
   }
 
+  /// Makes this the canvas of a picture within another's, which may be drawn again and again: both
+  /// take from what the other one can afford.
+  void ShareAllowanceOf(const Canvas& outer) { allowance_ = outer.allowance_; }
+
   /// What bitmaps decode to: a few bytes of one that is compressed can stand for any size.
-  [[nodiscard]] bool AffordPixels(std::uint64_t bytes) { return pixels_.Take(bytes); }
+  [[nodiscard]] bool AffordPixels(std::uint64_t bytes) { return allowance_->pixels.Take(bytes); }
 
   /// Whether something was not drawn because it could not be afforded.
   [[nodiscard]] bool HasRunOut() const { return hasRunOut_; }
@@ -106,6 +111,11 @@ class Canvas {
                  DibUsage, std::vector<DibColor>, RasterStep::Color>;
   using PatternKey = std::tuple<CGSharedPattern, std::int32_t, std::int32_t>;  // cell, origin
 
+  struct Allowance {
+    Steps repeats{1U << 22};
+    Steps pixels{1U << 24};  // bytes
+  };
+
   struct WrittenCut {
     std::shared_ptr<const ClipCut> cut;
     bool hidesAll;  // it, or one around it
@@ -122,8 +132,7 @@ class Canvas {
   double screenPixel_;
   double patternPixelX_;  // device units in a pixel of a brush
   double patternPixelY_;
-  Steps repeats_{1U << 22};
-  Steps pixels_{1U << 24};  // bytes
+  std::shared_ptr<Allowance> allowance_ = std::make_shared<Allowance>();
   bool hasRunOut_ = false;
   std::vector<WrittenCut> written_;           // each within a state that was saved, outermost first
   std::map<CellKey, CGSharedPattern> cells_;  // a unit a pixel, wherever they lie

@@ -100,6 +100,7 @@ RectangleD AreaOfPage(const PagePlacement& page) {
 /// So they have a share of what the whole file may take, by their sizes.
 struct NestedPlay {
   Steps bytes;
+  Steps clipSteps{1U << 23};  // of all of them
   int depth = 0;
 };
 
@@ -110,15 +111,17 @@ struct PlayedPicture {
   CGContext& surface;
   Report& report;
   NestedPlay& nested;
+  const Canvas* around = nullptr;  // of the picture that it is within
 };
 
 /// @param whole  what can be seen, device units.
 std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
                      const CGAffineTransform& deviceToPage, const RectangleD& whole);
 
-bool PlayWithin(const PlayedPicture& outer, const EmfPlusMetafile& metafile,
-                const TransformD& unitToPage) {
+bool PlayWithin(const PlayedPicture& outer, const Canvas& around, const EmfPlusMetafile& metafile,
+                const TransformD& unitToDevice) {
   constexpr int kDeepest = 8;
+  const TransformD unitToPage = unitToDevice.Then(around.ToPage());
   const auto header = ReadEmfHeader(metafile.bytes);
   if (!header || outer.nested.depth >= kDeepest || !unitToPage.KeepsRectangles()) return false;
   const auto page = PlaceOnPage(GeometryOf(*header), PageChoice::kFrame, {});
@@ -128,18 +131,18 @@ bool PlayWithin(const PlayedPicture& outer, const EmfPlusMetafile& metafile,
   const TransformD deviceToPage =
       TransformD{t.a, t.b, t.c, t.d, t.tx, t.ty}.Then(pageToUnit).Then(unitToPage);
   ++outer.nested.depth;
-  PlayOnto({metafile.bytes, outer.setting, outer.surface, outer.report, outer.nested}, *header,
-           Rounded(deviceToPage), AreaOfPage(*page));
+  PlayOnto({metafile.bytes, outer.setting, outer.surface, outer.report, outer.nested, &around},
+           *header, Rounded(deviceToPage), AreaOfPage(*page));
   --outer.nested.depth;
   return true;
 }
 
 std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
                      const CGAffineTransform& deviceToPage, const RectangleD& whole) {
-  const auto [file, setting, surface, report, nested] = picture;
+  const auto [file, setting, surface, report, nested, around] = picture;
   const DeviceResolution resolution = ResolutionOf(GeometryOf(header));
   Canvas canvas(surface, deviceToPage, whole, resolution);
-  canvas.AllowFor(file.size());
+  around != nullptr ? canvas.ShareAllowanceOf(*around) : canvas.AllowFor(file.size());
   FontBook fonts(setting.text.registry, surface.FontFilter(), setting.text.map);
   DeviceContext device({header.device, header.millimeters, whole.left, whole.right}, &canvas);
   device.fonts = &fonts;
@@ -147,17 +150,22 @@ std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
   gdiplus::Graphics graphics(&canvas, {resolution.dotsPerInchX, resolution.dotsPerInchY});
   graphics.fonts = &fonts;
   graphics.outlinesText = setting.text.outlines;
+  if (around != nullptr) {  // one share is for what is within it
+    const std::uint64_t third = nested.clipSteps.Left() / 3;
+    device.clipSteps = graphics.clipSteps = nested.clipSteps = Steps(third);
+  }
   EmfPlayback playback = {device, report};
   std::optional<EmfPlusPlayback> emfPlus;
   if (ChooseHalf(file, setting.emfPlus, report) == EmfHalf::kEmfPlus) {
     const auto playWithin = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
-      return PlayWithin(picture, metafile, unitToDevice.Then(canvas.ToPage()));
+      return PlayWithin(picture, canvas, metafile, unitToDevice);
     };
     emfPlus.emplace(EmfPlusPlayback{graphics, report, playWithin});
     playback.emfPlus = &*emfPlus;
     device.canvas = nullptr;
   }
   const std::size_t count = PlayRecords(file, playback);
+  nested.clipSteps.Add(device.clipSteps.Left() + graphics.clipSteps.Left());
   ReportComments(playback);
   report.UsedFonts(fonts.Uses());
   return count;
