@@ -171,8 +171,8 @@ FlatLine WithoutRepeats(const FlatLine& line) {
   return without;
 }
 
-OutlineBuilder::OutlineBuilder(const TransformD& toDevice)
-    : toDevice_(toDevice), scale_(StretchOf(toDevice).most) {}
+OutlineBuilder::OutlineBuilder(const TransformD& toDevice, std::size_t mostPoints)
+    : toDevice_(toDevice), scale_(StretchOf(toDevice).most), mostPoints_(mostPoints) {}
 
 void OutlineBuilder::AddFigures(std::vector<std::vector<PointD>> figures) {
   double area = 0;

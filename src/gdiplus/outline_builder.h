@@ -28,8 +28,8 @@ struct Band {
 /// overlap nothing is lost and nothing adds up.
 class OutlineBuilder {
  public:
-  /// @param toDevice  from the space in which figures come.
-  explicit OutlineBuilder(const TransformD& toDevice);
+  /// @param toDevice  from the space in which figures come. @param mostPoints  of them together.
+  OutlineBuilder(const TransformD& toDevice, std::size_t mostPoints);
 
   /// Figures are turned around as a whole when together they wind the wrong way.
   void AddFigures(std::vector<std::vector<PointD>> figures);
@@ -40,18 +40,17 @@ class OutlineBuilder {
   /// A part of a line with flat ends.
   void AddBand(const FlatLine& line, const Band& band, const LineJoin& join);
 
-  /// More than anyone could want, and what more is added is lost.
-  [[nodiscard]] bool IsFull() const { return points_ > kMostPoints; }
+  /// What more is added is lost.
+  [[nodiscard]] bool IsFull() const { return points_ > mostPoints_; }
 
   [[nodiscard]] CGPath Take() { return std::move(path_); }
 
  private:
-  static constexpr std::size_t kMostPoints = std::size_t{1} << 17;
-
   void Add(std::span<const PointD> figure);
 
   TransformD toDevice_;
   double scale_;
+  std::size_t mostPoints_;
   std::size_t points_ = 0;
   CGPath path_;
 };

@@ -74,12 +74,12 @@ DashCap DashCapOf(const EmfPlusPen& pen, double width) {
 /// The outline of the lines of a path, one after the other.
 class Outliner {
  public:
-  Outliner(const PenShape& shape, const EmfPlusPen& pen)
+  Outliner(const PenShape& shape, const EmfPlusPen& pen, std::size_t mostPoints)
       : shape_(shape),
         pen_(pen),
         join_{pen.join, std::clamp(double{pen.miterLimit}, 1.0, 1e4)},
         bands_(BandsOf(pen, shape.width)),
-        outline_(shape.toDevice) {}
+        outline_(shape.toDevice, mostPoints) {}
 
   /// @return false when there is too much of it.
   bool Add(FlatLine line) {
@@ -123,6 +123,7 @@ class Outliner {
     const auto dashes = DashesOf(line, lengths, offset, kMostDashes);
     if (!dashes) return false;
     for (const FlatLine& dash : *dashes) {
+      if (outline_.IsFull()) break;
       AddBands(dash);
       if (cap.kind != EmfPlusLineCap::kFlat) AddDashCaps(dash, cap);
     }
@@ -161,11 +162,12 @@ class Outliner {
 
 }  // namespace
 
-std::optional<CGPath> OutlineOf(const CGPath& path, const PenShape& shape, const EmfPlusPen& pen) {
+std::optional<CGPath> OutlineOf(const CGPath& path, const PenShape& shape, const EmfPlusPen& pen,
+                                std::size_t mostPoints) {
   constexpr double kTolerance = 1.0 / 64;  // device units
   const auto toPen = shape.toDevice.Inverse();
   if (!toPen) return std::nullopt;
-  Outliner outliner(shape, pen);
+  Outliner outliner(shape, pen, mostPoints);
   for (FlatLine& line : FlatLinesOf(path, kTolerance)) {
     FlatLine clean = WithoutRepeats(line);
     for (PointD& point : clean.points)

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "gdi/surface_stroke.h"
@@ -110,11 +112,16 @@ std::size_t PartsOf(const EmfPlusPen& pen) {
   return parts;
 }
 
+/// A record of a few bytes may ask for as many dashes as there can be, and be repeated: what was
+/// made in vain counts, too.
 /// @return whether it was drawn.
 bool DrawOutlined(Graphics& graphics, const CGPath& path, const EmfPlusPen& pen,
                   const PenShape& shape) {
-  auto outline = OutlineOf(path, shape, pen);
+  constexpr std::uint64_t kMostPoints = 1U << 17;  // more than anyone could want
+  const std::uint64_t most = std::min(kMostPoints, graphics.canvas->StillAffordable());
+  auto outline = most > 0 ? OutlineOf(path, shape, pen, most) : std::nullopt;
   if (!outline || !outline->IsFinite()) {
+    Affords(graphics, most);
     graphics.shortfalls.Add(Shortfall::kPathTooComplex);
     return false;
   }

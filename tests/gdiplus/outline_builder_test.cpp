@@ -17,7 +17,7 @@ std::vector<PointD> PointsOf(const CGPath& path) {
 }
 
 std::vector<PointD> Corner(const FlatLine& line, const LineJoin& join) {
-  OutlineBuilder outline{TransformD()};
+  OutlineBuilder outline{TransformD(), 1000};
   outline.AddBand(line, {1, -1}, join);
   return PointsOf(outline.Take());
 }
@@ -56,7 +56,7 @@ TEST(RoundJoin, IsAsFarFromTheCornerEverywhere) {
 }
 
 TEST(Outline, TurnsFiguresTheSameWay) {
-  OutlineBuilder outline{TransformD()};
+  OutlineBuilder outline{TransformD(), 1000};
   outline.AddFigure({{0, 0}, {0, 1}, {1, 1}});
   EXPECT_EQ(PointsOf(outline.Take()), (std::vector<PointD>{{1, 1}, {0, 1}, {0, 0}}));
 }
