@@ -45,7 +45,7 @@ struct Graphics {
   /// What has not come out as it should, for whoever reports it, and clears it.
   Shortfalls shortfalls;
 
-  // What was made, see ImageFrom and HatchPaint.
+  // What was made, see ImageFrom and HatchPaint; null for an image that cannot be.
   std::map<ImageKey, CFOwned<const CGImage>> images;
   std::map<HatchKey, CGSharedPattern> hatches;
 

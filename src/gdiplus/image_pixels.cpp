@@ -167,9 +167,13 @@ template <class Image>
 OwnedImage Remembered(Graphics& graphics, const Image& image) {
   const ImageKey key = KeyOf(image, IsSmooth(graphics));
   const auto known = graphics.images.find(key);
-  if (known != graphics.images.end()) return CFShare(known->second.get());
+  if (known != graphics.images.end()) {
+    return known->second != nullptr ? CFShare(known->second.get()) : Unreadable(graphics);
+  }
   OwnedImage made = ImageOf(graphics, image);
-  if (made != nullptr) graphics.images.emplace(key, CFShare(made.get()));
+  // What is too large is found out at once, and others may still be afforded.
+  if (made == nullptr && graphics.shortfalls.Has(Shortfall::kBitmapTooLarge)) return made;
+  graphics.images.emplace(key, made != nullptr ? CFShare(made.get()) : nullptr);
   return made;
 }
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "gdi/exactly.h"
@@ -166,6 +167,12 @@ bool IsAffordable(Graphics& graphics, double corners) {
          graphics.canvas->Afford(static_cast<std::uint64_t>(std::max(corners, 0.0)));
 }
 
+std::size_t PointsOf(const EmfPlusPathGradientBrush& brush) {
+  if (const auto* path = std::get_if<EmfPlusPath>(&brush.boundary)) return path->points.size();
+  const auto* polygon = std::get_if<std::vector<PointF>>(&brush.boundary);
+  return polygon != nullptr ? polygon->size() : 0;
+}
+
 std::size_t CornersOf(const Boundary& boundary) {
   std::size_t size = 0;
   for (const auto& figure : boundary)
@@ -190,6 +197,9 @@ std::optional<Paint> PathGradientPaint(Graphics& graphics, const EmfPlusPathGrad
   if (!seen) return std::nullopt;
   const double scale =
       std::max(std::hypot(toDevice.m11, toDevice.m12), std::hypot(toDevice.m21, toDevice.m22));
+  if (!IsAffordable(graphics, static_cast<double>(PointsOf(brush)))) {
+    return CentersPaint(graphics, brush);
+  }
   const Boundary boundary = BoundaryOf(brush, kTolerance / scale);
   const RectangleD box = BoxAround(boundary);
   if (box.IsEmpty()) return std::nullopt;

@@ -144,6 +144,10 @@ void DrawString(Graphics& graphics, std::u16string_view text, const EmfPlusFont&
   if (!resolved || !std::isfinite(layout.x) || !std::isfinite(layout.y)) return;
   resolved->isVertical = (used.flags & kEmfPlusVertical) != 0;
 
+  // A record of a few bytes may name a format with as many tab stops as there can be.
+  if (!graphics.canvas->Afford(used.tabs.size())) {
+    return graphics.shortfalls.Add(Shortfall::kDrawnTooOften);
+  }
   const StringLayout set(text, *resolved, layout, used);
   if (set.Lines().empty()) return;
   const ClipState clip = graphics.state.clip;
