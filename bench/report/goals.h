@@ -31,6 +31,10 @@ std::vector<Finding> SmallFiles();
 /// The conversion that follows Windows against the classic one, of the same vectors in memory.
 std::vector<Finding> AgainstClassicConversion();
 
+/// The EMF+ half of files that have two against their EMF half.
+/// @param scenes  folder of metafiles, of which those count whose names say that they are dual.
+std::vector<Finding> Halves(const std::string& scenes);
+
 /// The tool as a process, against the start of comparable tools.
 /// @param converter  its path.
 std::vector<Finding> Processes(const std::string& converter);

@@ -1,5 +1,5 @@
 // What docs/performance.md promises, measured side by side: performance_report CONVERTER METAFILES
-// [REPORT.md]. The table goes to standard output, or replaces the one in the report.
+// SCENES [REPORT.md]. The table goes to standard output, or replaces the one in the report.
 
 #include <cstdio>
 #include <exception>
@@ -14,7 +14,7 @@ namespace kelvane::bench {
 namespace {
 
 std::string MeasureAll(const std::string& self, const std::string& converter,
-                       const std::string& metafiles) {
+                       const std::string& metafiles, const std::string& scenes) {
   std::vector<Finding> all;
   const auto add = [&all](const std::vector<Finding>& findings) {
     all.insert(all.end(), findings.begin(), findings.end());
@@ -22,6 +22,7 @@ std::string MeasureAll(const std::string& self, const std::string& converter,
   };
   add(SmallFiles());
   add(AgainstClassicConversion());
+  add(Halves(scenes));
   add(Processes(converter));
   add(Threads());
   add(FileSizes(metafiles));
@@ -50,13 +51,13 @@ int Main(const std::vector<std::string>& arguments) {
     PrintPeak(arguments[1]);
     return 0;
   }
-  if (arguments.size() < 3) {
-    std::fputs("Usage: performance_report CONVERTER METAFILES [REPORT.md]\n", stderr);
+  if (arguments.size() < 4) {
+    std::fputs("Usage: performance_report CONVERTER METAFILES SCENES [REPORT.md]\n", stderr);
     return 1;
   }
-  const std::string table = MeasureAll(arguments[0], arguments[1], arguments[2]);
-  if (arguments.size() > 3) {
-    Replace(arguments[3], table);
+  const std::string table = MeasureAll(arguments[0], arguments[1], arguments[2], arguments[3]);
+  if (arguments.size() > 4) {
+    Replace(arguments[4], table);
   } else {
     std::fputs(table.c_str(), stdout);
   }
