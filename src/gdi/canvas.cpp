@@ -120,6 +120,10 @@ bool Canvas::Afford(std::uint64_t parts) {
   return isAfforded;
 }
 
+void Canvas::CountInVain(std::uint64_t points) {
+  if (!allowance_->inVain.Take(points)) allowance_->inVain = Steps(0);
+}
+
 bool Canvas::BringClip(const ClipState& clip) {
   const std::shared_ptr<const ClipCut>& innermost = clip.Innermost();
   if (written_.empty() ? innermost == nullptr : written_.back().cut == innermost) {

@@ -68,7 +68,6 @@ class Canvas {
   /// entered and of paths that are saved and painted, the bytes of brushes in ever new colours. A
   /// large file may have more of it.
   bool Afford(std::uint64_t parts);
-  [[nodiscard]] std::uint64_t StillAffordable() const { return allowance_->repeats.Left(); }
   void AllowFor(std::size_t fileSize) {
     allowance_->repeats.Add(fileSize);
     allowance_->pixels.Add(8 * std::uint64_t{fileSize});
@@ -80,6 +79,10 @@ class Canvas {
 
   /// What bitmaps decode to: a few bytes of one that is compressed can stand for any size.
   [[nodiscard]] bool AffordPixels(std::uint64_t bytes) { return allowance_->pixels.Take(bytes); }
+
+  /// How many points may still be made and given up again, because they come to too much.
+  [[nodiscard]] std::uint64_t MostInVain() const { return allowance_->inVain.Left(); }
+  void CountInVain(std::uint64_t points);
 
   /// Whether something was not drawn because it could not be afforded.
   [[nodiscard]] bool HasRunOut() const { return hasRunOut_; }
@@ -114,6 +117,7 @@ class Canvas {
   struct Allowance {
     Steps repeats{1U << 22};
     Steps pixels{1U << 24};  // bytes
+    Steps inVain{1U << 22};  // points
   };
 
   struct WrittenCut {

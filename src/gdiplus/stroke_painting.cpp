@@ -112,21 +112,25 @@ std::size_t PartsOf(const EmfPlusPen& pen) {
   return parts;
 }
 
-/// A record of a few bytes may ask for as many dashes as there can be, and be repeated: what was
-/// made in vain counts, too.
+/// A record of a few bytes may ask for as many dashes as there can be, again and again: what is
+/// given up is counted, and in the end not begun.
 /// @return whether it was drawn.
 bool DrawOutlined(Graphics& graphics, const CGPath& path, const EmfPlusPen& pen,
                   const PenShape& shape) {
   constexpr std::uint64_t kMostPoints = 1U << 17;  // more than anyone could want
-  const std::uint64_t most = std::min(kMostPoints, graphics.canvas->StillAffordable());
+  Canvas& canvas = *graphics.canvas;
+  const std::uint64_t most = std::min(kMostPoints, canvas.MostInVain());
   auto outline = most > 0 ? OutlineOf(path, shape, pen, most) : std::nullopt;
   if (!outline || !outline->IsFinite()) {
-    Affords(graphics, most);
+    canvas.CountInVain(outline ? outline->Reached().elements : most);
     graphics.shortfalls.Add(Shortfall::kPathTooComplex);
     return false;
   }
-  if (outline->HasSegments() && Affords(graphics, outline->Reached().elements)) {
+  const std::size_t elements = outline->Reached().elements;
+  if (outline->HasSegments() && Affords(graphics, elements)) {
     PaintFill(graphics, *outline, WINDING, pen.brush);
+  } else {
+    canvas.CountInVain(elements);
   }
   return true;
 }
