@@ -42,6 +42,11 @@ PlusRecords& PlusRecords::FillWithBrush(std::uint32_t slot, At corner, At size) 
   return Record(kFillRects, kPlusSmall, OneRectangle(slot, corner, size));
 }
 
+PlusRecords& PlusRecords::Append(const PlusRecords& more) {
+  records_.Append(more.records_.Data());
+  return *this;
+}
+
 Metafile& PlusRecords::AddTo(Metafile& metafile) const {
   const Bytes identifier = Bytes().U32(kCommentIdentifier);
   return metafile.Record(EMR_GDICOMMENT, Bytes()

@@ -46,7 +46,7 @@ class PlusRecords {
   /// The same with the brush of a slot.
   PlusRecords& FillWithBrush(std::uint32_t slot, At corner, At size);
 
-  [[nodiscard]] const Bytes& Data() const { return records_; }
+  PlusRecords& Append(const PlusRecords& more);
 
   /// The records as one comment.
   Metafile& AddTo(Metafile& metafile) const;
