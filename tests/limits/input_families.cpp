@@ -1,5 +1,6 @@
 #include "limits/input_families.h"
 
+#include "limits/emfplus_families.h"
 #include "limits/family_parts.h"
 #include "limits/picture_families.h"
 #include "support/metafile.h"
@@ -342,6 +343,14 @@ const std::vector<InputFamily>& InputFamilies() {
       {"masked_images", false, MaskedImages},
       {"gradient_rectangles", true, GradientRectangles},
       {"a_mesh", true, AMesh},
+      {"plus_figures", true, PlusFigures},
+      {"plus_arrows", true, PlusArrows},
+      {"plus_clips", true, PlusClips},
+      {"plus_containers", true, PlusContainers},
+      {"plus_region", true, PlusRegion},
+      {"plus_path_gradient", true, PlusPathGradient},
+      {"plus_string", true, PlusString},
+      {"plus_strings", true, PlusStrings},
       {"overlapping_points", false, OverlappingPoints},
       {"barely_overlapping_points", false, BarelyOverlappingPoints},
       {"overlapping_texts", false, Overlapping<EMR_EXTTEXTOUTW>},

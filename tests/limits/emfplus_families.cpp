@@ -1,0 +1,124 @@
+#include "limits/emfplus_families.h"
+
+#include "support/plus_records.h"
+
+namespace kelvane::test {
+namespace {
+
+constexpr std::uint32_t kColor = 0xFF2060A0;
+
+File FileOf(const PlusRecords& records) {
+  PlusRecords all;
+  Metafile metafile;
+  metafile.Bounds(0, 0, 1024, 1024);
+  return all.Header().Append(records).AddTo(metafile).Build();
+}
+
+/// Adds to the records what `add` adds, `bytes` of it at a time.
+template <class Add>
+File Filled(PlusRecords records, std::size_t size, std::size_t bytes, const Add& add) {
+  for (std::size_t i = 0; i * bytes + kFixed < size; ++i)
+    add(records, i);
+  return FileOf(records);
+}
+
+/// A pen that the surface does not stroke by itself.
+Bytes ArrowPen() {
+  constexpr std::uint32_t kHasStartCap = 2;
+  constexpr std::uint32_t kHasEndCap = 4;
+  constexpr std::uint32_t kRound = 2;
+  constexpr std::uint32_t kArrow = 0x14;
+  Bytes pen = Bytes().U32(0).U32(kHasStartCap | kHasEndCap).U32(0).F32(3).U32(kRound).U32(kArrow);
+  return pen.U32(kPlusVersion).U32(0).U32(kColor);
+}
+
+PlusRecords WithFont() {
+  const std::u16string face = u"Liberation Sans";
+  Bytes font = Bytes().F32(12).U32(2).U32(0).U32(0).U32(Number(face.size())).Utf16(face);
+  return PlusRecords().Object(kPlusFont, 1, font);
+}
+
+Bytes StringOf(std::u16string_view text, std::size_t number) {
+  Bytes string = Bytes().U32(kColor).U32(0xFFFFFFFF).U32(Number(text.size()));
+  string.F32(static_cast<float>(Scattered(number))).F32(0).F32(1000).F32(1000);
+  return string.Utf16(text);
+}
+
+}  // namespace
+
+File PlusFigures(std::size_t size) {
+  return Filled({}, size, 28, [](PlusRecords& records, std::size_t i) {
+    records.FillRectangle(kColor + Number(i), {Scattered(i), Scattered(i + 1)}, {9, 9});
+  });
+}
+
+File PlusArrows(std::size_t size) {
+  const PlusRecords pen = PlusRecords().Object(kPlusPen, 1, ArrowPen());
+  return Filled(pen, size, 24, [](PlusRecords& records, std::size_t i) {
+    records.Record(0x400D, kPlusSmall | 1,
+                   Bytes()
+                       .U32(2)
+                       .Point(Scattered(i), Scattered(i + 1))
+                       .Point(Scattered(i + 2), Scattered(i + 3)));
+  });
+}
+
+// Each clip lies in the one before it, with a mark under it.
+File PlusClips(std::size_t size) {
+  return Filled({}, size, 28 + 28, [](PlusRecords& records, std::size_t i) {
+    constexpr std::uint32_t kIntersect = 0x100;
+    const auto left = static_cast<float>(i % 500);
+    records.Record(0x4032, kIntersect, Bytes().F32(left).F32(0).F32(1000).F32(1000));
+    records.FillRectangle(kColor, {1, 2}, {3, 4});
+  });
+}
+
+// None is ever left.
+File PlusContainers(std::size_t size) {
+  return Filled({}, size, 48 + 28, [](PlusRecords& records, std::size_t i) {
+    Bytes boxes = Bytes().F32(0).F32(0).F32(1000).F32(1000).F32(0).F32(0).F32(1000).F32(1000);
+    records.Record(0x4027, 2, boxes.U32(Number(i))).FillRectangle(kColor, {1, 2}, {3, 4});
+  });
+}
+
+// Squares beside each other.
+File PlusRegion(std::size_t size) {
+  constexpr std::uint32_t kOr = 2;
+  const std::size_t count = size / 24;
+  Bytes region = Bytes().U32(Number(2 * count));
+  for (std::size_t i = 1; i < count; ++i)
+    region.U32(kOr);
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto left = static_cast<float>(i % 500 * 2);
+    region.U32(0x10000000).F32(left).F32(static_cast<float>(i / 500 * 2)).F32(1).F32(1);
+  }
+  PlusRecords records;
+  records.Object(kPlusRegion, 1, region);
+  return FileOf(records.Record(0x4013, kPlusColor | 1, Bytes().U32(kColor)));
+}
+
+File PlusPathGradient(std::size_t size) {
+  const std::size_t count = size / 8;
+  Bytes brush = Bytes().U32(3).U32(0).U32(4).U32(kColor).F32(500).F32(500).U32(1).U32(0xFFFFFFFF);
+  brush.U32(Number(count));
+  for (std::size_t i = 0; i < count; ++i)
+    brush.F32(static_cast<float>(Scattered(i))).F32(static_cast<float>(Scattered(3 * i + 1)));
+  PlusRecords records;
+  return FileOf(records.Object(kPlusBrush, 1, brush).FillWithBrush(1, {0, 0}, {1000, 1000}));
+}
+
+File PlusString(std::size_t size) {
+  std::u16string text;
+  for (std::size_t i = 0; i < size / 2; ++i)
+    text += i % 7 == 0 ? u' ' : u'x';
+  return FileOf(WithFont().Record(0x401C, kPlusColor | 1, StringOf(text, 0)));
+}
+
+File PlusStrings(std::size_t size) {
+  const std::u16string line = u"The quick brown fox jumps over the lazy dog";
+  return Filled(WithFont(), size, 128, [&](PlusRecords& records, std::size_t i) {
+    records.Record(0x401C, kPlusColor | 1, StringOf(line, i));
+  });
+}
+
+}  // namespace kelvane::test
