@@ -179,6 +179,12 @@ OwnedImage Remembered(Graphics& graphics, const Image& image) {
 
 }  // namespace
 
+bool IsReadable(const EmfPlusImageFile& image) {
+  const std::span<const unsigned char> file = image.bytes;
+  return ReadPngHeader(file) || ReadGifHeader(file) || ReadBmpFile(file) || ReadTiffHeader(file) ||
+         ReadJpegHeader(file);
+}
+
 CFOwned<const CGImage> ImageFrom(Graphics& graphics, const EmfPlusImage& image) {
   if (graphics.canvas == nullptr) return nullptr;
   if (const auto* pixels = std::get_if<EmfPlusPixels>(&image)) return Remembered(graphics, *pixels);

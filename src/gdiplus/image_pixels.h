@@ -13,4 +13,7 @@ namespace kelvane::gdiplus {
 ///         is far larger than its data, which is told the graphics.
 CFOwned<const CGImage> ImageFrom(Graphics& graphics, const EmfPlusImage& image);
 
+/// Whether a file is of a kind that can be drawn, as far as its header tells.
+bool IsReadable(const EmfPlusImageFile& image);
+
 }  // namespace kelvane::gdiplus

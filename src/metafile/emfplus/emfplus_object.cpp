@@ -14,6 +14,10 @@ constexpr unsigned kTypeShift = 8;
 
 constexpr std::size_t kFilling = 4;  // records are filled up to a multiple of it
 
+EmfPlusObjectType TypeIn(std::uint16_t flags) {
+  return static_cast<EmfPlusObjectType>((flags & ~kIsPiece) >> kTypeShift);
+}
+
 template <class T>
 EmfPlusObject OrNothing(std::optional<T> object) {
   if (!object) return {};
@@ -48,6 +52,13 @@ EmfPlusObject ReadEmfPlusObject(EmfPlusObjectType type, ByteView bytes) {
   return {};
 }
 
+std::optional<EmfPlusImage> WholeImageOf(const EmfPlusRecord& record) {
+  if ((record.flags & kIsPiece) != 0 || TypeIn(record.flags) != EmfPlusObjectType::kImage)
+    return std::nullopt;
+  ByteView data = record.data;
+  return ReadEmfPlusImage(data);
+}
+
 void EmfPlusObjectAssembler::Drop() {
   waiting_.reset();
 }
@@ -64,7 +75,7 @@ EmfPlusObjectAssembler::Progress EmfPlusObjectAssembler::Add(const EmfPlusRecord
     Drop();
   }
   stored.slot = flags & kSlotMask;
-  stored.type = static_cast<EmfPlusObjectType>(flags >> kTypeShift);
+  stored.type = TypeIn(flags);
   if (stored.slot >= kEmfPlusSlots || data.IsShort()) {
     Drop();
     return Progress::kBroken;

@@ -66,6 +66,10 @@ class EmfPlusObjectAssembler {
   std::optional<Pieces> waiting_;
 };
 
+/// @param record  of type kEmfPlusObject.
+/// @return the image that it stores in one piece; nullopt for all else.
+std::optional<EmfPlusImage> WholeImageOf(const EmfPlusRecord& record);
+
 /// @param bytes  an object from its version on.
 EmfPlusObject ReadEmfPlusObject(EmfPlusObjectType type, ByteView bytes);
 

@@ -1,8 +1,8 @@
 #include "players/emfplus/emfplus_player.h"
 
+#include "gdiplus/image_pixels.h"
+#include "metafile/emfplus/emfplus_object.h"
 #include "metafile/emfplus/emfplus_record_type.h"
-#include "metafile/jpeg_header.h"
-#include "metafile/png_decoder.h"
 #include "players/emfplus/emfplus_handler.h"
 #include "players/shortfall_words.h"
 
@@ -21,7 +21,7 @@ void PlayOne(EmfPlusPlayback& playback, const EmfPlusRecord& record) {
 
 bool IsPlayable(const EmfPlusImage& image) {
   if (const auto* const file = std::get_if<EmfPlusImageFile>(&image)) {
-    return ReadPngHeader(file->bytes) || ReadJpegHeader(file->bytes);
+    return gdiplus::IsReadable(*file);
   }
   const auto* const metafile = std::get_if<EmfPlusMetafile>(&image);
   return metafile == nullptr || (metafile->type != EmfPlusMetafileType::kWmf &&
@@ -42,12 +42,9 @@ std::size_t PlayEmfPlus(EmfPlusPlayback& playback, ByteView data) {
 bool IsPlayable(const EmfPlusRecord& record) {
   if (FindEmfPlusHandler(record.type) == nullptr) return false;
   if (record.type != kEmfPlusObject) return true;
-  EmfPlusObjectAssembler assembler;
-  EmfPlusStoredObject stored;
   // What comes in pieces is found out when it is drawn.
-  if (assembler.Add(record, stored) != EmfPlusObjectAssembler::Progress::kWhole) return true;
-  const auto* const image = std::get_if<EmfPlusImage>(&stored.object);
-  return image == nullptr || IsPlayable(*image);
+  const auto image = WholeImageOf(record);
+  return !image || IsPlayable(*image);
 }
 
 }  // namespace kelvane

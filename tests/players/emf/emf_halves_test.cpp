@@ -68,6 +68,26 @@ TEST(EmfHalves, AreTheOneInEmfWhereTheOtherCannotBePlayedWhole) {
       ElementsAre("the picture is drawn from its EMF half: 1 EMF+ record cannot be played"));
 }
 
+/// A square and an image that is a file.
+PlusRecords ImageBehind(std::uint32_t headerFlags, const Bytes& file) {
+  constexpr std::uint32_t kImage = 5;
+  constexpr std::uint32_t kBitmap = 1;
+  constexpr std::uint32_t kOfAFile = 1;
+  Bytes object;
+  object.U32(kBitmap).U32(0).U32(0).U32(0).U32(0).U32(kOfAFile).Append(file.Data());
+  return SquareBehind(headerFlags).Object(kImage, 0, object);
+}
+
+TEST(EmfHalves, AreJudgedByTheImagesWithinThem) {
+  Bytes gif;
+  gif.Each({'G', 'I', 'F', '8', '9', 'a', 1, 0, 1, 0, 0x80, 0, 0, 1, 2, 3, 4, 5, 6});
+  gif.Each({0x2C, 0, 0, 0, 0, 1, 0, 1, 0, 0, 2, 2, 0x44, 0x01, 0, 0x3B});
+  EXPECT_TRUE(HasSquare(Played(FileOf(ImageBehind(kPlusDual, gif)))));
+  Bytes unknown;
+  unknown.Each({'G', 'I', 'F', '9', '9', 'a', 1, 0, 1, 0, 0x80, 0, 0, 1, 2, 3, 4, 5, 6});
+  EXPECT_TRUE(HasLine(Played(FileOf(ImageBehind(kPlusDual, unknown)))));
+}
+
 TEST(EmfHalves, AreTheOneInEmfPlusWhereTheOtherIsNotWhole) {
   const PlayedEmf played = Played(FileOf(UnplayableBehind(0)));
   EXPECT_TRUE(HasSquare(played));
