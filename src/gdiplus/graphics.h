@@ -24,6 +24,12 @@ namespace kelvane::gdiplus {
 /// An image by its bytes and how they are taken: where, how many, width, stride, smoothing.
 using ImageKey = std::tuple<const unsigned char*, std::size_t, std::size_t, std::size_t, bool>;
 
+/// What came of an image.
+struct KnownImage {
+  CFOwned<const CGImage> image;  // null when there is none
+  Shortfall lack;                // why
+};
+
 /// A hatch by its style and its two colours.
 using HatchKey = std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>;
 
@@ -46,7 +52,7 @@ struct Graphics {
   Shortfalls shortfalls;
 
   // What was made, see ImageFrom and HatchPaint; null for an image that cannot be.
-  std::map<ImageKey, CFOwned<const CGImage>> images;
+  std::map<ImageKey, KnownImage> images;
   std::map<HatchKey, CGSharedPattern> hatches;
 
   /// What clipping may still take, as in a device context.

@@ -168,12 +168,15 @@ OwnedImage Remembered(Graphics& graphics, const Image& image) {
   const ImageKey key = KeyOf(image, IsSmooth(graphics));
   const auto known = graphics.images.find(key);
   if (known != graphics.images.end()) {
-    return known->second != nullptr ? CFShare(known->second.get()) : Unreadable(graphics);
+    const auto& [made, lack] = known->second;
+    if (made != nullptr) return CFShare(made.get());
+    graphics.shortfalls.Add(lack);
+    return nullptr;
   }
   OwnedImage made = ImageOf(graphics, image);
-  // What is too large is found out at once, and others may still be afforded.
-  if (made == nullptr && graphics.shortfalls.Has(Shortfall::kBitmapTooLarge)) return made;
-  graphics.images.emplace(key, made != nullptr ? CFShare(made.get()) : nullptr);
+  const bool isTooLarge = graphics.shortfalls.Has(Shortfall::kBitmapTooLarge);
+  const Shortfall lack = isTooLarge ? Shortfall::kBitmapTooLarge : Shortfall::kUnreadableBitmap;
+  graphics.images.emplace(key, KnownImage{made != nullptr ? CFShare(made.get()) : nullptr, lack});
   return made;
 }
 

@@ -1,5 +1,6 @@
 #include "gdiplus/image_pixels.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -152,9 +153,11 @@ Bytes GifOf(bool isTransparent, std::uint32_t width = 1, std::uint32_t height = 
 }
 
 TEST_F(ImagesOfEmfPlus, OfGifFilesAreSeenThroughWhereTheyAreTransparent) {
-  const Bytes opaque = GifOf(false);
+  const Bytes opaque = GifOf(false, 2);  // the screen has room for one more
   EXPECT_EQ(TraceOf(EmfPlusImageFile{opaque}),
-            "image 1 1 rgb smooth under 1 0 0 1 0 0\n  bytes 010203\n");
+            "image 2 1 rgb smooth soft-masked 2 1 under 1 0 0 1 0 0\n"
+            "  bytes 010203000000\n"
+            "  mask ff00\n");
   const Bytes transparent = GifOf(true);
   EXPECT_EQ(TraceOf(EmfPlusImageFile{transparent}),
             "image 1 1 rgb smooth soft-masked 1 1 under 1 0 0 1 0 0\n"
@@ -162,8 +165,16 @@ TEST_F(ImagesOfEmfPlus, OfGifFilesAreSeenThroughWhereTheyAreTransparent) {
             "  mask 00\n");
 }
 
-TEST_F(ImagesOfEmfPlus, OfGifFilesMayHaveAScreenFarLargerThanTheirData) {
+TEST_F(ImagesOfEmfPlus, OfGifFilesWithAScreenFarLargerThanTheirDataAreTold) {
   const Bytes file = GifOf(false, 0xFFFF, 0xFFFF);
+  EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
+  EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+}
+
+TEST_F(ImagesOfEmfPlus, OfGifFilesWithAFrameFarLargerThanTheirDataAreTold) {
+  constexpr std::ptrdiff_t kFrameSize = 13 + 6 + 8 + 5;
+  Bytes file = GifOf(false);
+  std::fill_n(file.begin() + kFrameSize, 4, 0xFF);
   EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
   EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
 }
@@ -236,6 +247,21 @@ TEST_F(ImagesOfEmfPlus, FarLargerThanTheirDataAreTold) {
   const Bytes file = test::PngFile({.width = 1U << 16, .height = 1U << 16}, {});
   EXPECT_EQ(TraceOf(EmfPlusImageFile{file}), "nothing");
   EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+}
+
+// Each is looked at once, for its size may stand far inside its file.
+TEST_F(ImagesOfEmfPlus, ThatLackSomethingAreToldEachTime) {
+  const Bytes large = GifOf(false, 0xFFFF, 0xFFFF);
+  const Bytes unreadable = {'G', 'I', 'F'};
+  for (int i = 0; i < 2; ++i) {
+    graphics_.shortfalls.Clear();
+    EXPECT_EQ(TraceOf(EmfPlusImageFile{large}), "nothing");
+    EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kBitmapTooLarge));
+    EXPECT_FALSE(graphics_.shortfalls.Has(Shortfall::kUnreadableBitmap));
+    graphics_.shortfalls.Clear();
+    EXPECT_EQ(TraceOf(EmfPlusImageFile{unreadable}), "nothing");
+    EXPECT_TRUE(graphics_.shortfalls.Has(Shortfall::kUnreadableBitmap));
+  }
 }
 
 TEST_F(ImagesOfEmfPlus, ThatAreMetafilesAreNoPixels) {
