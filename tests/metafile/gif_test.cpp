@@ -129,7 +129,7 @@ TEST(Gif, IsNothingWithoutAPicture) {
 
 TEST(Gif, IsNothingWithoutColorsOrASize) {
   EXPECT_FALSE(ReadGifHeader(GifOf({.hasColors = false}, {{0, 1}})));
-  for (const std::size_t side : {5, 7}) {
+  for (const std::size_t side : {5U, 7U}) {
     Pixels file = GifOf({}, {{0, 1}, {2, 3}});
     file[13 + 3 * 4 + side] = 0;  // of the frame
     EXPECT_FALSE(ReadGifHeader(file)) << side;
