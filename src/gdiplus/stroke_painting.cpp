@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "gdi/surface_stroke.h"
+#include "gdiplus/dash_starts.h"
 #include "gdiplus/paint.h"
 #include "gdiplus/painting.h"
 #include "gdiplus/path_bounds.h"
@@ -141,6 +142,7 @@ void PaintStroke(Graphics& graphics, CGPath& path, const EmfPlusPen& pen) {
   if (!path.HasSegments() || !path.IsFinite() || !BringClip(graphics)) return path.Clear();
   if (!Affords(graphics, PartsOf(pen))) return path.Clear();
   const PenShape shape = ShapeOf(graphics, pen);
+  if (!shape.dashes.empty()) path = StartedWhereDashesDo(path);
   const bool isClosed = AreAllClosed(path);
   if (!IsPlain(pen, shape, isClosed) && DrawOutlined(graphics, path, pen, shape)) {
     return path.Clear();

@@ -304,6 +304,44 @@ TEST(CompoundPen, HasCornersWhereTheEdgesOfABandMeetOnTheInside) {
             "move 14 46\nline 56 46\nline 56 14\nline 14 14\nclose\nfill\n");
 }
 
+TEST(Dashes, OfClosedFiguresBeginWithTheLineThatClosesThem) {
+  EmfPlusPen pen = PenOf(2);
+  pen.style = EmfPlusLineStyle::kDash;
+  TracedGraphics graphics;
+  DrawRectangles(graphics, pen, std::vector<RectF>{{10, 10, 50, 40}});
+  EXPECT_EQ(graphics.TakeMarks(),
+            "move 10 50\nline 10 10\nline 60 10\nline 60 50\nclose\nstroke\n");
+  DrawLines(graphics, pen, std::vector<PointF>{{0, 0}, {20, 0}, {0, 20}}, true);
+  EXPECT_EQ(graphics.TakeMarks(), "move 0 20\nline 0 0\nline 20 0\nclose\nstroke\n");
+}
+
+TEST(Dashes, OfCurvesBeginWithTheLineThatClosesThem) {
+  EmfPlusPen pen = PenOf(2);
+  pen.style = EmfPlusLineStyle::kDash;
+  TracedGraphics graphics;
+  DrawPath(graphics, pen, {{{0, 0}, {0, 10}, {20, 10}, {20, 0}}, {0, 3, 3, 0x83}, false});
+  EXPECT_EQ(graphics.TakeMarks(), "move 20 0\nline 0 0\ncurve 20 0\nclose\nstroke\n");
+}
+
+TEST(Dashes, OfOpenFiguresBeginAtTheirFirstPoint) {
+  EmfPlusPen pen = PenOf(2);
+  pen.style = EmfPlusLineStyle::kDash;
+  TracedGraphics graphics;
+  DrawPath(graphics, pen, {{{0, 0}, {20, 0}, {0, 20}, {5, 5}, {9, 5}}, {0, 1, 1, 0, 1}, false});
+  EXPECT_EQ(graphics.TakeMarks(), "move 0 0\nline 20 0\nline 0 20\nmove 5 5\nline 9 5\nstroke\n");
+}
+
+TEST(Dashes, WithCapsBeginWithTheLineThatClosesThem) {
+  EmfPlusPen pen = PenOf(4);
+  pen.style = EmfPlusLineStyle::kCustom;
+  pen.dashes = {3, 100};
+  pen.dashCap = EmfPlusDashCap::kTriangle;
+  TracedGraphics graphics;
+  DrawRectangles(graphics, pen, std::vector<RectF>{{10, 10, 50, 40}});
+  EXPECT_NE(graphics.TakeMarks().find("move 8 48\nline 8 40\nline 12 40\nline 12 48\n"),
+            std::string::npos);
+}
+
 TEST(DashCaps, LieInsideTheLengthOfTheDash) {
   EmfPlusPen pen = PenOf(4);
   pen.style = EmfPlusLineStyle::kDash;
