@@ -26,8 +26,8 @@ PlusRecords& PlusRecords::Record(std::uint32_t type, std::uint32_t flags, const 
   return *this;
 }
 
-PlusRecords& PlusRecords::Header(std::uint32_t flags) {
-  return Record(0x4001, flags, Bytes().U32(kPlusVersion).U32(1).U32(96).U32(96));
+PlusRecords& PlusRecords::Header(std::uint32_t flags, std::uint32_t version) {
+  return Record(0x4001, flags, Bytes().U32(version).U32(1).U32(96).U32(96));
 }
 
 PlusRecords& PlusRecords::Object(std::uint32_t kind, std::uint32_t slot, const Bytes& object) {

@@ -33,7 +33,7 @@ class PlusRecords {
   /// Any record: type, flags, sizes and data, which are padded to a multiple of four.
   PlusRecords& Record(std::uint32_t type, std::uint32_t flags, const Bytes& data = {});
 
-  PlusRecords& Header(std::uint32_t flags = 0);
+  PlusRecords& Header(std::uint32_t flags = 0, std::uint32_t version = kPlusVersion);
 
   /// @param object  behind its version.
   PlusRecords& Object(std::uint32_t kind, std::uint32_t slot, const Bytes& object);

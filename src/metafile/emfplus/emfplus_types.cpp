@@ -87,10 +87,14 @@ RectF ReadEmfPlusRectangle(ByteView& bytes, EmfPlusNumbers numbers) {
                                               : bytes.Read<RectF>();
 }
 
-void ReadEmfPlusVersion(ByteView& bytes) {
+bool IsEmfPlusVersion(std::uint32_t version) {
   constexpr std::uint32_t kSignature = 0xDBC01;
   constexpr unsigned kVersionBits = 12;  // which GDI+ it was
-  if (bytes.Read<std::uint32_t>() >> kVersionBits != kSignature) bytes.Fail();
+  return version >> kVersionBits == kSignature;
+}
+
+void ReadEmfPlusVersion(ByteView& bytes) {
+  if (!IsEmfPlusVersion(bytes.Read<std::uint32_t>())) bytes.Fail();
 }
 
 std::u16string ReadEmfPlusText(ByteView& bytes, std::size_t length) {

@@ -67,6 +67,9 @@ std::vector<RectF> ReadEmfPlusRectangles(ByteView& bytes, std::size_t count,
                                          EmfPlusNumbers numbers);
 RectF ReadEmfPlusRectangle(ByteView& bytes, EmfPlusNumbers numbers);
 
+/// Whether it is what versions of EMF+ look like, whichever GDI+ it was.
+bool IsEmfPlusVersion(std::uint32_t version);
+
 /// What the objects begin with ([MS-EMFPLUS] 2.2.2.19). Fails the view when it is no version of
 /// EMF+.
 void ReadEmfPlusVersion(ByteView& bytes);

@@ -13,11 +13,12 @@
 namespace kelvane {
 namespace {
 
-/// What the EMF+ records of a file are, by their types alone.
+/// What the EMF+ records of a file are, by their header and types alone.
 struct EmfPlusHalf {
   std::size_t records = 0;
   std::size_t unplayable = 0;
-  bool isDual = false;  // the EMF records have the whole picture, too
+  bool isDual = false;     // the EMF records have the whole picture, too
+  bool isForeign = false;  // its header is none that GDI+ writes, and so are its objects
 };
 
 void Survey(ByteView data, EmfPlusHalf& half) {
@@ -27,6 +28,7 @@ void Survey(ByteView data, EmfPlusHalf& half) {
     if (record->type != kEmfPlusHeader) continue;
     const auto header = DecodeEmfPlusHeader(*record);
     half.isDual = header && header->isDual;
+    half.isForeign = header && !IsEmfPlusVersion(header->version);
   }
 }
 
@@ -58,6 +60,7 @@ EmfHalf ChooseHalf(std::span<const unsigned char> file, EmfPlusChoice choice, Re
   if (choice == EmfPlusChoice::kNever) return chosen(EmfHalf::kEmf, "as was asked");
   if (choice == EmfPlusChoice::kAlways) return chosen(EmfHalf::kEmfPlus, "as was asked");
   if (!half.isDual) return chosen(EmfHalf::kEmfPlus, "it has no other that is whole");
+  if (half.isForeign) return chosen(EmfHalf::kEmf, "the other is of no version of EMF+");
   if (half.unplayable > 0) {
     return chosen(EmfHalf::kEmf, Counted(half.unplayable) + " cannot be played");
   }

@@ -18,9 +18,9 @@ PlusRecords& AddSquare(PlusRecords& records) {
 }
 
 /// A header and a red square at (10, 20) with sides of 5.
-PlusRecords SquareBehind(std::uint32_t headerFlags) {
+PlusRecords SquareBehind(std::uint32_t headerFlags, std::uint32_t version = kPlusVersion) {
   PlusRecords records;
-  return AddSquare(records.Header(headerFlags));
+  return AddSquare(records.Header(headerFlags, version));
 }
 
 /// The same, and StrokeFillPath, which no program is known to write.
@@ -86,6 +86,17 @@ TEST(EmfHalves, AreJudgedByTheImagesWithinThem) {
   Bytes unknown;
   unknown.Each({'G', 'I', 'F', '9', '9', 'a', 1, 0, 1, 0, 0x80, 0, 0, 1, 2, 3, 4, 5, 6});
   EXPECT_TRUE(HasLine(Played(FileOf(ImageBehind(kPlusDual, unknown)))));
+}
+
+TEST(EmfHalves, AreTheOneInEmfWhereTheOtherIsOfNoVersion) {
+  constexpr std::uint32_t kNoVersion = 0x10000;
+  const PlayedEmf played = Played(FileOf(SquareBehind(kPlusDual, kNoVersion)));
+  EXPECT_FALSE(HasSquare(played));
+  EXPECT_TRUE(HasLine(played));
+  EXPECT_THAT(
+      played.remarks,
+      ElementsAre("the picture is drawn from its EMF half: the other is of no version of EMF+"));
+  EXPECT_TRUE(HasSquare(Played(FileOf(SquareBehind(0, kNoVersion)))));
 }
 
 TEST(EmfHalves, AreTheOneInEmfPlusWhereTheOtherIsNotWhole) {
