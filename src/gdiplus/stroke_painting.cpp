@@ -121,9 +121,10 @@ bool DrawOutlined(Graphics& graphics, const CGPath& path, const EmfPlusPen& pen,
   constexpr std::uint64_t kMostPoints = 1U << 17;  // more than anyone could want
   Canvas& canvas = *graphics.canvas;
   const std::uint64_t most = std::min(kMostPoints, canvas.MostInVain());
-  auto outline = most > 0 ? OutlineOf(path, shape, pen, most) : std::nullopt;
+  const bool mayEnd = path.Reached().elements < most;  // each has a point of the outline at least
+  auto outline = mayEnd ? OutlineOf(path, shape, pen, most) : std::nullopt;
   if (!outline || !outline->IsFinite()) {
-    canvas.CountInVain(outline ? outline->Reached().elements : most);
+    if (mayEnd) canvas.CountInVain(outline ? outline->Reached().elements : most);
     graphics.shortfalls.Add(Shortfall::kPathTooComplex);
     return false;
   }

@@ -63,6 +63,16 @@ File PlusArrows(std::size_t size) {
   });
 }
 
+// One line through all points.
+File PlusLongArrow(std::size_t size) {
+  const std::size_t count = size / 4;
+  Bytes line = Bytes().U32(Number(count));
+  for (std::size_t i = 0; i < count; ++i)
+    line.Point(Scattered(i), Scattered(3 * i + 1));
+  PlusRecords records = PlusRecords().Object(kPlusPen, 1, ArrowPen());
+  return FileOf(records.Record(0x400D, kPlusSmall | 1, line));
+}
+
 // Each clip lies in the one before it, with a mark under it.
 File PlusClips(std::size_t size) {
   return Filled({}, size, 28 + 28, [](PlusRecords& records, std::size_t i) {

@@ -7,6 +7,7 @@ namespace kelvane::test {
 // Files of about so many bytes, all but nothing of which is EMF+.
 File PlusFigures(std::size_t size);
 File PlusArrows(std::size_t size);
+File PlusLongArrow(std::size_t size);
 File PlusClips(std::size_t size);
 File PlusContainers(std::size_t size);
 File PlusRegion(std::size_t size);

@@ -345,6 +345,7 @@ const std::vector<InputFamily>& InputFamilies() {
       {"a_mesh", true, AMesh},
       {"plus_figures", true, PlusFigures},
       {"plus_arrows", true, PlusArrows},
+      {"plus_long_arrow", true, PlusLongArrow},
       {"plus_clips", true, PlusClips},
       {"plus_containers", true, PlusContainers},
       {"plus_region", true, PlusRegion},
