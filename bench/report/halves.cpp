@@ -13,8 +13,8 @@ namespace {
 
 using Files = std::vector<std::vector<unsigned char>>;
 
-constexpr int kRuns = 31;
-constexpr int kRepeats = 20;
+constexpr int kHalvesRuns = 31;
+constexpr int kHalvesRepeats = 20;
 
 Files DualFilesIn(const std::string& folder) {
   std::vector<std::filesystem::path> paths;
@@ -46,8 +46,8 @@ std::vector<Finding> Halves(const std::string& scenes) {
   const Files files = DualFilesIn(scenes);
   return {{"the EMF+ half of a file : its EMF half, all scenes of both together",
            SideBySide(Conversion(files, EmfPlusChoice::kAlways),
-                      Conversion(files, EmfPlusChoice::kNever), kRuns, kRepeats),
-           kRuns, 1.5}};
+                      Conversion(files, EmfPlusChoice::kNever), kHalvesRuns, kHalvesRepeats),
+           kHalvesRuns, 1.5}};
 }
 
 }  // namespace kelvane::bench
