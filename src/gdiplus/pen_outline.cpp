@@ -77,7 +77,7 @@ class Outliner {
   Outliner(const PenShape& shape, const EmfPlusPen& pen, std::size_t mostPoints)
       : shape_(shape),
         pen_(pen),
-        join_{pen.join, std::clamp(double{pen.miterLimit}, 1.0, 1e4)},
+        join_{pen.join, MiterLimitOf(pen)},
         bands_(BandsOf(pen, shape.width)),
         outline_(shape.toDevice, mostPoints) {}
 

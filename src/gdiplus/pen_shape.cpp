@@ -60,6 +60,11 @@ void SetDashes(PenShape& shape, const EmfPlusPen& pen) {
 
 }  // namespace
 
+double MiterLimitOf(const EmfPlusPen& pen) {
+  constexpr double kLongest = 1e4;
+  return pen.miterLimit >= 1 ? std::min(double{pen.miterLimit}, kLongest) : 1;
+}
+
 PenShape ShapeOf(const Graphics& graphics, const EmfPlusPen& pen) {
   PenShape shape;
   const TransformD unit = WithoutOrigin(

@@ -17,6 +17,9 @@ struct PenShape {
   double dashOffset = 0;       // in that space, from 0 to below the sum of dashes
 };
 
+/// @return how long a miter may be in widths; 1 or more.
+double MiterLimitOf(const EmfPlusPen& pen);
+
 PenShape ShapeOf(const Graphics& graphics, const EmfPlusPen& pen);
 
 }  // namespace kelvane::gdiplus

@@ -5,6 +5,7 @@
 
 #include "gdi/surface_stroke.h"
 #include "gdiplus/dash_starts.h"
+#include "gdiplus/miter_spikes.h"
 #include "gdiplus/paint.h"
 #include "gdiplus/painting.h"
 #include "gdiplus/path_bounds.h"
@@ -66,11 +67,18 @@ bool IsPlain(const EmfPlusPen& pen, const PenShape& shape, bool isClosed) {
   return cap == CapOnSurface(pen.endCap) && (shape.dashes.empty() || cap == kCGLineCapButt);
 }
 
+/// A surface leaves a miter past the limit out, as a clipped one is; a plain one is cut there.
+bool CutsSpikes(const EmfPlusPen& pen, const PenShape& shape, const CGPath& path) {
+  if (pen.join != EmfPlusLineJoin::kMiter || shape.isHairline) return false;
+  const auto toPen = shape.toDevice.Inverse();
+  return toPen && HasSpikes(path, *toPen, MiterLimitOf(pen));
+}
+
 SurfaceStroke OnSurface(const EmfPlusPen& pen, const PenShape& shape) {
   SurfaceStroke stroke;
   stroke.cap = shape.dashes.empty() ? CapOnSurface(pen.startCap) : kCGLineCapButt;
   stroke.join = JoinOnSurface(pen.join);
-  stroke.miterLimit = std::max(1.0F, pen.miterLimit);
+  stroke.miterLimit = static_cast<CGFloat>(MiterLimitOf(pen));
   stroke.width = shape.isHairline ? 0 : shape.width;
   stroke.dashes = shape.dashes;
   stroke.dashPhase = shape.dashOffset;
@@ -145,14 +153,14 @@ void PaintStroke(Graphics& graphics, CGPath& path, const EmfPlusPen& pen) {
   const PenShape shape = ShapeOf(graphics, pen);
   if (!shape.dashes.empty()) path = StartedWhereDashesDo(path);
   const bool isClosed = AreAllClosed(path);
-  if (!IsPlain(pen, shape, isClosed) && DrawOutlined(graphics, path, pen, shape)) {
-    return path.Clear();
-  }
+  const bool isInset =
+      pen.alignment == EmfPlusPenAlignment::kInset && isClosed && !shape.isHairline;
+  const bool isOutlined =
+      !IsPlain(pen, shape, isClosed) || (!isInset && CutsSpikes(pen, shape, path));
+  if (isOutlined && DrawOutlined(graphics, path, pen, shape)) return path.Clear();
   const auto paint = PaintOf(graphics, pen.brush, BoundsOf(path));
   if (!paint) return path.Clear();
   SetStroke(graphics.canvas->Surface(), *paint);
-  const bool isInset =
-      pen.alignment == EmfPlusPenAlignment::kInset && isClosed && !shape.isHairline;
   isInset ? DrawInset(graphics, path, pen, shape) : DrawPlain(graphics, path, pen, shape);
 }
 

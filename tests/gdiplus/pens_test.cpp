@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -129,6 +130,52 @@ TEST(PlainPen, IsSolidWhereDashesAreNoLengths) {
     EXPECT_EQ(LinesWith(Draw(pen), "line-dash"), Lines{});
     EXPECT_EQ(LinesWith(Draw(pen), "stroke"), Lines{"stroke"});
   }
+}
+
+/// Lines that turn by nearly a half turn, which make a miter of some 40 widths.
+std::string Spike(const EmfPlusPen& pen) {
+  TracedGraphics graphics;
+  DrawLines(graphics, pen, std::vector<PointF>{{0, 0}, {80, 2}, {0, 4}}, false);
+  return graphics.TakeMarks();
+}
+
+/// @return the largest x of a trace's points.
+double RightOf(const std::string& marks) {
+  double right = 0;
+  for (const char* element : {"move", "line"}) {
+    for (const std::string& line : LinesWith(marks, element))
+      right = std::max(right, std::stod(line.substr(5)));
+  }
+  return right;
+}
+
+TEST(MiterJoin, IsCutAtItsLimit) {
+  EmfPlusPen pen = PenOf(2);
+  pen.miterLimit = 5;
+  const std::string marks = Spike(pen);
+  EXPECT_EQ(LinesWith(marks, "fill"), Lines{"fill"});
+  EXPECT_NEAR(RightOf(marks), 80 + 5, 0.1);  // half of the width, five times
+}
+
+TEST(MiterJoin, OfTheClippedKindIsABevelPastItsLimit) {
+  EmfPlusPen pen = PenOf(2);
+  pen.join = EmfPlusLineJoin::kMiterClipped;
+  pen.miterLimit = 5;
+  EXPECT_EQ(Spike(pen), "move 0 0\nline 80 2\nline 0 4\nstroke\n");
+}
+
+TEST(MiterJoin, WithinItsLimitIsTheSurfaces) {
+  EmfPlusPen pen = PenOf(2);
+  pen.miterLimit = 50;
+  EXPECT_EQ(Spike(pen), "move 0 0\nline 80 2\nline 0 4\nstroke\n");
+}
+
+TEST(MiterJoin, IsCutWhereAFigureCloses) {
+  EmfPlusPen pen = PenOf(2);
+  pen.miterLimit = 5;
+  TracedGraphics graphics;
+  DrawLines(graphics, pen, std::vector<PointF>{{80, 2}, {0, 10}, {0, -6}}, true);
+  EXPECT_NEAR(RightOf(graphics.TakeMarks()), 80 + 5, 0.1);
 }
 
 TEST(InsetPen, IsTheInnerHalfOfALineTwiceAsWide) {
