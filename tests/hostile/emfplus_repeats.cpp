@@ -178,9 +178,9 @@ PlusRecords BranchingMetafiles() {
   return records;
 }
 
-PlusRecords RepeatedMetafile(const PlusRecords& records) {
+PlusRecords RepeatedMetafile(const PlusRecords& records, int times = 20000) {
   return Joined(
-      {Object(kPlusImage, 1, ImageOf(FileOf(records), kEmfImage)), Repeated(DrawImage(1), 20000)});
+      {Object(kPlusImage, 1, ImageOf(FileOf(records), kEmfImage)), Repeated(DrawImage(1), times)});
 }
 
 PlusRecords RepeatedJpeg() {
@@ -201,7 +201,8 @@ std::vector<HostileEmfPlus> BadImages() {
       {"a_metafile_of_dashes_drawn_again_and_again",
        [] {
          return RepeatedMetafile(Joined({Object(kPlusPen, 1, DashedPen(30, {0.05F, 0.05F})),
-                                         Repeated(DrawLine(1, {-32000, 10}, {32000, 20}), 30)}));
+                                         Repeated(DrawLine(1, {-32000, 10}, {32000, 20}), 30)}),
+                                 5000);
        },
        kHardPath},
       {"a_metafile_of_no_bytes", [] { return DrawnImage(ImageOf({}, kEmfImage)); }, kNoBitmap},
