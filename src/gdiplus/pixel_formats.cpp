@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <span>
 
+#include "metafile/alpha_multiplied.h"
+
 namespace kelvane::gdiplus {
 namespace {
 
@@ -47,11 +49,6 @@ std::uint8_t AlphaOf(unsigned light) {
   return static_cast<std::uint8_t>(std::min(light, kFullLight) * 255 / kFullLight);
 }
 
-/// @return what was multiplied by alpha, of which `full` is the most.
-unsigned Divided(unsigned channel, unsigned alpha, unsigned full) {
-  return alpha == 0 ? 0 : std::min((channel * full + alpha / 2) / alpha, full);
-}
-
 // One pixel each.
 
 Argb Gray16(PixelBytes p) {
@@ -84,7 +81,7 @@ Argb Argb8888(PixelBytes p) {
 
 Argb Premultiplied8888(PixelBytes p) {
   const auto divided = [alpha = p[3]](unsigned channel) {
-    return static_cast<std::uint8_t>(Divided(channel, alpha, kFullChannel));
+    return static_cast<std::uint8_t>(DividedByAlpha(channel, alpha, kFullChannel));
   };
   return {divided(p[0]), divided(p[1]), divided(p[2]), p[3]};
 }
@@ -102,7 +99,7 @@ Argb Argb64(PixelBytes p) {
 Argb Premultiplied64(PixelBytes p) {
   const unsigned alpha = std::min(Read16(p + 6), kFullLight);
   const auto divided = [alpha](unsigned light) {
-    return ChannelOf(Divided(light, alpha, kFullLight));
+    return ChannelOf(DividedByAlpha(light, alpha, kFullLight));
   };
   return {divided(Read16(p)), divided(Read16(p + 2)), divided(Read16(p + 4)), AlphaOf(alpha)};
 }

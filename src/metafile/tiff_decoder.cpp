@@ -9,6 +9,7 @@
 #include <memory>
 #include <utility>
 
+#include "metafile/alpha_multiplied.h"
 #include "metafile/byte_view.h"
 #include "metafile/tiff_library.h"
 
@@ -171,15 +172,14 @@ class TiffFile {
   std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff_{nullptr, nullptr};
 };
 
-std::uint8_t DividedByAlpha(std::uint32_t channel, std::uint32_t alpha) {
-  if (alpha == 0) return 0;
-  return static_cast<std::uint8_t>(std::min(255U, (channel * 255 + alpha / 2) / alpha));
-}
-
 std::array<std::uint8_t, kTiffChannels> RgbaOf(std::uint32_t pixel) {
+  constexpr unsigned kFull = 255;
   const std::uint32_t alpha = TIFFGetA(pixel);
-  return {DividedByAlpha(TIFFGetR(pixel), alpha), DividedByAlpha(TIFFGetG(pixel), alpha),
-          DividedByAlpha(TIFFGetB(pixel), alpha), static_cast<std::uint8_t>(alpha)};
+  const auto channel = [&](std::uint32_t multiplied) {
+    return static_cast<std::uint8_t>(DividedByAlpha(multiplied, alpha, kFull));
+  };
+  return {channel(TIFFGetR(pixel)), channel(TIFFGetG(pixel)), channel(TIFFGetB(pixel)),
+          static_cast<std::uint8_t>(alpha)};
 }
 
 /// Where the stored pixels are found, going along the rows of the picture as it is looked at.
