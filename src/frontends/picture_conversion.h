@@ -28,14 +28,16 @@ struct PictureConversion {
   std::string message;       // why it is not kDone
   CFOwned<CFData> document;  // null unless it is kDone or kIncomplete
   std::string_view format;   // of the document
-  CGSize pageSize = {};      // points
+  std::size_t pages = 0;     // one but for print jobs
+  CGSize pageSize = {};      // of the first, points
   std::size_t records = 0;   // of the input
   std::size_t bytes = 0;     // of the input
   double milliseconds = 0;
   Report report;
 };
 
-/// Makes a document of a metafile, as Windows shows it.
+/// Makes a document of a metafile, as Windows shows it. A compressed one is inflated first, and a
+/// print job becomes a page for each of its own.
 /// @param file  borrowed for the call.
 /// @return anything but kRefused and kNoDocument. Throws std::bad_alloc, or another std::exception
 ///         when the document cannot be made.

@@ -3,8 +3,6 @@
 #include <cmath>
 
 #include "frontends/json_writer.h"
-#include "metafile/emf/emf_record_type.h"
-#include "metafile/emfplus/emfplus_record_type.h"
 
 namespace kelvane {
 namespace {
@@ -14,13 +12,12 @@ double ToThousandths(double number) {
 }
 
 void AddRecords(const ReportedRecords& records, JsonWriter& json) {
-  std::string_view name = RecordName(records.type);
-  if (name.empty()) name = EmfPlusRecordName(records.type);
+  const std::string_view name = NameOf(records.record);
   json.BeginObject();
   json.Key("record");
   json.Text(name.empty() ? "unknown" : name);
   json.Key("type");
-  json.Count(records.type);
+  json.Count(records.record.type);
   json.Key("count");
   json.Count(records.count);
   json.Key("why");
@@ -73,6 +70,10 @@ void AddDocument(const PictureConversion& conversion, JsonWriter& json) {
   json.Key("format");
   json.Text(conversion.format);
   AddPage(conversion.pageSize, json);
+  if (conversion.pages > 1) {
+    json.Key("pages");
+    json.Count(conversion.pages);
+  }
   json.Key("records");
   json.Count(conversion.records);
   AddRecordsThat(Omission::kLeftOut, "left_out", conversion.report, json);

@@ -61,6 +61,7 @@ Canvas::Canvas(CGContext& surface, const CGAffineTransform& deviceToPage, const 
                const DeviceResolution& resolution)
     : surface_(surface),
       deviceToPage_(deviceToPage),
+      pageToSurface_(surface.State().ctm),
       partsOfAPoint_(PartsOfAPoint(deviceToPage, whole)),
       whole_(whole),
       screenPixel_(resolution.dotsPerInchX / kScreenDotsPerInch),
@@ -94,8 +95,7 @@ bool Canvas::ClipTo(CGPath& path) {
 }
 
 TransformD Canvas::ToPage() const {
-  const CGAffineTransform t = BelowTheMiddle(deviceToPage_, partsOfAPoint_);
-  return {t.a, t.b, t.c, t.d, t.tx, t.ty};
+  return Exactly(BelowTheMiddle(deviceToPage_, partsOfAPoint_));
 }
 
 CGPoint Canvas::RoundOnPage(CGPoint point) const {
@@ -108,6 +108,7 @@ std::optional<RgbColor> Canvas::GroundUnder(const std::array<PointD, 4>& corners
   const TransformD toPage = ToPage();
   for (const PointD corner : corners)
     place.LineTo(Rounded(toPage.Map(corner)));
+  place.Map(pageToSurface_);
   const auto color = surface_.GroundOf(BoxOf(place));
   if (!color) return std::nullopt;
   return RgbColor{ChannelFromPage(color->red), ChannelFromPage(color->green),
@@ -192,7 +193,8 @@ CGSharedPattern Canvas::Placed(const CGSharedPattern& cell, PointL origin) {
     const CGAffineTransform patternToDevice = {x, 0, 0, -y, left, bottom};
     CGPattern pattern;
     pattern.cell = cell->cell;
-    pattern.matrix = IntoThePixel(CGAffineTransformConcat(patternToDevice, deviceToPage_));
+    pattern.matrix =
+        PatternMatrix(IntoThePixel(CGAffineTransformConcat(patternToDevice, deviceToPage_)));
     pattern.image = CFShare(cell->image.get());
     pattern.shapes = cell->shapes;
     entry->second = std::make_shared<const CGPattern>(std::move(pattern));

@@ -30,7 +30,7 @@ struct DeviceResolution {
 /// however slightly pixels are taller than wide.
 class Canvas {
  public:
-  /// @param surface       borrowed; its user space is the page.
+  /// @param surface       borrowed; its user space, as it is now, is what is called the page here.
   /// @param deviceToPage  upright.
   /// @param whole         all that can be seen, device units.
   Canvas(CGContext& surface, const CGAffineTransform& deviceToPage, const RectangleD& whole,
@@ -56,6 +56,12 @@ class Canvas {
   /// @return what brings points of the device onto the page, as it does those of paths before they
   ///         are rounded.
   [[nodiscard]] TransformD ToPage() const;
+
+  /// @param toPage  of a pattern. @return its matrix for the surface, which has patterns lie where
+  ///        they lie whatever its own transform is.
+  [[nodiscard]] CGAffineTransform PatternMatrix(const CGAffineTransform& toPage) const {
+    return CGAffineTransformConcat(toPage, pageToSurface_);
+  }
 
   /// @return a point of the page as those of paths are stored.
   [[nodiscard]] CGPoint RoundOnPage(CGPoint point) const;
@@ -131,7 +137,8 @@ class Canvas {
 
   CGContext& surface_;
   CGAffineTransform deviceToPage_;
-  CGFloat partsOfAPoint_;  // to which coordinates are rounded
+  CGAffineTransform pageToSurface_;  // none but for a picture that lies turned in another one
+  CGFloat partsOfAPoint_;            // to which coordinates are rounded
   RectangleD whole_;
   double screenPixel_;
   double patternPixelX_;  // device units in a pixel of a brush

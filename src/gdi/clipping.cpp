@@ -13,8 +13,8 @@ constexpr std::uint64_t kStepsOfACall = 256;
 constexpr std::uint64_t kStepsOfARectangle = 16;
 
 bool Join(DeviceContext& device, const Area& area, RegionMode mode) {
-  device.clipSteps.Add(kStepsOfACall);
-  const bool isJoined = device.state.clip.Join(area, mode, device.clipSteps);
+  device.clipSteps->Add(kStepsOfACall);
+  const bool isJoined = device.state.clip.Join(area, mode, *device.clipSteps);
   const bool isMode = mode >= RGN_AND && mode <= RGN_COPY;
   if (!isJoined && isMode) device.shortfalls.Add(Shortfall::kClipTooComplex);
   return isJoined;
@@ -40,8 +40,8 @@ bool OffsetClipRgn(DeviceContext& device, PointL offset) {
   const PointD moved =
       toDevice.MapVector({static_cast<double>(offset.x), static_cast<double>(offset.y)});
   if (!IsFinite(moved)) return false;
-  device.clipSteps.Add(kStepsOfACall);
-  const bool isMoved = device.state.clip.Offset(moved.x, moved.y, device.clipSteps);
+  device.clipSteps->Add(kStepsOfACall);
+  const bool isMoved = device.state.clip.Offset(moved.x, moved.y, *device.clipSteps);
   if (!isMoved) device.shortfalls.Add(Shortfall::kClipTooComplex);
   return isMoved;
 }
@@ -57,7 +57,7 @@ bool ExtSelectClipRgn(DeviceContext& device, std::optional<ArrayView<RectangleL>
   exact.reserve(rectangles->size());
   for (const RectangleL r : *rectangles)
     exact.push_back(Exactly(r));
-  device.clipSteps.Add(kStepsOfARectangle * exact.size());
+  device.clipSteps->Add(kStepsOfARectangle * exact.size());
   return Join(device, AreaOf(exact), mode);
 }
 

@@ -18,6 +18,14 @@ inline void SetViewportOrgEx(DeviceContext& device, PointL origin) {
   device.state.mapping.SetViewportOrigin(origin);
 }
 
+inline void OffsetWindowOrgEx(DeviceContext& device, PointL offset) {
+  device.state.mapping.OffsetWindowOrigin(offset);
+}
+
+inline void OffsetViewportOrgEx(DeviceContext& device, PointL offset) {
+  device.state.mapping.OffsetViewportOrigin(offset);
+}
+
 inline bool SetWindowExtEx(DeviceContext& device, SizeL extent) {
   return device.state.mapping.SetWindowExtent(extent);
 }

@@ -80,6 +80,11 @@ struct DeviceContext {
   FontBook* fonts = nullptr;  // null writes nothing
   bool outlinesText = false;  // glyphs become shapes
 
+  /// Whether nobody knows what device the picture was made for. Its pixels then mean nothing: text
+  /// is measured in logical units, and the lines that can be dashed are those as thin as a screen's
+  /// pixels.
+  bool isForAnyDevice = false;
+
   PendingMarks pending;
   PendingBlits pendingBlits;
   CGPath bracketPath;               // of the open bracket, device units
@@ -91,9 +96,10 @@ struct DeviceContext {
   /// What has not come out as it should, for whoever reports it, and clears it.
   Shortfalls shortfalls;
 
-  /// What clipping may still take. A part comes with each call and with each rectangle of it, so
-  /// that only files run out in which few shapes cut each other into very many.
-  Steps clipSteps{1U << 23};
+  /// What clipping may still take, here and in other pictures of the file. A part comes with each
+  /// call and with each rectangle of it, so that only files run out in which few shapes cut each
+  /// other into very many.
+  std::shared_ptr<Steps> clipSteps = std::make_shared<Steps>(1U << 23);
 };
 
 /// @return the level that RestoreDC takes to come back here: 1, 2, …

@@ -17,6 +17,10 @@ constexpr RectangleD Exactly(const RectangleL& r) {
           static_cast<double>(r.bottom)};
 }
 
+constexpr TransformD Exactly(const CGAffineTransform& t) {
+  return {t.a, t.b, t.c, t.d, t.tx, t.ty};
+}
+
 /// The other way, into the single precision of paths and surfaces.
 inline CGPoint Rounded(PointD point) {
   return {static_cast<CGFloat>(point.x), static_cast<CGFloat>(point.y)};

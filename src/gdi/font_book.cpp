@@ -109,6 +109,14 @@ double EmOf(double height, double pixel, double cellInEms) {
   return (height > 0 ? height : kDefaultCell * pixel) / cellInEms;
 }
 
+/// @param asked    average width of a character. @param natural  that of the face.
+/// @return by how much glyphs are stretched. Most programs ask for what they were told, which is
+/// the
+///         face's own in whole units.
+double Stretch(double asked, double natural) {
+  return asked == std::round(natural) ? 1 : asked / natural;
+}
+
 }  // namespace
 
 const TextFont& FontBook::Resolve(const LogFont& font, double pixel) {
@@ -123,7 +131,7 @@ const TextFont& FontBook::Resolve(const LogFont& font, double pixel) {
   text.descent *= text.em;
   text.leading *= text.em;
   if (font.width != 0)
-    text.xScale = std::abs(static_cast<double>(font.width)) / (face.averageWidth * text.em);
+    text.xScale = Stretch(std::abs(static_cast<double>(font.width)), face.averageWidth * text.em);
   if (fonts_.size() >= kMostFonts) formerFonts_ = std::exchange(fonts_, {});
   return fonts_.emplace(key, text).first->second;
 }

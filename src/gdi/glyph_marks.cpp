@@ -31,11 +31,9 @@ struct PageFrame {
 };
 
 PageFrame OnPage(const Canvas& canvas, const TextFrame& frame, PointD origin) {
-  const CGAffineTransform& page = canvas.DeviceToPage();
-  const TransformD deviceToPage = {page.a, page.b, page.c, page.d, page.tx, page.ty};
   const TransformD ems = {frame.glyphAlong.x, frame.glyphAlong.y, frame.glyphUp.x,
                           frame.glyphUp.y,    origin.x,           origin.y};
-  TransformD onPage = ems.Then(deviceToPage);
+  TransformD onPage = ems.Then(Exactly(canvas.DeviceToPage()));
   const double size = std::hypot(onPage.m21, onPage.m22);
   onPage.m11 /= size;
   onPage.m12 /= size;

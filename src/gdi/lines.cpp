@@ -37,10 +37,10 @@ void AddCurves(FigurePath& figures, ArrayView<Point> points) {
 }
 
 /// Calls `visit(points)` for each figure.
-template <class Point, class Visitor>
-void ForEachFigure(ArrayView<std::uint32_t> counts, ArrayView<Point> points, Visitor visit) {
+template <class Count, class Point, class Visitor>
+void ForEachFigure(ArrayView<Count> counts, ArrayView<Point> points, Visitor visit) {
   std::size_t start = 0;
-  for (const std::uint32_t count : counts) {
+  for (const Count count : counts) {
     const std::size_t size = std::min<std::size_t>(count, points.size() - start);
     visit(points.Part(start, size));
     start += size;
@@ -182,8 +182,8 @@ void PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayV
   });
 }
 
-template <class Point>
-void PolyPolygon(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points) {
+template <class Count, class Point>
+void PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points) {
   DrawFigures(device, PaintKind::kFillAndStroke, [&](FigurePath& figures) {
     ForEachFigure(counts, points, [&](ArrayView<Point> polygon) { AddPolygon(figures, polygon); });
   });
@@ -199,7 +199,7 @@ bool PolyDraw(DeviceContext& device, ArrayView<Point> points, ArrayView<PointTyp
   return isWhole;
 }
 
-// Files hold points in two widths.
+// Files hold numbers in two widths.
 template void Polyline(DeviceContext&, ArrayView<PointL>);
 template void Polyline(DeviceContext&, ArrayView<Point16>);
 template void PolylineTo(DeviceContext&, ArrayView<PointL>);
@@ -214,6 +214,7 @@ template void PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<P
 template void PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
 template void PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<PointL>);
 template void PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
+template void PolyPolygon(DeviceContext&, ArrayView<std::uint16_t>, ArrayView<Point16>);
 template bool PolyDraw(DeviceContext&, ArrayView<PointL>, ArrayView<PointType>);
 template bool PolyDraw(DeviceContext&, ArrayView<Point16>, ArrayView<PointType>);
 

@@ -35,8 +35,8 @@ template <class Point>
 void PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points);
 
 /// Filled as one, so that polygons are holes in one another.
-template <class Point>
-void PolyPolygon(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points);
+template <class Count, class Point>
+void PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points);
 
 /// @param types  of the points, as many.
 /// @return false, and draws what comes before, at a type that is none.

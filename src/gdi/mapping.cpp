@@ -36,6 +36,14 @@ double Shrunk(double extent, double factor) {
   return whole != 0 ? whole : std::copysign(1, extent);
 }
 
+/// Numbers go around as they do on Windows.
+PointL Moved(PointL point, PointL offset) {
+  const auto sum = [](std::int32_t a, std::int32_t b) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+  };
+  return {sum(point.x, offset.x), sum(point.y, offset.y)};
+}
+
 }  // namespace
 
 Mapping::Mapping(const ReferenceDevice& device) : device_(device) {
@@ -70,6 +78,14 @@ void Mapping::SetWindowOrigin(PointL origin) {
 void Mapping::SetViewportOrigin(PointL origin) {
   viewportOrigin_ = origin;
   Update();
+}
+
+void Mapping::OffsetWindowOrigin(PointL offset) {
+  SetWindowOrigin(Moved(windowOrigin_, offset));
+}
+
+void Mapping::OffsetViewportOrigin(PointL offset) {
+  SetViewportOrigin(Moved(viewportOrigin_, offset));
 }
 
 bool Mapping::SetWindowExtent(SizeL extent) {

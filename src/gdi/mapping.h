@@ -31,6 +31,8 @@ class Mapping {
   bool SetMode(MapMode mode);
   void SetWindowOrigin(PointL origin);
   void SetViewportOrigin(PointL origin);
+  void OffsetWindowOrigin(PointL offset);
+  void OffsetViewportOrigin(PointL offset);
 
   /// Extents count in MM_ISOTROPIC and MM_ANISOTROPIC; in other modes they change nothing, which is
   /// no mistake.

@@ -3,6 +3,10 @@
 namespace kelvane {
 namespace {
 
+bool IsDashed(const Pen& pen) {
+  return pen.style >= PS_DASH && pen.style <= PS_DASHDOTDOT;
+}
+
 std::shared_ptr<Palette> PaletteOfFile(const DeviceContext& device, std::uint32_t index) {
   if ((index & STOCK_OBJECT_BIT) != 0) return nullptr;
   return device.objects.Find<Palette>(index);
@@ -56,7 +60,10 @@ BrushPaint ResolveBrush(const DeviceContext& device, const Brush& brush) {
 
 PenStroke ResolvePen(const DeviceContext& device) {
   const DeviceState& state = device.state;
-  return ResolvePen(*state.pen, state.mapping.HorizontalScale(), state.backgroundMode);
+  double scale = state.mapping.HorizontalScale();
+  if (device.isForAnyDevice && device.canvas != nullptr && IsDashed(*state.pen))
+    scale /= device.canvas->ScreenPixel();
+  return ResolvePen(*state.pen, scale, state.backgroundMode);
 }
 
 }  // namespace kelvane

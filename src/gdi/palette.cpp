@@ -37,6 +37,15 @@ void Palette::Set(std::size_t index, RgbColor color) {
   entries_[index] = color;
 }
 
+Palette PaletteOf(ArrayView<PaletteEntry> entries) {
+  std::vector<RgbColor> colors;
+  for (const PaletteEntry entry : entries) {
+    if (colors.size() == Palette::kMostEntries) break;
+    colors.push_back({entry.red, entry.green, entry.blue});
+  }
+  return Palette(std::move(colors));
+}
+
 std::vector<DibColor> ColorsOf(const Palette& palette) {
   std::vector<DibColor> colors;
   for (std::size_t i = 0; i < palette.Size(); ++i) {

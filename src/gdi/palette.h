@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "metafile/array_view.h"
 #include "metafile/dib_header.h"
 #include "metafile/gdi_types.h"
 
@@ -53,6 +54,9 @@ class Palette {
   std::vector<RgbColor> entries_;  // up to the last that was ever set
   std::size_t size_;
 };
+
+/// @return a palette of the entries of a file.
+Palette PaletteOf(ArrayView<PaletteEntry> entries);
 
 /// @return all entries, for the bitmaps that number them.
 std::vector<DibColor> ColorsOf(const Palette& palette);

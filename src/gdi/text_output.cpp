@@ -60,8 +60,9 @@ double Lift(const DeviceState& state, const TextFont& font, const TextFrame& fra
   return std::round(lift / unit) * unit - kHair / pixels;
 }
 
-Spacing SpacingOf(const DeviceState& state, const TextFrame& frame) {
-  const double pixels = frame.PixelsAlong();
+Spacing SpacingOf(const DeviceContext& device, const TextFrame& frame) {
+  const DeviceState& state = device.state;
+  const double pixels = device.isForAnyDevice ? 1 : frame.PixelsAlong();
   return {pixels > 0 ? 1 / pixels : 0, static_cast<double>(state.extraOfCharacter),
           state.breaks > 0 ? static_cast<double>(state.extraOfBreaks) / state.breaks : 0};
 }
@@ -76,7 +77,7 @@ SetLine Set(DeviceContext& device, const TextPlacing& placing, const TextFont& f
   DeviceState& state = device.state;
   SetLine line;
   line.frame = FrameOf(*state.font, font, state.mapping, placing.graphicsMode);
-  line.spacing = SpacingOf(state, line.frame);
+  line.spacing = SpacingOf(device, line.frame);
   line.reading = ReadingOf(state, placing);
   int pieces = 0;
   PlaceText(device.text, font, line.frame, line.spacing, line.reading, [&](PlacedLine& piece) {

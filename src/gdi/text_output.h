@@ -4,8 +4,8 @@
 #include <string>
 
 #include "gdi/device_context.h"
-#include "metafile/array_view.h"
 #include "metafile/gdi_enumerations.h"
+#include "metafile/text_advances.h"
 
 namespace kelvane {
 
@@ -15,8 +15,7 @@ struct TextPlacing {
   ExtTextOutOptions options{};
   RectangleL rectangle;  // logical units; of ETO_OPAQUE and ETO_CLIPPED
   GraphicsMode graphicsMode = GM_COMPATIBLE;
-  ArrayView<std::int32_t> advances;  // logical units, one a unit of text; empty when the face says
-  bool advancesArePairs = false;     // two a unit: along the baseline, and up
+  AnyTextAdvances advances;  // for each unit of text; empty when the face says
 };
 
 /// @param text  UTF-16, or numbers of glyphs.

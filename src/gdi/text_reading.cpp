@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include "gdi/code_page.h"
 #include "gdi/font_names.h"
@@ -12,10 +14,25 @@ namespace {
 
 constexpr char16_t kNothing = 0;  // a control character: no mark, but it keeps its advance
 
-PointD AdvanceOf(const TextPlacing& placing, std::size_t unit) {
-  if (!placing.advancesArePairs) return {static_cast<double>(placing.advances[unit]), 0};
-  return {static_cast<double>(placing.advances[2 * unit]),
-          static_cast<double>(placing.advances[2 * unit + 1])};
+/// @param endOf  gives for each unit the stored advances up to its end.
+/// @return one a unit, or none.
+template <class EndOf>
+std::vector<PointD> AdvancesOf(const AnyTextAdvances& any, std::size_t units, EndOf endOf) {
+  std::vector<PointD> advances;
+  std::visit(
+      [&](const auto& stored) {
+        if (stored.IsEmpty()) return;
+        advances.resize(units);
+        std::size_t i = 0;
+        for (std::size_t unit = 0; unit < units; ++unit) {
+          for (; i < endOf(unit); ++i) {
+            advances[unit].x += stored.Dx(i);
+            advances[unit].y += stored.Dy(i);
+          }
+        }
+      },
+      any);
+  return advances;
 }
 
 /// In the order that nearly all TrueType faces have, the printable characters of ASCII come third.
@@ -67,7 +84,6 @@ void TakeSymbols(const SymbolEncoding& symbols, WrittenText& text) {
 }
 
 void Clear(WrittenText& text) {
-  text.advances.clear();
   text.areGlyphs = text.hasUnknownGlyphs = text.hasUnknownSymbols = false;
 }
 
@@ -82,11 +98,8 @@ void ReadText(const TextPlacing& placing, std::u16string units, const TextFont& 
               WrittenText& text) {
   Clear(text);
   text.units = std::move(units);
-  if (!placing.advances.empty()) {
-    text.advances.reserve(text.units.size());
-    for (std::size_t i = 0; i < text.units.size(); ++i)
-      text.advances.push_back(AdvanceOf(placing, i));
-  }
+  text.advances =
+      AdvancesOf(placing.advances, text.units.size(), [](std::size_t unit) { return unit + 1; });
   InterpretText((placing.options & ETO_GLYPH_INDEX) != 0, font, text);
 }
 
@@ -97,17 +110,9 @@ void ReadText(const TextPlacing& placing, std::string_view bytes, const LogFont&
   DecodedBytes decoded =
       DecodeBytes(bytes, areSymbols ? SYMBOL_CHARSET : asked.charSet, FaceName(asked));
   text.units = std::move(decoded.text);
-  if (!placing.advances.empty()) {
-    for (std::size_t unit = 0; unit < text.units.size(); ++unit) {
-      const bool isLast = unit + 1 == text.units.size();
-      const std::size_t end = isLast ? bytes.size() : decoded.firstBytes[unit + 1];
-      PointD& advance = text.advances.emplace_back();
-      for (std::size_t byte = decoded.firstBytes[unit]; byte < end; ++byte) {
-        advance.x += AdvanceOf(placing, byte).x;
-        advance.y += AdvanceOf(placing, byte).y;
-      }
-    }
-  }
+  text.advances = AdvancesOf(placing.advances, text.units.size(), [&](std::size_t unit) {
+    return unit + 1 < text.units.size() ? decoded.firstBytes[unit + 1] : bytes.size();
+  });
   InterpretText((placing.options & ETO_GLYPH_INDEX) != 0, font, text);
 }
 

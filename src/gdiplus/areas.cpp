@@ -53,7 +53,7 @@ std::optional<Area> AreaOf(const Graphics& graphics, const RectF& box) {
 }
 
 std::optional<Area> AreaOf(Graphics& graphics, const EmfPlusPath& path) {
-  if (!graphics.clipSteps.Take(path.points.size())) return std::nullopt;
+  if (!graphics.clipSteps->Take(path.points.size())) return std::nullopt;
   auto outline = std::make_shared<CGPath>();
   AddPath(*outline, WorldToDevice(graphics), path);
   if (!outline->IsFinite()) return std::nullopt;
@@ -66,7 +66,7 @@ std::optional<Area> AreaOf(Graphics& graphics, const EmfPlusRegion& region) {
   std::vector<Area> areas;
   for (std::size_t i = region.nodes.size(); i > 0; --i) {
     const EmfPlusRegionNode& node = region.nodes[i - 1];
-    if (!graphics.clipSteps.Take(1)) return std::nullopt;
+    if (!graphics.clipSteps->Take(1)) return std::nullopt;
     if (!JoinsTwo(node.type)) {
       auto leaf = AreaOfLeaf(graphics, node);
       if (!leaf) return std::nullopt;
@@ -76,7 +76,7 @@ std::optional<Area> AreaOf(Graphics& graphics, const EmfPlusRegion& region) {
     if (areas.size() < 2) return std::nullopt;
     const Area left = std::move(areas.back());
     areas.pop_back();
-    auto joined = Joined(left, areas.back(), node.type, graphics.clipSteps);
+    auto joined = Joined(left, areas.back(), node.type, *graphics.clipSteps);
     if (!joined) return std::nullopt;
     areas.back() = *std::move(joined);
   }

@@ -26,9 +26,9 @@ TransformD BrushToDevice(const Graphics& graphics, const XForm& transform, bool 
   return toWorld.Then(staysInPlace ? PageToDevice(graphics) : WorldToDevice(graphics));
 }
 
-CGAffineTransform BrushToPage(const Graphics& graphics, const TransformD& toDevice) {
-  const CGAffineTransform& page = graphics.canvas->DeviceToPage();
-  return Rounded(toDevice.Then({page.a, page.b, page.c, page.d, page.tx, page.ty}));
+CGAffineTransform PatternMatrixOf(const Graphics& graphics, const TransformD& toDevice) {
+  const Canvas& canvas = *graphics.canvas;
+  return canvas.PatternMatrix(Rounded(toDevice.Then(Exactly(canvas.DeviceToPage()))));
 }
 
 std::optional<RectangleD> SeenOf(const Graphics& graphics, const TransformD& toDevice,

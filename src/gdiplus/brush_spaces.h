@@ -14,8 +14,8 @@ namespace kelvane::gdiplus {
 TransformD BrushToDevice(const Graphics& graphics, const XForm& transform, bool staysInPlace);
 
 /// @param toDevice  from a brush's space.
-/// @return from there to the page, for a pattern's matrix.
-CGAffineTransform BrushToPage(const Graphics& graphics, const TransformD& toDevice);
+/// @return the matrix of a pattern in that space.
+CGAffineTransform PatternMatrixOf(const Graphics& graphics, const TransformD& toDevice);
 
 /// @param toDevice  from a brush's space. @param bounds  of a mark, device units.
 /// @return what of the brush's space the mark can show, as far as the page does; nullopt when that

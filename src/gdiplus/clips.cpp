@@ -32,7 +32,7 @@ bool JoinTo(ClipState& clip, const Area& area, EmfPlusCombineMode mode, Steps& s
 
 void JoinClip(Graphics& graphics, const std::optional<Area>& area, EmfPlusCombineMode mode) {
   ClipState joined = graphics.state.clip;
-  if (!area || !JoinTo(joined, *area, mode, graphics.clipSteps)) {
+  if (!area || !JoinTo(joined, *area, mode, *graphics.clipSteps)) {
     return graphics.shortfalls.Add(Shortfall::kClipTooComplex);
   }
   graphics.state.clip = std::move(joined);
@@ -41,26 +41,26 @@ void JoinClip(Graphics& graphics, const std::optional<Area>& area, EmfPlusCombin
 }  // namespace
 
 void SetClip(Graphics& graphics, const RectF& box, EmfPlusCombineMode mode) {
-  graphics.clipSteps.Add(kStepsOfACall);
+  graphics.clipSteps->Add(kStepsOfACall);
   const auto area = AreaOf(graphics, box);
   if (area) JoinClip(graphics, area, mode);
 }
 
 void SetClip(Graphics& graphics, const EmfPlusPath& path, EmfPlusCombineMode mode) {
-  graphics.clipSteps.Add(kStepsOfACall);
+  graphics.clipSteps->Add(kStepsOfACall);
   JoinClip(graphics, AreaOf(graphics, path), mode);
 }
 
 void SetClip(Graphics& graphics, const EmfPlusRegion& region, EmfPlusCombineMode mode) {
-  graphics.clipSteps.Add(kStepsOfACall);
+  graphics.clipSteps->Add(kStepsOfACall);
   JoinClip(graphics, AreaOf(graphics, region), mode);
 }
 
 void OffsetClip(Graphics& graphics, float x, float y) {
   const PointD moved = WorldToDevice(graphics).MapVector({x, y});
   if (!IsFinite(moved)) return;
-  graphics.clipSteps.Add(kStepsOfACall);
-  if (!graphics.state.clip.Offset(moved.x, moved.y, graphics.clipSteps)) {
+  graphics.clipSteps->Add(kStepsOfACall);
+  if (!graphics.state.clip.Offset(moved.x, moved.y, *graphics.clipSteps)) {
     graphics.shortfalls.Add(Shortfall::kClipTooComplex);
   }
 }

@@ -96,7 +96,7 @@ void DrawArc(Graphics& graphics, const EmfPlusPen& pen, const RectF& box, float 
 
 void FillRegion(Graphics& graphics, const EmfPlusBrush& brush, const EmfPlusRegion& region) {
   if (graphics.canvas == nullptr) return;
-  graphics.clipSteps.Add(kStepsOfACall);
+  graphics.clipSteps->Add(kStepsOfACall);
   const auto area = AreaOf(graphics, region);
   if (!area) return graphics.shortfalls.Add(Shortfall::kRegionTooComplex);
   const auto* outline = std::get_if<Outline>(&*area);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <tuple>
 #include <vector>
 
@@ -56,7 +57,7 @@ struct Graphics {
   std::map<HatchKey, CGSharedPattern> hatches;
 
   /// What clipping may still take, as in a device context.
-  Steps clipSteps{1U << 23};
+  std::shared_ptr<Steps> clipSteps = std::make_shared<Steps>(1U << 23);
 };
 
 /// A matrix of a file in the numbers that geometry is computed in.

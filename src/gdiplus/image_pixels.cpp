@@ -105,23 +105,24 @@ OwnedImage ImageOf(Graphics& graphics, const EmfPlusPixels& pixels) {
   return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
 }
 
-OwnedImage PngImage(Graphics& graphics, std::span<const unsigned char> file,
-                    const PngHeader& header) {
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
+                   const PngHeader& header) {
   if (!AffordPixels(graphics, {header.width, header.height})) return nullptr;
   const auto rgba = DecodePngWithAlpha(file, {0, 0, header.width, header.height});
   return rgba ? ImageOfRgba({header.width, header.height}, *rgba, IsSmooth(graphics))
               : Unreadable(graphics);
 }
 
-OwnedImage GifImage(Graphics& graphics, std::span<const unsigned char> file,
-                    const GifHeader& header) {
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
+                   const GifHeader& header) {
   const ImageSize size = {header.width, header.height};
   if (!AffordPixels(graphics, size)) return nullptr;
   const auto rgba = DecodeGifWithAlpha(file);
   return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
 }
 
-OwnedImage BmpImage(Graphics& graphics, const DibBytes& bytes) {
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> /*file*/,
+                   const DibBytes& bytes) {
   const auto dib = Dib::Read(bytes);
   if (!dib) return Unreadable(graphics);
   const ImageSize size = {dib->Width(), dib->Height()};
@@ -131,8 +132,8 @@ OwnedImage BmpImage(Graphics& graphics, const DibBytes& bytes) {
   return image != nullptr ? std::move(image) : Unreadable(graphics);
 }
 
-OwnedImage TiffImage(Graphics& graphics, std::span<const unsigned char> file,
-                     const TiffHeader& header) {
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
+                   const TiffHeader& header) {
   const ImageSize size = {header.width, header.height};
   if (!AffordPixels(graphics, size)) return nullptr;
   if (!AffordBytes(graphics, header.bytesToDecode)) return nullptr;
@@ -140,19 +141,34 @@ OwnedImage TiffImage(Graphics& graphics, std::span<const unsigned char> file,
   return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
 }
 
-/// What a file is, its bytes say.
-OwnedImage ImageOf(Graphics& graphics, const EmfPlusImageFile& image) {
-  const std::span<const unsigned char> file = image.bytes;
-  if (const auto png = ReadPngHeader(file)) return PngImage(graphics, file, *png);
-  if (const auto gif = ReadGifHeader(file)) return GifImage(graphics, file, *gif);
-  if (const auto bmp = ReadBmpFile(file)) return BmpImage(graphics, *bmp);
-  if (const auto tiff = ReadTiffHeader(file)) return TiffImage(graphics, file, *tiff);
-  if (const auto jpeg = ReadJpegHeader(file)) {
-    return OwnedImage(CGImageCreateWithJPEG(jpeg->width, jpeg->height, jpeg->components,
-                                            ProviderOf({file.begin(), file.end()}).get(),
-                                            IsSmooth(graphics)));
-  }
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
+                   const JpegHeader& header) {
+  return OwnedImage(CGImageCreateWithJPEG(header.width, header.height, header.components,
+                                          ProviderOf({file.begin(), file.end()}).get(),
+                                          IsSmooth(graphics)));
+}
+
+OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> /*file*/,
+                   std::monostate /*unknown*/) {
   return Unreadable(graphics);
+}
+
+/// What a file says of itself.
+using FileHeader =
+    std::variant<std::monostate, PngHeader, GifHeader, DibBytes, TiffHeader, JpegHeader>;
+
+FileHeader ReadFileHeader(std::span<const unsigned char> file) {
+  if (const auto png = ReadPngHeader(file)) return *png;
+  if (const auto gif = ReadGifHeader(file)) return *gif;
+  if (const auto bmp = ReadBmpFile(file)) return *bmp;
+  if (const auto tiff = ReadTiffHeader(file)) return *tiff;
+  if (const auto jpeg = ReadJpegHeader(file)) return *jpeg;
+  return {};
+}
+
+OwnedImage ImageOf(Graphics& graphics, const EmfPlusImageFile& image) {
+  return std::visit([&](const auto& header) { return Decoded(graphics, image.bytes, header); },
+                    ReadFileHeader(image.bytes));
 }
 
 ImageKey KeyOf(const EmfPlusPixels& pixels, bool isSmooth) {
@@ -183,9 +199,7 @@ OwnedImage Remembered(Graphics& graphics, const Image& image) {
 }  // namespace
 
 bool IsReadable(const EmfPlusImageFile& image) {
-  const std::span<const unsigned char> file = image.bytes;
-  return ReadPngHeader(file) || ReadGifHeader(file) || ReadBmpFile(file) || ReadTiffHeader(file) ||
-         ReadJpegHeader(file);
+  return !std::holds_alternative<std::monostate>(ReadFileHeader(image.bytes));
 }
 
 CFOwned<const CGImage> ImageFrom(Graphics& graphics, const EmfPlusImage& image) {

@@ -153,7 +153,7 @@ void DrawImage(Graphics& graphics, const EmfPlusImage& image, const RectF& sourc
   const TransformD unitToDevice = UnitTo(corners).Then(WorldToDevice(graphics));
   if (!unitToDevice.IsFinite() || !BringClip(graphics)) return;
   if (const auto* metafile = std::get_if<EmfPlusMetafile>(&image)) {
-    if (!play(*metafile, unitToDevice)) graphics.shortfalls.Add(Shortfall::kUnreadableBitmap);
+    if (const auto lack = play(*metafile, unitToDevice)) graphics.shortfalls.Add(*lack);
     return;
   }
   const CFOwned<const CGImage> pixels = ImageFrom(graphics, image);

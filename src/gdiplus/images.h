@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <span>
 
 #include "gdiplus/graphics.h"
@@ -14,9 +15,9 @@ namespace kelvane::gdiplus {
 /// Plays a metafile that is an image.
 /// @param unitToDevice  maps the unit square, y downwards, which is the metafile's own page, to
 ///                      where it is drawn; the clip is set.
-/// @return false for one that cannot be played.
-using PlayMetafile =
-    std::function<bool(const EmfPlusMetafile& metafile, const TransformD& unitToDevice)>;
+/// @return why it was not played; nullopt when it was.
+using PlayMetafile = std::function<std::optional<Shortfall>(const EmfPlusMetafile& metafile,
+                                                            const TransformD& unitToDevice)>;
 
 /// Draws a part of an image. Of a metafile that is all of it.
 /// @param source      the part, pixels.

@@ -107,7 +107,7 @@ std::optional<Paint> LinearGradientPaint(Graphics& graphics,
   return ShadingPaint(CGAxialShading{{static_cast<CGFloat>(tiles.first), 0},
                                      {static_cast<CGFloat>(tiles.first + tiles.count), 0},
                                      RepeatedStops(stops, tiles, brush.wrap)},
-                      BrushToPage(graphics, toDevice));
+                      PatternMatrixOf(graphics, toDevice));
 }
 
 }  // namespace kelvane::gdiplus

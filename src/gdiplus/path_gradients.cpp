@@ -219,7 +219,9 @@ std::optional<Paint> PathGradientPaint(Graphics& graphics, const EmfPlusPathGrad
     graphics.shortfalls.Add(Shortfall::kBrushTooComplex);
     grid = GridOf(EmfPlusWrapMode::kClamp, box, inside);
   }
-  return ShadingPaint(RepeatedMesh(mesh.Corners(), grid, toDevice, *graphics.canvas), {});
+  const Canvas& canvas = *graphics.canvas;
+  return ShadingPaint(RepeatedMesh(mesh.Corners(), grid, toDevice, canvas),
+                      canvas.PatternMatrix({}));
 }
 
 }  // namespace kelvane::gdiplus

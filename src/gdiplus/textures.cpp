@@ -39,7 +39,7 @@ std::optional<Paint> TexturePaint(Graphics& graphics, const EmfPlusTextureBrush&
   if (!seen) return std::nullopt;
   CGPattern pattern;
   pattern.cell = {static_cast<CGFloat>(width), static_cast<CGFloat>(height)};
-  pattern.matrix = BrushToPage(graphics, toDevice);
+  pattern.matrix = PatternMatrixOf(graphics, toDevice);
   pattern.image = std::move(image);
   pattern.mirrorsX = Mirrors(brush.wrap, EmfPlusWrapMode::kTileFlipX);
   pattern.mirrorsY = Mirrors(brush.wrap, EmfPlusWrapMode::kTileFlipY);

@@ -111,6 +111,28 @@ std::optional<DibHeader> ReadInfoHeader(std::uint32_t size, ByteView bytes, DibU
 
 }  // namespace
 
+std::uint64_t DibHeaderSize(std::span<const unsigned char> bytes, DibUsage usage) {
+  const auto header = ReadDibHeader(bytes, usage, {});
+  if (!header) return 0;
+  ByteView view(bytes);
+  const auto size = view.Read<std::uint32_t>();
+  const bool isCore = size == kCoreHeaderSize;
+  std::uint64_t colors = HasColors(*header) ? header->colors.size() : 0;
+  if (!isCore) {
+    constexpr std::size_t kBetweenSizeAndColorsUsed = 28;
+    view.Skip(kBetweenSizeAndColorsUsed);
+    const auto used = view.Read<std::uint32_t>();
+    if (used != 0 && (colors == 0 || used < colors)) colors = used;
+  }
+  if (usage == DIB_PAL_INDICES) colors = 0;
+  constexpr std::size_t kMasksSize = 12;
+  const bool hasMasksBehind = size == kInfoHeaderSize && header->compression == BI_BITFIELDS;
+  const std::size_t entrySize = usage == DIB_PAL_COLORS ? sizeof(std::uint16_t)
+                                : isCore                ? kCoreEntrySize
+                                                        : kInfoEntrySize;
+  return size + (hasMasksBehind ? kMasksSize : 0) + colors * entrySize;
+}
+
 std::optional<DibHeader> ReadDibHeader(std::span<const unsigned char> bytes, DibUsage usage,
                                        std::span<const DibColor> palette) {
   ByteView view(bytes);

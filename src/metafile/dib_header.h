@@ -39,5 +39,9 @@ struct DibHeader {
 std::optional<DibHeader> ReadDibHeader(std::span<const unsigned char> bytes, DibUsage usage,
                                        std::span<const DibColor> palette);
 
+/// @return the bytes of header, masks and colour table, behind which a bitmap in one piece has its
+///         pixels; 0 when the header makes no sense. There may be fewer.
+std::uint64_t DibHeaderSize(std::span<const unsigned char> bytes, DibUsage usage);
+
 }  // namespace metafile
 }  // namespace kelvane

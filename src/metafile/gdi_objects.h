@@ -45,13 +45,14 @@ struct LogBrush {
   friend bool operator==(const LogBrush&, const LogBrush&) = default;
 };
 
-/// LOGFONTW ([MS-EMF] 2.2.13), 92 bytes.
-struct LogFont {
-  std::int32_t height = 0;       // logical units; > 0 of the cell, < 0 of the em, 0 for the default
-  std::int32_t width = 0;        // logical units, of an average character; 0 as the face has it
-  std::int32_t escapement = 0;   // of the line, tenths of a degree, counter-clockwise
-  std::int32_t orientation = 0;  // of a character, tenths of a degree, counter-clockwise
-  std::int32_t weight = 0;       // 1 to 1000; 400 is regular, 700 bold, 0 the default
+/// What a font is asked for by, its numbers as wide as in the file, its name in Units.
+template <class Number, class Unit>
+struct BasicLogFont {
+  Number height = 0;       // logical units; > 0 of the cell, < 0 of the em, 0 for the default
+  Number width = 0;        // logical units, of an average character; 0 as the face has it
+  Number escapement = 0;   // of the line, tenths of a degree, counter-clockwise
+  Number orientation = 0;  // of a character, tenths of a degree, counter-clockwise
+  Number weight = 0;       // 1 to 1000; 400 is regular, 700 bold, 0 the default
   std::uint8_t italic = 0;
   std::uint8_t underline = 0;
   std::uint8_t strikeOut = 0;
@@ -60,14 +61,20 @@ struct LogFont {
   ClipPrecision clipPrecision{};
   FontQuality quality{};
   PitchAndFamily pitchAndFamily{};
-  std::array<char16_t, 32> faceName{};  // up to the first NUL, or all of it
+  std::array<Unit, 32> faceName{};  // up to the first NUL, or all of it
 
   constexpr auto Fields() {
     return std::tie(height, width, escapement, orientation, weight, italic, underline, strikeOut,
                     charSet, outPrecision, clipPrecision, quality, pitchAndFamily, faceName);
   }
-  friend bool operator==(const LogFont&, const LogFont&) = default;
+  friend bool operator==(const BasicLogFont&, const BasicLogFont&) = default;
 };
+
+/// LOGFONTW ([MS-EMF] 2.2.13), 92 bytes.
+using LogFont = BasicLogFont<std::int32_t, char16_t>;
+
+/// LOGFONT ([MS-WMF] 2.2.1.2), 50 bytes. The name is in the code page of the character set.
+using LogFont16 = BasicLogFont<std::int16_t, char>;
 
 /// PANOSE ([MS-EMF] 2.2.21), 10 bytes.
 struct Panose {

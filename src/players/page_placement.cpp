@@ -105,6 +105,13 @@ std::optional<PagePlacement> Place(const StoredRectangle& area, Scale scale,
 
 }  // namespace
 
+RectangleD AreaOf(const PagePlacement& page) {
+  const CGRect area =
+      CGRectApplyAffineTransform({{0, 0}, page.size}, CGAffineTransformInvert(page.deviceToPage));
+  return {area.origin.x, area.origin.y, area.origin.x + area.size.width,
+          area.origin.y + area.size.height};
+}
+
 CGSize PointsPerDeviceUnit(const PictureGeometry& picture) {
   const Scale scale = PointsPerUnit(picture);
   return {static_cast<CGFloat>(scale.x), static_cast<CGFloat>(scale.y)};

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "gdi/geometry.h"
 #include "platform/quartz/cg_geometry.h"
 
 namespace kelvane {
@@ -52,6 +53,9 @@ struct PagePlacement {
   CGAffineTransform deviceToPage;  // device units, y downwards, to points
   PageTrouble trouble = PageTrouble::kNone;
 };
+
+/// @return what of the device a page shows, device units.
+RectangleD AreaOf(const PagePlacement& page);
 
 /// @return points a device unit. A device without a size counts as one of 96 dots an inch.
 CGSize PointsPerDeviceUnit(const PictureGeometry& picture);

@@ -5,13 +5,13 @@
 namespace kelvane {
 
 // A file may hold a million of the same: only the first makes a string.
-void Report::Note(Omission omission, std::uint32_t type, std::string_view why) {
-  const std::tuple<Omission, std::uint32_t, std::string_view> key(omission, type, why);
+void Report::Note(Omission omission, RecordId record, std::string_view why) {
+  const std::tuple<Omission, RecordId, std::string_view> key(omission, record, why);
   const auto known = counts_.find(key);
   if (known != counts_.end()) {
     ++known->second;
   } else {
-    counts_.emplace(Key(omission, type, std::string(why)), 1);
+    counts_.emplace(Key(omission, record, std::string(why)), 1);
   }
 }
 

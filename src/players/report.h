@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "gdi/font_use.h"
+#include "players/record_id.h"
 
 namespace kelvane {
 
@@ -19,10 +20,10 @@ enum class Omission : std::uint8_t {
   kDamaged,     // it could not be read whole, and was skipped
 };
 
-/// Records of one type that came out alike.
+/// Records of one kind that came out alike.
 struct ReportedRecords {
   Omission omission;
-  std::uint32_t type;
+  RecordId record;
   std::string why;  // in words for a user
   std::size_t count;
 };
@@ -30,13 +31,13 @@ struct ReportedRecords {
 /// What a user is told of a conversion beside its document. Nothing that is missing goes unsaid.
 class Report {
  public:
-  void LeftOut(std::uint32_t type, std::string_view why) { Note(Omission::kLeftOut, type, why); }
-  void OnlyNearly(std::uint32_t type, std::string_view why) {
-    Note(Omission::kOnlyNearly, type, why);
+  void LeftOut(RecordId record, std::string_view why) { Note(Omission::kLeftOut, record, why); }
+  void OnlyNearly(RecordId record, std::string_view why) {
+    Note(Omission::kOnlyNearly, record, why);
   }
-  void Damaged(std::uint32_t type, std::string_view why) { Note(Omission::kDamaged, type, why); }
+  void Damaged(RecordId record, std::string_view why) { Note(Omission::kDamaged, record, why); }
 
-  void Note(Omission omission, std::uint32_t type, std::string_view why);
+  void Note(Omission omission, RecordId record, std::string_view why);
 
   /// Says something about the file as a whole, once however often it is said.
   void Remark(std::string_view words);
@@ -44,7 +45,7 @@ class Report {
   /// Adds what became of names of fonts, each pair of names once. None of it is an omission.
   void UsedFonts(const std::vector<FontUse>& uses);
 
-  /// @return all of them, in the order of kind, type and reason.
+  /// @return all of them, in the order of omission, kind and reason.
   [[nodiscard]] std::vector<ReportedRecords> Records() const;
   [[nodiscard]] const std::vector<std::string>& Remarks() const { return remarks_; }
 
@@ -59,11 +60,11 @@ class Report {
     using is_transparent = void;
     template <class A, class B>
     bool operator()(const A& a, const B& b) const {
-      return std::tuple<Omission, std::uint32_t, std::string_view>(a) <
-             std::tuple<Omission, std::uint32_t, std::string_view>(b);
+      return std::tuple<Omission, RecordId, std::string_view>(a) <
+             std::tuple<Omission, RecordId, std::string_view>(b);
     }
   };
-  using Key = std::tuple<Omission, std::uint32_t, std::string>;
+  using Key = std::tuple<Omission, RecordId, std::string>;
 
   std::map<Key, std::size_t, Before> counts_;
   std::vector<std::string> remarks_;

@@ -24,15 +24,18 @@ constexpr std::array<ShortfallWords, kShortfalls> kShortfallWords = {{
     {"its bitmap cannot be read", Omission::kLeftOut},
     {"its bitmap is far larger than its data", Omission::kLeftOut},
     {"its brush repeats too often or has too many parts"},
+    {"its metafile cannot be read", Omission::kLeftOut},
+    {"its metafile lies within too many others", Omission::kLeftOut},
+    {"the metafiles in its images are too much to be drawn", Omission::kLeftOut},
 }};
 
 }  // namespace
 
-void ReportShortfalls(Shortfalls& shortfalls, std::uint32_t type, Report& report) {
+void ReportShortfalls(Shortfalls& shortfalls, RecordId record, Report& report) {
   if (shortfalls.IsEmpty()) return;
   for (std::size_t i = 0; i < kShortfallWords.size(); ++i) {
     if (!shortfalls.Has(static_cast<Shortfall>(i))) continue;
-    report.Note(kShortfallWords[i].omission, type, kShortfallWords[i].why);
+    report.Note(kShortfallWords[i].omission, record, kShortfallWords[i].why);
   }
   shortfalls.Clear();
 }

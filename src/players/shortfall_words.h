@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "gdi/shortfall.h"
 #include "players/report.h"
 
@@ -9,6 +7,6 @@ namespace kelvane {
 
 /// Reports what a record fell short of, in words for a user.
 /// @param shortfalls  empty afterwards.
-void ReportShortfalls(Shortfalls& shortfalls, std::uint32_t type, Report& report);
+void ReportShortfalls(Shortfalls& shortfalls, RecordId record, Report& report);
 
 }  // namespace kelvane

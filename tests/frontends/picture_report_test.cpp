@@ -30,10 +30,10 @@ TEST(PictureReport, IsAnObjectOnOneLine) {
 
 TEST(PictureReport, ListsRecordsByWhatBecameOfThem) {
   PictureConversion conversion = Converted();
-  conversion.report.LeftOut(EMR_EXTTEXTOUTW, "no text");
-  conversion.report.LeftOut(EMR_EXTTEXTOUTW, "no text");
-  conversion.report.OnlyNearly(EMR_SETROP2, "near");
-  conversion.report.Damaged(EMR_POLYLINE16, "short");
+  conversion.report.LeftOut({RecordFormat::kEmf, EMR_EXTTEXTOUTW}, "no text");
+  conversion.report.LeftOut({RecordFormat::kEmf, EMR_EXTTEXTOUTW}, "no text");
+  conversion.report.OnlyNearly({RecordFormat::kEmf, EMR_SETROP2}, "near");
+  conversion.report.Damaged({RecordFormat::kEmf, EMR_POLYLINE16}, "short");
   const auto json = nlohmann::ordered_json::parse(ReportAsJson(conversion));
   EXPECT_EQ(json["left_out"].dump(),
             R"([{"record":"EMR_EXTTEXTOUTW","type":84,"count":2,"why":"no text"}])");
@@ -45,7 +45,7 @@ TEST(PictureReport, ListsRecordsByWhatBecameOfThem) {
 
 TEST(PictureReport, SaysUnknownWhereARecordHasNoName) {
   PictureConversion conversion = Converted();
-  conversion.report.LeftOut(200, "what is it");
+  conversion.report.LeftOut({RecordFormat::kEmf, 200}, "what is it");
   EXPECT_EQ(nlohmann::ordered_json::parse(ReportAsJson(conversion))["left_out"].dump(),
             R"([{"record":"unknown","type":200,"count":1,"why":"what is it"}])");
 }

@@ -134,6 +134,15 @@ TEST_F(AFontBook, LeavesTheWidthToTheFaceUnlessOneIsAskedFor) {
   EXPECT_EQ(book.Resolve(Wide(u"Arial", 0), kPixel).xScale, 1);
 }
 
+// An em of 33 is 14.57 wide on average.
+TEST_F(AFontBook, TakesTheFacesOwnWidthInWholeUnitsForTheFacesOwn) {
+  LogFont font = Named(u"Arial", -33);
+  font.width = 15;
+  EXPECT_EQ(book.Resolve(font, kPixel).xScale, 1);
+  font.width = 16;
+  EXPECT_NEAR(book.Resolve(font, kPixel).xScale, 16 / (33 * 904.0 / 2048), kNear);
+}
+
 TEST_F(AFontBook, MeasuresWidthByWhatTheFaceAskedForSays) {
   EXPECT_NEAR(book.Resolve(Wide(u"Liberation Sans", 1208), kPixel).xScale, 1, kNear);
   EXPECT_NEAR(book.Resolve(Wide(u"Liberation Sans", -604), kPixel).xScale, 0.5, kNear);

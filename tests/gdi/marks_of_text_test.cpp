@@ -147,7 +147,7 @@ TEST_F(MarksOfText, IsUnderlinedByAPixelAtLeast) {
   device.Select(2, font);
   const StoredAdvances advances = {9};
   TextPlacing placing;
-  placing.advances = advances.View();
+  placing.advances = TextAdvances<std::int32_t>{advances.View()};
   ExtTextOut(device, placing, std::u16string(u"A"));
   EXPECT_EQ(device.TakeMarks(),
             "move 0 1.13\nline 9 1.13\nline 9 0.13\nline 0 0.13\nclose\nfill\n");

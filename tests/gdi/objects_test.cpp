@@ -7,6 +7,7 @@
 #include "gdi/attributes.h"
 #include "gdi/coordinates.h"
 #include "gdi/stored_array.h"
+#include "gdi/traced_device.h"
 
 namespace kelvane {
 namespace {
@@ -184,6 +185,16 @@ TEST(Pens, BecomeThinByTheMapping) {
   EXPECT_TRUE(ResolvePen(device).paintsGaps);
   ASSERT_TRUE(SetBkMode(device, TRANSPARENT));
   EXPECT_FALSE(ResolvePen(device).paintsGaps);
+}
+
+TEST(Pens, AreThinByAScreensPixelsWhereNobodyKnowsTheDevice) {
+  TracedDevice device({}, {960, 960});
+  device.Select(1, CreatePenIndirect({PS_DASH, {10, 0}, kRed}));
+  EXPECT_TRUE(ResolvePen(device).dashes.empty());
+  device->isForAnyDevice = true;
+  EXPECT_FALSE(ResolvePen(device).dashes.empty());
+  device.Select(1, CreatePenIndirect({PS_SOLID, {10, 0}, kRed}));
+  EXPECT_EQ(ResolvePen(device).endCap, PS_ENDCAP_ROUND);
 }
 
 }  // namespace

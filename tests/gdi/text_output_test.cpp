@@ -151,6 +151,14 @@ TEST_F(Text, SharesOutWhatJustifiesItAmongSpaces) {
   EXPECT_EQ(WidthOf(u"A A"), 683 + 284 + 683);
 }
 
+TEST_F(Text, IsMeasuredInPixelsOrInUnitsWhereNobodyKnowsTheDevice) {
+  SetMapMode(device, MM_ANISOTROPIC);
+  SetViewportExtEx(device, {4, 4});
+  EXPECT_EQ(WidthOf(u"A A"), 683 + 284.5 + 683);
+  device->isForAnyDevice = true;
+  EXPECT_EQ(WidthOf(u"A A"), 683 + 284 + 683);
+}
+
 TEST_F(Text, HasSpaceBehindItsCharacters) {
   SetTextCharacterExtra(device, 10);
   EXPECT_EQ(WidthOf(u"AA"), 2 * 693);

@@ -34,8 +34,7 @@ TextFont ThatIsThere() {
 
 TextPlacing With(const StoredAdvances& advances, bool arePairs = false) {
   TextPlacing placing;
-  placing.advances = advances.View();
-  placing.advancesArePairs = arePairs;
+  placing.advances = TextAdvances<std::int32_t>{advances.View(), arePairs};
   return placing;
 }
 
@@ -149,7 +148,7 @@ TEST(GlyphNumbers, OfAnotherFaceAreToldOfOutsideOfThem) {
 TEST(GlyphNumbers, KeepTheirAdvancesInAnotherFace) {
   TextPlacing placing = OfGlyphs();
   const StoredAdvances advances = {5, 7};
-  placing.advances = advances.View();
+  placing.advances = TextAdvances<std::int32_t>{advances.View()};
   EXPECT_EQ(Read({200, 36}, placing).advances, (Advances{{5, 0}, {7, 0}}));
 }
 

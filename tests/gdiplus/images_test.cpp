@@ -14,8 +14,9 @@ namespace {
 
 constexpr std::array<PointF, 3> kCorners = {{{10, 20}, {30, 20}, {10, 60}}};
 
-bool PlayNothing(const EmfPlusMetafile& /*metafile*/, const TransformD& /*unitToDevice*/) {
-  return false;
+std::optional<Shortfall> PlayNothing(const EmfPlusMetafile& /*metafile*/,
+                                     const TransformD& /*unitToDevice*/) {
+  return Shortfall::kUnreadableMetafile;
 }
 
 class DrawnImage : public testing::Test {
@@ -163,18 +164,18 @@ TEST_F(DrawnImage, LeavesNoMarkWithoutASourceOrAPlace) {
 
 TEST_F(DrawnImage, IsPlayedOntoItsCornersWhenItIsAMetafile) {
   TransformD played;
-  const PlayMetafile play = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
+  std::optional<Shortfall> lack;
+  const PlayMetafile play = [&](const EmfPlusMetafile&, const TransformD& unitToDevice) {
     played = unitToDevice;
-    return metafile.type == EmfPlusMetafileType::kEmf;
+    return lack;
   };
-  DrawImage(graphics_, EmfPlusMetafile{EmfPlusMetafileType::kEmf, {}, {}}, {}, kCorners, nullptr,
-            play);
+  DrawImage(graphics_, EmfPlusMetafile{}, {}, kCorners, nullptr, play);
   EXPECT_EQ(played, (TransformD{20, 0, 0, 40, 10, 20}));
   EXPECT_TRUE(graphics_->shortfalls.IsEmpty());
 
-  DrawImage(graphics_, EmfPlusMetafile{EmfPlusMetafileType::kWmf, {}, {}}, {}, kCorners, nullptr,
-            play);
-  EXPECT_TRUE(graphics_->shortfalls.Has(Shortfall::kUnreadableBitmap));
+  lack = Shortfall::kMetafileTooDeep;
+  DrawImage(graphics_, EmfPlusMetafile{}, {}, kCorners, nullptr, play);
+  EXPECT_TRUE(graphics_->shortfalls.Has(Shortfall::kMetafileTooDeep));
 }
 
 }  // namespace

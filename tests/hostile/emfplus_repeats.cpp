@@ -192,8 +192,8 @@ PlusRecords RepeatedJpeg() {
 std::vector<HostileEmfPlus> BadImages() {
   return {
       {"bitmaps_of_any_size", HugeBitmaps, kUnreadable},
-      {"metafiles_within_metafiles", [] { return DeepMetafiles(1000); }, kNoBitmap},
-      {"metafiles_that_branch", BranchingMetafiles, kNoBitmap},
+      {"metafiles_within_metafiles", [] { return DeepMetafiles(1000); }, kTooDeep},
+      {"metafiles_that_branch", BranchingMetafiles, kTooMuchWithin},
       {"a_metafile_drawn_again_and_again", [] { return RepeatedMetafile(FillSquare(1)); },
        kNoObject},
       {"a_metafile_of_clips_drawn_again_and_again", [] { return RepeatedMetafile(CrossedCombs()); },
@@ -205,7 +205,7 @@ std::vector<HostileEmfPlus> BadImages() {
                                  5000);
        },
        kHardPath},
-      {"a_metafile_of_no_bytes", [] { return DrawnImage(ImageOf({}, kEmfImage)); }, kNoBitmap},
+      {"a_metafile_of_no_bytes", [] { return DrawnImage(ImageOf({}, kEmfImage)); }, kNoMetafile},
       {"a_metafile_of_no_kind", [] { return DrawnImage(ImageOf(FileOf(FillSquare(1)), 77)); },
        kNoObject},
       {"a_jpeg_of_markers", RepeatedJpeg, kNoBitmap},

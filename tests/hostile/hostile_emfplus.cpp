@@ -4,8 +4,8 @@ namespace kelvane::test {
 
 std::vector<HostileEmfPlus> HostileEmfPlusRows() {
   std::vector<HostileEmfPlus> all;
-  for (const auto& group :
-       {EmfPlusOfBadRecords(), EmfPlusOfBadNumbers(), EmfPlusThatAsksForMuch()}) {
+  for (const auto& group : {EmfPlusOfBadRecords(), EmfPlusOfBadNumbers(), EmfPlusOfMetafiles(),
+                            EmfPlusThatAsksForMuch()}) {
     all.insert(all.end(), group.begin(), group.end());
   }
   return all;

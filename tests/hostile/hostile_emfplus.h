@@ -15,6 +15,10 @@ inline constexpr const char* kNoPieces = "its pieces make no object";
 inline constexpr const char* kUnreadable = "its object cannot be read";
 inline constexpr const char* kTooShort = "it is too short for its fields";
 inline constexpr const char* kNoBitmap = "its bitmap cannot be read";
+inline constexpr const char* kNoMetafile = "its metafile cannot be read";
+inline constexpr const char* kTooDeep = "its metafile lies within too many others";
+inline constexpr const char* kTooMuchWithin =
+    "the metafiles in its images are too much to be drawn";
 inline constexpr const char* kTooOften = "what it repeats was drawn too often, and not again";
 inline constexpr const char* kHardClip = "its clip is too complex and was left as it was";
 inline constexpr const char* kHardRegion = "its region is too complex and was not painted";
@@ -39,6 +43,7 @@ std::vector<HostileEmfPlus> HostileEmfPlusRows();
 
 std::vector<HostileEmfPlus> EmfPlusOfBadRecords();     // numbers of objects, counts, pieces, states
 std::vector<HostileEmfPlus> EmfPlusOfBadNumbers();     // that are none, or beyond all bounds
+std::vector<HostileEmfPlus> EmfPlusOfMetafiles();      // within each other, in all the ways
 std::vector<HostileEmfPlus> EmfPlusThatAsksForMuch();  // clips, repeats, images
 
 // Records.

@@ -44,11 +44,11 @@ class RegionClip : public testing::TestWithParam<RegionMode> {
   /// Joins rectangles to as many others. @return the steps that this leaves less of.
   static std::size_t StepsFor(std::size_t count) {
     TracedDevice device;
-    device->clipSteps = Steps(100 * count);
+    *device->clipSteps = Steps(100 * count);
     EXPECT_TRUE(ExtSelectClipRgn(device, Scattered(count, 0).View(), RGN_COPY));
     EXPECT_TRUE(ExtSelectClipRgn(device, Scattered(count, 1).View(), GetParam()));
     const std::size_t added = 2 * (256 + 16 * count);  // by the calls
-    return 100 * count + added - device->clipSteps.Left();
+    return 100 * count + added - device->clipSteps->Left();
   }
 };
 

@@ -305,6 +305,7 @@ constexpr Constant kSizes[] = {
     {"LogPenEx", kStoredSize<LogPenEx>, 24},
     {"LogBrush", kStoredSize<LogBrush>, 12},
     {"LogFont", kStoredSize<LogFont>, 92},
+    {"LogFont16", kStoredSize<LogFont16>, 50},
     {"Panose", kStoredSize<Panose>, 10},
     {"LogColorSpace", kStoredSize<LogColorSpace>, 68},
     {"PixelFormatDescriptor", kStoredSize<PixelFormatDescriptor>, 40},

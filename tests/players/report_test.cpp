@@ -5,11 +5,15 @@
 namespace kelvane {
 namespace {
 
+RecordId Emf(std::uint32_t type) {
+  return {RecordFormat::kEmf, type};
+}
+
 TEST(Report, CountsRecordsOfOneTypeAndReasonTogether) {
   Report report;
-  report.LeftOut(53, "needs pixels");
-  report.LeftOut(53, "needs pixels");
-  report.LeftOut(53, "no brush");
+  report.LeftOut(Emf(53), "needs pixels");
+  report.LeftOut(Emf(53), "needs pixels");
+  report.LeftOut(Emf(53), "no brush");
   const auto records = report.Records();
   ASSERT_EQ(records.size(), 2U);
   EXPECT_EQ(records[0].why, "needs pixels");
@@ -20,9 +24,9 @@ TEST(Report, CountsRecordsOfOneTypeAndReasonTogether) {
 
 TEST(Report, TellsWhatIsMissingBeforeWhatIsNearAndWhatIsDamaged) {
   Report report;
-  report.Damaged(4, "ends early");
-  report.OnlyNearly(20, "blends");
-  report.LeftOut(81, "a bitmap");
+  report.Damaged(Emf(4), "ends early");
+  report.OnlyNearly(Emf(20), "blends");
+  report.LeftOut(Emf(81), "a bitmap");
   const auto records = report.Records();
   ASSERT_EQ(records.size(), 3U);
   EXPECT_EQ(records[0].omission, Omission::kLeftOut);
@@ -33,14 +37,14 @@ TEST(Report, TellsWhatIsMissingBeforeWhatIsNearAndWhatIsDamaged) {
 TEST(Report, IsWholeUntilSomethingIsMissingOrDamaged) {
   Report report;
   EXPECT_TRUE(report.IsWhole());
-  report.OnlyNearly(20, "blends");
+  report.OnlyNearly(Emf(20), "blends");
   report.Remark("the frame is empty");
   EXPECT_TRUE(report.IsWhole());
   Report missing;
-  missing.LeftOut(53, "needs pixels");
+  missing.LeftOut(Emf(53), "needs pixels");
   EXPECT_FALSE(missing.IsWhole());
   Report damaged;
-  damaged.Damaged(4, "ends early");
+  damaged.Damaged(Emf(4), "ends early");
   EXPECT_FALSE(damaged.IsWhole());
 }
 

@@ -1,4 +1,5 @@
 #include "frontends/inspection/record_printers.h"
+#include "frontends/inspection/shared_fields.h"
 #include "metafile/emf/emf_font_records.h"
 #include "metafile/emf/emf_record_type.h"
 #include "metafile/emf/emf_text_records.h"
@@ -70,27 +71,10 @@ void PrintSmallTextOut(ByteView& bytes, FieldWriter& fields) {
   }
 }
 
-void AddFont(FieldWriter& fields, const LogFont& font) {
-  fields.Field("Height", font.height)
-      .Field("Width", font.width)
-      .Field("Escapement", font.escapement)
-      .Field("Orientation", font.orientation)
-      .Field("Weight", font.weight)
-      .Field("Italic", font.italic)
-      .Field("Underline", font.underline)
-      .Field("StrikeOut", font.strikeOut)
-      .Field("CharSet", font.charSet)
-      .Field("OutPrecision", font.outPrecision)
-      .Field("ClipPrecision", font.clipPrecision)
-      .Field("Quality", font.quality)
-      .Field("PitchAndFamily", font.pitchAndFamily)
-      .Field("Facename", font.faceName);
-}
-
 void PrintExtCreateFontIndirectW(ByteView& bytes, FieldWriter& fields) {
   const auto record = DecodeExtCreateFontIndirectW(bytes);
   fields.Object("ihFonts", record.ihFont);
-  AddFont(fields, record.font);
+  AddLogFont(fields, record.font);
   if (record.fullName.empty()) return;
   fields.Field("FullName", UpToNul(record.fullName)).Field("Style", UpToNul(record.style));
   if (record.script.empty()) {

@@ -10,7 +10,7 @@ namespace kelvane {
 namespace {
 
 constexpr const char* kAbout =
-    "Turns Windows Enhanced Metafiles (EMF) into PDF, as Windows shows them.\n"
+    "Turns Windows metafiles (EMF, EMF+, WMF) into PDF, as Windows shows them.\n"
     "The report names what is left out.\n";
 
 constexpr const char* kFooter =

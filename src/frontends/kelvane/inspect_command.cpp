@@ -32,7 +32,7 @@ int Print(std::string_view word, const std::string& path) {
     return Complain(name + ": cannot be read: " + error.what(), KELVANE_NO_PICTURE);
   }
   const auto info = InfoOf(file, name);
-  if (!info) return Complain(name + ": it is no enhanced metafile (EMF)", KELVANE_NO_PICTURE);
+  if (!info) return Complain(name + ": it is no metafile (EMF or WMF)", KELVANE_NO_PICTURE);
   if (word == kInfo) {
     std::cout << *info;
   } else {

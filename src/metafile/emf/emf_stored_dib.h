@@ -4,17 +4,10 @@
 #include <tuple>
 
 #include "metafile/byte_view.h"
+#include "metafile/stored_dib.h"
 
 namespace kelvane {
 inline namespace metafile {
-
-/// Where a record has its bitmap: header and colours in one place, pixels in another.
-struct StoredDib {
-  ByteView header;  // header and colour table; empty when there is no bitmap
-  ByteView pixels;  // as the header says
-
-  [[nodiscard]] constexpr bool IsEmpty() const { return header.Bytes().empty(); }
-};
 
 /// The four numbers by which records say where a bitmap lies: offset and size of the header, offset
 /// and size of the pixels.

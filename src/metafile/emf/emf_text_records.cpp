@@ -4,22 +4,16 @@ namespace kelvane {
 inline namespace metafile {
 namespace {
 
-/// Some writers set ETO_PDY and store dx alone: then there is room for no more.
-TextAdvances AdvancesAt(ByteView record, const StoredText& stored) {
+TextAdvances<std::int32_t> AdvancesOf(const ByteView& record, const StoredText& stored) {
   if (stored.offDx == 0) return {};
-  const std::size_t chars = stored.chars;
-  constexpr std::uint64_t kValueSize = sizeof(std::int32_t);
-  if ((stored.options & ETO_PDY) != 0 && record.Holds(stored.offDx, kValueSize * 2 * chars))
-    return {record.ArrayAt<std::int32_t>(stored.offDx, chars * 2), true};
-  if (!record.Holds(stored.offDx, kValueSize * chars)) return {};
-  return {record.ArrayAt<std::int32_t>(stored.offDx, chars), false};
+  return AdvancesAt<std::int32_t>(record, stored.offDx, stored.chars, stored.options);
 }
 
 /// The record is short when it does not hold the characters.
 template <class Unit>
 TextItem<Unit> TextAt(ByteView& record, const StoredText& stored) {
   return {stored.reference, stored.options, stored.rectangle,
-          record.ArrayAt<Unit>(stored.offString, stored.chars), AdvancesAt(record, stored)};
+          record.ArrayAt<Unit>(stored.offString, stored.chars), AdvancesOf(record, stored)};
 }
 
 }  // namespace

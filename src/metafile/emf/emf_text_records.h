@@ -7,6 +7,7 @@
 #include "metafile/byte_view.h"
 #include "metafile/gdi_enumerations.h"
 #include "metafile/gdi_types.h"
+#include "metafile/text_advances.h"
 
 namespace kelvane {
 inline namespace metafile {
@@ -32,20 +33,6 @@ struct StoredText {
   friend bool operator==(const StoredText&, const StoredText&) = default;
 };
 
-/// How far the pen moves after each unit of a text.
-struct TextAdvances {
-  ArrayView<std::int32_t> values;  // logical units; empty when the face is to say
-  bool arePairs = false;           // whether each unit has two values, dx and dy
-
-  [[nodiscard]] constexpr bool IsEmpty() const { return values.empty(); }
-  [[nodiscard]] constexpr std::int32_t Dx(std::size_t unit) const {
-    return values[arePairs ? 2 * unit : unit];
-  }
-  [[nodiscard]] constexpr std::int32_t Dy(std::size_t unit) const {
-    return arePairs ? values[2 * unit + 1] : 0;
-  }
-};
-
 /// The arguments of ExtTextOut.
 template <class Unit>
 struct TextItem {
@@ -53,7 +40,7 @@ struct TextItem {
   ExtTextOutOptions options{};
   RectangleL rectangle;  // of ETO_OPAQUE and ETO_CLIPPED
   ArrayView<Unit> text;
-  TextAdvances advances;
+  TextAdvances<std::int32_t> advances;
 };
 
 /// What all text records say of how their recorder drew them.

@@ -5,10 +5,6 @@
 namespace kelvane {
 namespace {
 
-DibBytes BytesOf(const StoredDib& dib, DibUsage usage) {
-  return {dib.header.Bytes(), dib.pixels.Bytes(), usage};
-}
-
 SourceBitmap BitmapOf(const BlitSource& source) {
   return {BytesOf(source.dib, source.usage), source.position, source.size, source.transform};
 }

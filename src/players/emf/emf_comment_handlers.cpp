@@ -1,5 +1,6 @@
 #include "metafile/emf/emf_comment_records.h"
 #include "players/emf/emf_handler.h"
+#include "players/emf/emf_other_forms.h"
 #include "players/emfplus/emfplus_player.h"
 
 namespace kelvane {
@@ -11,7 +12,12 @@ void PlayEmfPlusComment(EmfPlayback& p, ByteView data) {
   p.device.canvas = p.emfPlus->handsOver ? p.canvas : nullptr;
 }
 
-/// Groups and other forms of the picture mark nothing: what is to be seen stands in the records.
+/// Groups mark nothing, and neither do other forms of a picture that stands in the records.
+void PlayPublicComment(EmfPlayback& p, ByteView data) {
+  if (p.otherForms == nullptr || p.otherForms->Play(data)) return;
+  p.LeftOut("none of the forms in which it has the picture can be drawn");
+}
+
 void PlayComment(EmfPlayback& p, const CommentRecord& r) {
   switch (r.kind) {
     case EmfCommentKind::kEmfPlus:
@@ -20,6 +26,7 @@ void PlayComment(EmfPlayback& p, const CommentRecord& r) {
       ++p.privateComments;
       return;
     case EmfCommentKind::kPublic:
+      return PlayPublicComment(p, r.data);
     case EmfCommentKind::kSpool:
       return;
   }

@@ -1,5 +1,4 @@
 #include <utility>
-#include <vector>
 
 #include "gdi/objects.h"
 #include "metafile/emf/emf_font_records.h"
@@ -27,19 +26,10 @@ void CreateBrush(EmfPlayback& p, const CreateBrushIndirectRecord& r) {
   p.device.objects.Set(r.ihBrush, *brush);
 }
 
-std::vector<RgbColor> ColorsOf(ArrayView<PaletteEntry> entries) {
-  std::vector<RgbColor> colors;
-  for (const PaletteEntry entry : entries) {
-    if (colors.size() == Palette::kMostEntries) break;
-    colors.push_back({entry.red, entry.green, entry.blue});
-  }
-  return colors;
-}
-
 /// Windows makes no palette without colours, and the one before it stays selected.
 void CreatePalette(EmfPlayback& p, const CreatePaletteRecord& r) {
   if (r.entries.empty()) return p.Damaged("its palette has no colours");
-  p.device.objects.Set(r.ihPal, Palette(ColorsOf(r.entries)));
+  p.device.objects.Set(r.ihPal, PaletteOf(r.entries));
 }
 
 constexpr EmfHandler kObjectHandlers[] = {

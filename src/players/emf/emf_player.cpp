@@ -3,17 +3,12 @@
 #include <optional>
 #include <string>
 
-#include "gdi/canvas.h"
-#include "gdi/exactly.h"
-#include "gdi/font_book.h"
-#include "gdi/painting.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
-#include "players/drawn_extent.h"
 #include "players/emf/emf_halves.h"
 #include "players/emf/emf_handler.h"
+#include "players/emf/emf_other_forms.h"
 #include "players/emfplus/emfplus_playback.h"
-#include "players/shortfall_words.h"
 
 namespace kelvane {
 namespace {
@@ -40,36 +35,12 @@ bool AddsToPendingMarks(std::uint32_t type) {
   return type == EMR_MOVETOEX || type == EMR_LINETO || type == EMR_SETPIXELV;
 }
 
-void FinishMarks(EmfPlayback& playback) {
-  DrawPendingMarks(playback.device);
-  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
-}
-
-/// What a blit falls short of is told of its own record.
-void FinishBlits(EmfPlayback& playback) {
-  if (playback.device.pendingBlits.blits.empty()) return;
-  playback.type = playback.blitType;
-  DrawPendingBlits(playback.device);
-  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
-}
-
 void Play(EmfPlayback& playback, EmfRecord& record) {
-  if (!AddsToPendingMarks(record.type)) FinishMarks(playback);
-  const EmfFamily family = FamilyOf(record.type);
-  if (family == EmfFamily::kOther) FinishBlits(playback);
-  if (family == EmfFamily::kBitmap) playback.blitType = record.type;
-  playback.type = record.type;
+  playback.Begin(record.type, FamilyOf(record.type), AddsToPendingMarks(record.type));
   const PlayEmfRecord play = FindEmfHandler(record.type);
   if (play == nullptr) return playback.LeftOut("it is of an unknown kind");
   play(playback, record.bytes);
-  ReportShortfalls(playback.device.shortfalls, playback.type, playback.report);
-}
-
-void ReportComments(const EmfPlayback& playback) {
-  if (playback.privateComments > 0) {
-    playback.report.Remark(std::to_string(playback.privateComments) +
-                           " comments of programs were passed over");
-  }
+  playback.ReportRecord();
 }
 
 std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playback) {
@@ -79,105 +50,13 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
     Play(playback, *record);
     ++count;
   }
-  FinishMarks(playback);
-  FinishBlits(playback);
+  playback.Finish();
   const EmfEnd end = *records.End();
   if (end != EmfEnd::kEndRecord) {
     playback.report.Remark("the records end at byte " + std::to_string(records.Offset()) + ": " +
                            std::string(Description(end)));
   }
   return count;
-}
-
-RectangleD AreaOfPage(const PagePlacement& page) {
-  const CGRect area =
-      CGRectApplyAffineTransform({{0, 0}, page.size}, CGAffineTransformInvert(page.deviceToPage));
-  return {area.origin.x, area.origin.y, area.origin.x + area.size.width,
-          area.origin.y + area.size.height};
-}
-
-/// Metafiles within images of a metafile may be played again and again, each with others within.
-/// So they have a share of what the whole file may take, by their sizes.
-struct NestedPlay {
-  Steps bytes;
-  Steps clipSteps{1U << 23};  // of all of them
-  int depth = 0;
-};
-
-/// A picture on its way onto a surface.
-struct PlayedPicture {
-  std::span<const unsigned char> file;
-  const PlaySetting& setting;
-  CGContext& surface;
-  Report& report;
-  NestedPlay& nested;
-  const Canvas* around = nullptr;  // of the picture that it is within
-};
-
-/// @param whole  what can be seen, device units.
-std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
-                     const CGAffineTransform& deviceToPage, const RectangleD& whole);
-
-bool PlayWithin(const PlayedPicture& outer, const Canvas& around, const EmfPlusMetafile& metafile,
-                const TransformD& unitToDevice) {
-  constexpr int kDeepest = 8;
-  const TransformD unitToPage = unitToDevice.Then(around.ToPage());
-  const auto header = ReadEmfHeader(metafile.bytes);
-  if (!header || outer.nested.depth >= kDeepest || !unitToPage.KeepsRectangles()) return false;
-  const auto page = PlaceOnPage(GeometryOf(*header), PageChoice::kFrame, {});
-  if (!page || !outer.nested.bytes.Take(metafile.bytes.size())) return false;
-  const TransformD pageToUnit = {1 / page->size.width, 0, 0, -1 / page->size.height, 0, 1};
-  const CGAffineTransform& t = page->deviceToPage;
-  const TransformD deviceToPage =
-      TransformD{t.a, t.b, t.c, t.d, t.tx, t.ty}.Then(pageToUnit).Then(unitToPage);
-  ++outer.nested.depth;
-  PlayOnto({metafile.bytes, outer.setting, outer.surface, outer.report, outer.nested, &around},
-           *header, Rounded(deviceToPage), AreaOfPage(*page));
-  --outer.nested.depth;
-  return true;
-}
-
-std::size_t PlayOnto(const PlayedPicture& picture, const EmfHeader& header,
-                     const CGAffineTransform& deviceToPage, const RectangleD& whole) {
-  const auto [file, setting, surface, report, nested, around] = picture;
-  const DeviceResolution resolution = ResolutionOf(GeometryOf(header));
-  Canvas canvas(surface, deviceToPage, whole, resolution);
-  around != nullptr ? canvas.ShareAllowanceOf(*around) : canvas.AllowFor(file.size());
-  FontBook fonts(setting.text.registry, surface.FontFilter(), setting.text.map);
-  DeviceContext device({header.device, header.millimeters, whole.left, whole.right}, &canvas);
-  device.fonts = &fonts;
-  device.outlinesText = setting.text.outlines;
-  gdiplus::Graphics graphics(&canvas, {resolution.dotsPerInchX, resolution.dotsPerInchY});
-  graphics.fonts = &fonts;
-  graphics.outlinesText = setting.text.outlines;
-  if (around != nullptr) {  // one share is for what is within it
-    const std::uint64_t third = nested.clipSteps.Left() / 3;
-    device.clipSteps = graphics.clipSteps = nested.clipSteps = Steps(third);
-  }
-  EmfPlayback playback = {device, report};
-  std::optional<EmfPlusPlayback> emfPlus;
-  if (ChooseHalf(file, setting.emfPlus, report) == EmfHalf::kEmfPlus) {
-    const auto playWithin = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
-      return PlayWithin(picture, canvas, metafile, unitToDevice);
-    };
-    emfPlus.emplace(EmfPlusPlayback{graphics, report, playWithin});
-    playback.emfPlus = &*emfPlus;
-    device.canvas = nullptr;
-  }
-  const std::size_t count = PlayRecords(file, playback);
-  nested.clipSteps.Add(device.clipSteps.Left() + graphics.clipSteps.Left());
-  ReportComments(playback);
-  report.UsedFonts(fonts.Uses());
-  return count;
-}
-
-/// @return how many records there were.
-std::size_t PlayWhole(std::span<const unsigned char> file, const EmfHeader& header,
-                      const PlaySetting& setting, CGContext& surface, Report& report,
-                      const CGAffineTransform& deviceToPage, const RectangleD& whole) {
-  NestedPlay nested = {Steps((1U << 20) + 16 * std::uint64_t{file.size()})};
-  surface.WatchGround({1, 1, 1, 1});  // paper is white
-  return PlayOnto({file, setting, surface, report, nested}, header, deviceToPage, whole);
 }
 
 }  // namespace
@@ -199,27 +78,30 @@ PictureGeometry GeometryOf(const EmfHeader& header) {
           static_cast<double>(header.millimeters.cy)};
 }
 
-std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file,
-                                         const PlaySetting& setting) {
-  const auto header = ReadEmfHeader(file);
-  if (!header) return std::nullopt;
-  constexpr double kFar = 1 << 24;  // beyond it single precision has no whole units
-  const CFOwned<DrawnExtent> extent(new DrawnExtent);
-  extent->BeginPage({{0, 0}, {1, 1}});
-  Report unread;
-  PlayWhole(file, *header, setting, *extent, unread, {}, {-kFar, -kFar, kFar, kFar});
-  extent->EndPage();
-  return extent->Area();
-}
-
-std::size_t PlayEmf(std::span<const unsigned char> file, const PagePlacement& page,
-                    const PlaySetting& setting, CGContext& surface, Report& report) {
-  const auto header = ReadEmfHeader(file);
-  if (!header) return 0;
-  surface.SaveGState();
-  const std::size_t count =
-      PlayWhole(file, *header, setting, surface, report, page.deviceToPage, AreaOfPage(page));
-  surface.RestoreGState();
+std::size_t PlayEmf(std::span<const unsigned char> file, const EmfHeader& header,
+                    const Stage& stage) {
+  const DeviceResolution resolution = ResolutionOf(GeometryOf(header));
+  StagedDevice staged(stage, file.size(), {header.device, header.millimeters}, resolution);
+  gdiplus::Graphics graphics(&staged.canvas, {resolution.dotsPerInchX, resolution.dotsPerInchY});
+  graphics.fonts = &staged.fonts;
+  graphics.outlinesText = stage.setting.text.outlines;
+  graphics.clipSteps = stage.clipSteps;
+  EmfPlayback playback = {{staged.device, stage.report, RecordFormat::kEmf}};
+  std::optional<EmfOtherForms> otherForms;
+  if (!DrawsByItself(file)) playback.otherForms = &otherForms.emplace(header, stage, staged.device);
+  std::optional<EmfPlusPlayback> emfPlus;
+  if (ChooseHalf(file, stage.setting.emfPlus, stage.report) == EmfHalf::kEmfPlus) {
+    const auto playWithin = [&](const EmfPlusMetafile& metafile, const TransformD& unitToDevice) {
+      return stage.playWithin({metafile.bytes, metafile.placeableHeader}, unitToDevice,
+                              staged.canvas);
+    };
+    emfPlus.emplace(EmfPlusPlayback{graphics, stage.report, playWithin});
+    playback.emfPlus = &*emfPlus;
+    staged.device.canvas = nullptr;
+  }
+  const std::size_t count = PlayRecords(file, playback);
+  playback.ReportComments();
+  stage.report.UsedFonts(staged.fonts.Uses());
   return count;
 }
 

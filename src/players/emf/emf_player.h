@@ -5,10 +5,8 @@
 #include <span>
 
 #include "metafile/emf/emf_header.h"
-#include "platform/quartz/cg_context.h"
 #include "players/page_placement.h"
-#include "players/play_setting.h"
-#include "players/report.h"
+#include "players/stage.h"
 
 namespace kelvane {
 
@@ -19,18 +17,10 @@ std::optional<EmfHeader> ReadEmfHeader(std::span<const unsigned char> file);
 /// @return what a header says about where its picture lies.
 PictureGeometry GeometryOf(const EmfHeader& header);
 
-/// @return what the records draw, in device units; nullopt when they draw nothing. For files whose
-///         header does not say. Throws std::bad_alloc.
-std::optional<StoredRectangle> DrawnArea(std::span<const unsigned char> file,
-                                         const PlaySetting& setting);
-
-/// Plays all records onto the surface's page. Whatever is in the file, the surface's state is
-/// afterwards what it was.
-/// @param page    where the picture lies on it.
-/// @param setting  how it is played.
-/// @param report  gets what is missing or only nearly there.
+/// Plays all records.
+/// @param file    borrowed. @param header  its own.
 /// @return how many records there were. Throws what the surface throws.
-std::size_t PlayEmf(std::span<const unsigned char> file, const PagePlacement& page,
-                    const PlaySetting& setting, CGContext& surface, Report& report);
+std::size_t PlayEmf(std::span<const unsigned char> file, const EmfHeader& header,
+                    const Stage& stage);
 
 }  // namespace kelvane

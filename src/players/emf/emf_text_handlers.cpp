@@ -12,8 +12,7 @@ namespace {
 template <class Unit>
 void Write(EmfPlayback& p, const TextItem<Unit>& item, const TextScale& scale) {
   ExtTextOut(p.device,
-             {item.reference, item.options, item.rectangle, scale.graphicsMode,
-              item.advances.values, item.advances.arePairs},
+             {item.reference, item.options, item.rectangle, scale.graphicsMode, item.advances},
              std::basic_string<Unit>(item.text.begin(), item.text.end()));
 }
 

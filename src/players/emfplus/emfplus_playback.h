@@ -42,9 +42,10 @@ struct EmfPlusPlayback {
     return std::get_if<Object>(&objects[slot]->object);
   }
 
-  void LeftOut(std::string_view why) { report.LeftOut(type, why); }
-  void OnlyNearly(std::string_view why) { report.OnlyNearly(type, why); }
-  void Damaged(std::string_view why) { report.Damaged(type, why); }
+  [[nodiscard]] RecordId Id() const { return {RecordFormat::kEmfPlus, type}; }
+  void LeftOut(std::string_view why) { report.LeftOut(Id(), why); }
+  void OnlyNearly(std::string_view why) { report.OnlyNearly(Id(), why); }
+  void Damaged(std::string_view why) { report.Damaged(Id(), why); }
   void LacksObject() { LeftOut("an object that it names is not there"); }
 };
 

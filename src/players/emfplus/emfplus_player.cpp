@@ -16,16 +16,12 @@ void PlayOne(EmfPlusPlayback& playback, const EmfPlusRecord& record) {
   const PlayEmfPlusRecord play = FindEmfPlusHandler(record.type);
   if (play == nullptr) return playback.LeftOut("it is of a kind that is not played");
   play(playback, record);
-  ReportShortfalls(playback.graphics.shortfalls, playback.type, playback.report);
+  ReportShortfalls(playback.graphics.shortfalls, playback.Id(), playback.report);
 }
 
 bool IsPlayable(const EmfPlusImage& image) {
-  if (const auto* const file = std::get_if<EmfPlusImageFile>(&image)) {
-    return gdiplus::IsReadable(*file);
-  }
-  const auto* const metafile = std::get_if<EmfPlusMetafile>(&image);
-  return metafile == nullptr || (metafile->type != EmfPlusMetafileType::kWmf &&
-                                 metafile->type != EmfPlusMetafileType::kPlaceableWmf);
+  const auto* const file = std::get_if<EmfPlusImageFile>(&image);
+  return file == nullptr || gdiplus::IsReadable(*file);
 }
 
 }  // namespace

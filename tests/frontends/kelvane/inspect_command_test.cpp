@@ -53,7 +53,7 @@ TEST_F(KelvaneInspection, SaysWhyAFileCannotBeInspected) {
     ToolResult result = Run({word, "bad.emf"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors, "kelvane: bad.emf: it is no enhanced metafile (EMF)\n");
+    EXPECT_EQ(result.errors, "kelvane: bad.emf: it is no metafile (EMF or WMF)\n");
 
     result = Run({word, "gone.emf"});
     EXPECT_EQ(result.status, 2);

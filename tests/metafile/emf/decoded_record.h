@@ -21,10 +21,11 @@ class DecodedRecord {
  public:
   using Decode = Record (*)(ByteView&);
 
-  /// @param bytes  the whole record.
-  DecodedRecord(Decode decode, std::span<const unsigned char> bytes)
+  /// @param bytes  the whole record. @param headSize  bytes of it that the decoder finds read.
+  DecodedRecord(Decode decode, std::span<const unsigned char> bytes,
+                std::size_t headSize = kHeadSize)
       : bytes_(bytes.begin(), bytes.end()), view_(bytes_) {
-    view_.Skip(kHeadSize);
+    view_.Skip(headSize);
     record_ = decode(view_);
   }
   DecodedRecord(const DecodedRecord&) = delete;
@@ -41,19 +42,21 @@ class DecodedRecord {
 };
 
 /// Decodes a record, having cut it at every length: whatever it needs it must miss.
-/// @param body    the record behind type and size. Offsets count from 8 bytes before it.
+/// @param body    the record behind type and size. Offsets count from the head before it.
 /// @param needed  bytes of the body that the record cannot do without; all of them unless said
 /// otherwise.
 template <class Record>
 DecodedRecord<Record> Decode(Record (*decode)(ByteView&), const Bytes& body,
-                             std::optional<std::size_t> needed = std::nullopt) {
-  const std::vector<unsigned char> whole = Bytes().Zeros(kHeadSize).Append(body.Data()).Data();
-  for (std::size_t length = kHeadSize; length < whole.size(); ++length) {
-    const bool isShort = DecodedRecord<Record>(decode, std::span(whole).first(length)).IsShort();
-    EXPECT_EQ(isShort, length - kHeadSize < needed.value_or(body.Size()))
-        << "when the body is cut to " << length - kHeadSize << " bytes";
+                             std::optional<std::size_t> needed = std::nullopt,
+                             std::size_t headSize = kHeadSize) {
+  const std::vector<unsigned char> whole = Bytes().Zeros(headSize).Append(body.Data()).Data();
+  for (std::size_t length = headSize; length < whole.size(); ++length) {
+    const bool isShort =
+        DecodedRecord<Record>(decode, std::span(whole).first(length), headSize).IsShort();
+    EXPECT_EQ(isShort, length - headSize < needed.value_or(body.Size()))
+        << "when the body is cut to " << length - headSize << " bytes";
   }
-  return DecodedRecord<Record>(decode, whole);
+  return DecodedRecord<Record>(decode, whole, headSize);
 }
 
 /// The elements of a view, to be compared as a whole.

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "metafile/gdi_enumerations.h"
-#include "players/emf/traced_emf.h"
+#include "players/traced_metafile.h"
 #include "support/metafile.h"
 
 namespace kelvane::test {
@@ -21,7 +21,7 @@ Bytes WithVertices(std::uint32_t mode, std::uint32_t meshes) {
   return body.PointL(8, 4).U16(0).U16(0).U16(kFull).U16(0);
 }
 
-PlayedEmf PlayedGradient(const Bytes& body) {
+PlayedMetafile PlayedGradient(const Bytes& body) {
   return Played(Metafile().Record(kEmrGradientFill, body).Build());
 }
 
@@ -29,15 +29,15 @@ const std::string kRedToBlue = "  stop 0 1 0 0\n  stop 1 0 0 1\n";
 
 TEST(EmfGradient, RunsFromTheLeftOrTheTop) {
   const std::string within = "save\nrect 0 0 8 4\nclip\n";
-  const PlayedEmf across = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_H, 1).U32(0).U32(2));
+  const PlayedMetafile across = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_H, 1).U32(0).U32(2));
   EXPECT_EQ(across.trace, within + "axial 0.5 0.5 8.5 0.5\n" + kRedToBlue);
   EXPECT_EQ(across.report, "");
-  const PlayedEmf down = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_V, 1).U32(0).U32(2));
+  const PlayedMetafile down = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_V, 1).U32(0).U32(2));
   EXPECT_EQ(down.trace, within + "axial 0.5 0.5 0.5 4.5\n" + kRedToBlue);
 }
 
 TEST(EmfGradient, IsAMeshOfTriangles) {
-  const PlayedEmf played =
+  const PlayedMetafile played =
       PlayedGradient(WithVertices(GRADIENT_FILL_TRIANGLE, 1).U32(0).U32(1).U32(2));
   EXPECT_EQ(played.trace, "mesh\n  vertex 0 0 1 0 0\n  vertex 8 0 0 1 0\n  vertex 8 4 0 0 1\n");
   EXPECT_EQ(played.report, "");
@@ -46,17 +46,17 @@ TEST(EmfGradient, IsAMeshOfTriangles) {
 TEST(EmfGradient, IsReportedWithoutItsVertices) {
   const std::string lacks =
       "damaged EMR_GRADIENTFILL 1: it lacks vertices that its shapes are to have\n";
-  const PlayedEmf across = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_H, 1).U32(0).U32(3));
+  const PlayedMetafile across = PlayedGradient(WithVertices(GRADIENT_FILL_RECT_H, 1).U32(0).U32(3));
   EXPECT_EQ(across.trace, "");
   EXPECT_EQ(across.report, lacks);
-  const PlayedEmf mesh =
+  const PlayedMetafile mesh =
       PlayedGradient(WithVertices(GRADIENT_FILL_TRIANGLE, 1).U32(0).U32(1).U32(0xFFFFFFFF));
   EXPECT_EQ(mesh.trace, "");
   EXPECT_EQ(mesh.report, lacks);
 }
 
 TEST(EmfGradient, IsReportedWithAnUnknownMode) {
-  const PlayedEmf played = PlayedGradient(WithVertices(3, 1).U32(0).U32(1).U32(2));
+  const PlayedMetafile played = PlayedGradient(WithVertices(3, 1).U32(0).U32(1).U32(2));
   EXPECT_EQ(played.trace, "");
   EXPECT_EQ(played.report, "damaged EMR_GRADIENTFILL 1: its gradient is of an unknown kind\n");
 }

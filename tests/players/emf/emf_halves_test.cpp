@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "players/traced_metafile.h"
 #include "support/metafile.h"
 #include "support/plus_records.h"
-#include "traced_emf.h"
 
 namespace kelvane::test {
 namespace {
@@ -42,15 +42,15 @@ std::vector<unsigned char> FileOf(const PlusRecords& records) {
   return AddEmfLine(metafile).Build();
 }
 
-bool HasSquare(const PlayedEmf& played) {
+bool HasSquare(const PlayedMetafile& played) {
   return played.trace.find(kSquare) != std::string::npos;
 }
-bool HasLine(const PlayedEmf& played) {
+bool HasLine(const PlayedMetafile& played) {
   return played.trace.find(kLine) != std::string::npos;
 }
 
 TEST(EmfHalves, AreNotPlayedBoth) {
-  const PlayedEmf played = Played(FileOf(SquareBehind(kPlusDual)));
+  const PlayedMetafile played = Played(FileOf(SquareBehind(kPlusDual)));
   EXPECT_TRUE(HasSquare(played)) << played.trace;
   EXPECT_FALSE(HasLine(played));
   EXPECT_EQ(played.report, "");
@@ -59,7 +59,7 @@ TEST(EmfHalves, AreNotPlayedBoth) {
 }
 
 TEST(EmfHalves, AreTheOneInEmfWhereTheOtherCannotBePlayedWhole) {
-  const PlayedEmf played = Played(FileOf(UnplayableBehind(kPlusDual)));
+  const PlayedMetafile played = Played(FileOf(UnplayableBehind(kPlusDual)));
   EXPECT_FALSE(HasSquare(played));
   EXPECT_TRUE(HasLine(played));
   EXPECT_EQ(played.report, "");
@@ -90,7 +90,7 @@ TEST(EmfHalves, AreJudgedByTheImagesWithinThem) {
 
 TEST(EmfHalves, AreTheOneInEmfWhereTheOtherIsOfNoVersion) {
   constexpr std::uint32_t kNoVersion = 0x10000;
-  const PlayedEmf played = Played(FileOf(SquareBehind(kPlusDual, kNoVersion)));
+  const PlayedMetafile played = Played(FileOf(SquareBehind(kPlusDual, kNoVersion)));
   EXPECT_FALSE(HasSquare(played));
   EXPECT_TRUE(HasLine(played));
   EXPECT_THAT(
@@ -100,7 +100,7 @@ TEST(EmfHalves, AreTheOneInEmfWhereTheOtherIsOfNoVersion) {
 }
 
 TEST(EmfHalves, AreTheOneInEmfPlusWhereTheOtherIsNotWhole) {
-  const PlayedEmf played = Played(FileOf(UnplayableBehind(0)));
+  const PlayedMetafile played = Played(FileOf(UnplayableBehind(0)));
   EXPECT_TRUE(HasSquare(played));
   EXPECT_FALSE(HasLine(played));
   EXPECT_THAT(played.report, HasSubstr("it is of a kind that is not played"));
@@ -112,7 +112,7 @@ TEST(EmfHalves, AreTheOneThatIsAskedFor) {
   EXPECT_TRUE(HasSquare(Played(unplayable, EmfPlusChoice::kAlways)));
   EXPECT_FALSE(HasLine(Played(unplayable, EmfPlusChoice::kAlways)));
   for (const std::uint32_t flags : {0U, kPlusDual}) {
-    const PlayedEmf never = Played(FileOf(SquareBehind(flags)), EmfPlusChoice::kNever);
+    const PlayedMetafile never = Played(FileOf(SquareBehind(flags)), EmfPlusChoice::kNever);
     EXPECT_FALSE(HasSquare(never));
     EXPECT_TRUE(HasLine(never));
     EXPECT_THAT(never.remarks, ElementsAre("the picture is drawn from its EMF half: as was asked"));
@@ -126,7 +126,7 @@ TEST(EmfHalves, HandOverToEmfUntilTheNextRecordOfEmfPlus) {
   PlusRecords square;
   AddSquare(square).AddTo(metafile);
   metafile.Polyline({{7, 7}, {8, 8}});
-  const PlayedEmf played = Played(metafile.Build());
+  const PlayedMetafile played = Played(metafile.Build());
   EXPECT_TRUE(HasLine(played));
   EXPECT_TRUE(HasSquare(played));
   EXPECT_LT(played.trace.find(kLine), played.trace.find(kSquare));

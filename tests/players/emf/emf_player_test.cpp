@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "players/emf/traced_emf.h"
+#include "players/traced_metafile.h"
 #include "support/blits.h"
 #include "support/metafile.h"
 
@@ -28,12 +28,12 @@ Metafile& AddLine(Metafile& metafile) {
 }
 
 /// A file of one record.
-PlayedEmf PlayedAlone(std::uint32_t type, const Bytes& body = {}) {
+PlayedMetafile PlayedAlone(std::uint32_t type, const Bytes& body = {}) {
   return Played(Metafile().Record(type, body).Build());
 }
 
 TEST(EmfPlayer, PlaysRecordsAndCountsThem) {
-  const PlayedEmf played = Played(FileOfALine());
+  const PlayedMetafile played = Played(FileOfALine());
   EXPECT_EQ(played.trace, kLine);
   EXPECT_EQ(played.records, 3U);
   EXPECT_EQ(played.report, "");
@@ -56,7 +56,7 @@ TEST(EmfPlayer, PlaysNothingOfWhatIsNoMetafile) {
 TEST(EmfPlayer, ReportsUnknownRecordsAndGoesOn) {
   Metafile metafile;
   metafile.Record(kUnknownType, Bytes().U32(1)).Record(kUnknownType);
-  const PlayedEmf played = Played(AddLine(metafile).Build());
+  const PlayedMetafile played = Played(AddLine(metafile).Build());
   EXPECT_EQ(played.report, "left out 200 2: it is of an unknown kind\n");
   EXPECT_FALSE(played.isWhole);
   EXPECT_EQ(played.trace, kLine);
@@ -65,7 +65,7 @@ TEST(EmfPlayer, ReportsUnknownRecordsAndGoesOn) {
 TEST(EmfPlayer, SkipsRecordsThatAreTooShortForTheirFields) {
   Metafile metafile;
   metafile.Record(EMR_RECTANGLE, Bytes().I32(1).I32(2).I32(3));
-  const PlayedEmf played = Played(AddLine(metafile).Build());
+  const PlayedMetafile played = Played(AddLine(metafile).Build());
   EXPECT_EQ(played.report, "damaged EMR_RECTANGLE 1: it is too short for its fields\n");
   EXPECT_FALSE(played.isWhole);
   EXPECT_EQ(played.trace, kLine);
@@ -105,7 +105,7 @@ TEST(EmfPlayer, ReportsABrushOfNoStyle) {
 TEST(EmfPlayer, DrawsWhatComesBeforeASizeThatLeadsNowhereAndRemarksIt) {
   Metafile metafile;
   AddLine(metafile).RecordOfSize(EMR_RECTANGLE, 7).Polyline({{1, 1}, {2, 2}});
-  const PlayedEmf played = Played(metafile.Build());
+  const PlayedMetafile played = Played(metafile.Build());
   EXPECT_EQ(played.trace, kLine);
   // The header has 108 bytes, a line of two points 8, 16, 4 and 2 times 4.
   EXPECT_THAT(played.remarks,
@@ -115,7 +115,7 @@ TEST(EmfPlayer, DrawsWhatComesBeforeASizeThatLeadsNowhereAndRemarksIt) {
 
 TEST(EmfPlayer, RemarksThatAFileEndsWithoutItsLastRecord) {
   Metafile metafile;
-  const PlayedEmf played = Played(AddLine(metafile).BuildWithoutEnd());
+  const PlayedMetafile played = Played(AddLine(metafile).BuildWithoutEnd());
   EXPECT_EQ(played.trace, kLine);
   EXPECT_THAT(played.remarks,
               ElementsAre("the records end at byte 144: the file ends without an EMR_EOF"));
@@ -131,7 +131,7 @@ TEST(EmfPlayer, PlaysNothingBehindTheLastRecord) {
 
 TEST(EmfPlayer, LeavesBitmapsOutThatCannotBeRead) {
   for (const std::uint32_t type : {kAlphaBlend, kTransparentBlt}) {
-    const PlayedEmf played = PlayedAlone(type, Bytes().Zeros(160));
+    const PlayedMetafile played = PlayedAlone(type, Bytes().Zeros(160));
     EXPECT_EQ(played.trace, "");
     EXPECT_THAT(played.report, testing::HasSubstr("its bitmap cannot be read"));
   }
@@ -157,7 +157,7 @@ constexpr std::uint32_t kSrcPaint = 0x00EE0086;
 TEST(EmfPlayer, MakesOnePictureOfAMaskAndAnImageWithStateBetweenThem) {
   Metafile metafile;
   AddTwoPixels(metafile, kBlackAndWhite, kSrcAnd).SetTextColor(0x123456);
-  const PlayedEmf played = Played(AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).Build());
+  const PlayedMetafile played = Played(AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).Build());
   EXPECT_THAT(played.trace, testing::HasSubstr("masked 2 1"));
   EXPECT_THAT(played.trace, testing::Not(testing::HasSubstr("blend")));
   EXPECT_EQ(played.report, "");
@@ -166,7 +166,7 @@ TEST(EmfPlayer, MakesOnePictureOfAMaskAndAnImageWithStateBetweenThem) {
 TEST(EmfPlayer, DrawsAMaskBeforeWhatIsDrawnOnIt) {
   Metafile metafile;
   AddLine(AddTwoPixels(metafile, kBlackAndWhite, kSrcAnd));
-  const PlayedEmf played = Played(metafile.Build());
+  const PlayedMetafile played = Played(metafile.Build());
   const std::size_t mask = played.trace.find("image 2 1 mask");
   ASSERT_NE(mask, std::string::npos) << played.trace;
   EXPECT_LT(mask, played.trace.find("stroke"));
@@ -176,7 +176,7 @@ TEST(EmfPlayer, TellsWhatABitmapFallsShortOfByItsOwnRecord) {
   Metafile metafile;
   metafile.Ellipse({0, 0, 100, 100});
   AddTwoPixels(metafile, kGreyAndBlack, kSrcPaint).SetTextColor(0x123456);
-  const PlayedEmf played = Played(AddLine(metafile).Build());
+  const PlayedMetafile played = Played(AddLine(metafile).Build());
   EXPECT_EQ(
       played.report,
       "only nearly EMR_STRETCHDIBITS 1: its raster operation on these colours is only near\n");
@@ -191,7 +191,7 @@ TEST(EmfPlayer, ReportsARecordWhoseColorsAreOnlyNear) {
   Metafile metafile;
   metafile.Ellipse({0, 0, 100, 100}).CreateBrush(1, Rgb(128, 128, 128)).SelectObject(1);
   metafile.Record(EMR_SETROP2, Bytes().U32(7));
-  const PlayedEmf played = Played(metafile.Rectangle({0, 0, 4, 4}).Build());
+  const PlayedMetafile played = Played(metafile.Rectangle({0, 0, 4, 4}).Build());
   EXPECT_EQ(played.report,
             "only nearly EMR_RECTANGLE 1: its raster operation on these colours is only near\n");
   EXPECT_TRUE(played.isWhole);
@@ -202,13 +202,13 @@ TEST(EmfPlayer, ReportsARecordWhoseColorsAreOnlyNear) {
 TEST(EmfPlayer, FillsWithABlitThatHasNoBitmap) {
   Metafile metafile;
   metafile.CreateBrush(1, Rgb(255, 0, 0)).SelectObject(1).BitBlt({1, 2}, {3, 4}, kPatCopy);
-  const PlayedEmf played = Played(metafile.Build());
+  const PlayedMetafile played = Played(metafile.Build());
   EXPECT_EQ(played.trace, "fill-color 1 0 0\nrect 1 2 3 4\nfill\n");
   EXPECT_EQ(played.report, "");
 }
 
 TEST(EmfPlayer, MarksNothingByABlitThatLacksItsBitmap) {
-  const PlayedEmf played = Played(Metafile().BitBlt({1, 2}, {3, 4}, kSrcCopy).Build());
+  const PlayedMetafile played = Played(Metafile().BitBlt({1, 2}, {3, 4}, kSrcCopy).Build());
   EXPECT_EQ(played.trace, "");
   EXPECT_EQ(played.report, "");
 }
@@ -230,7 +230,7 @@ TEST(EmfPlayer, CountsTheCommentsOfPrograms) {
 
 TEST(EmfPlayer, SaysNothingOfGroups) {
   constexpr std::uint32_t kPublic = 0x43494447;
-  const PlayedEmf played =
+  const PlayedMetafile played =
       PlayedAlone(EMR_GDICOMMENT, Bytes().U32(28).U32(kPublic).U32(2).Zeros(20));
   EXPECT_EQ(played.report, "");
   EXPECT_THAT(played.remarks, IsEmpty());
@@ -239,7 +239,7 @@ TEST(EmfPlayer, SaysNothingOfGroups) {
 // Marks that are made piece by piece.
 
 TEST(EmfPlayer, StrokesARunOfLinesAsOne) {
-  const PlayedEmf played =
+  const PlayedMetafile played =
       Played(Metafile().MoveTo(1, 1).LineTo(2, 2).LineTo(3, 1).MoveTo(5, 5).LineTo(6, 6).Build());
   EXPECT_EQ(played.trace,
             "line-width 0\nline-join 1\n"

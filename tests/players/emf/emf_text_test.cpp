@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "players/emf/traced_emf.h"
+#include "players/traced_metafile.h"
 #include "support/metafile.h"
 
 namespace kelvane::test {
@@ -52,7 +52,7 @@ Bytes Head(std::uint32_t mode = kCompatible) {
 }
 
 std::string TraceOf(const Metafile& metafile) {
-  const PlayedEmf played = Played(metafile.Build());
+  const PlayedMetafile played = Played(metafile.Build());
   EXPECT_EQ(played.report, "");
   return played.trace;
 }

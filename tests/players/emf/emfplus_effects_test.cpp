@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "players/traced_metafile.h"
 #include "support/bytes.h"
 #include "support/metafile.h"
-#include "traced_emf.h"
 
 namespace kelvane::test {
 namespace {
@@ -40,13 +40,14 @@ std::vector<unsigned char> FileWithEffect(std::initializer_list<std::uint32_t> g
 }
 
 TEST(EmfPlusEffects, AreReportedByTheirNames) {
-  const PlayedEmf played = Played(FileWithEffect({0xA4, 0x80, 0x3C, 0x63, 0x43, 0x18, 0x2B, 0x48,
-                                                  0x9E, 0xF2, 0xBE, 0x28, 0x34, 0xC5, 0xFD, 0xD4}));
+  const PlayedMetafile played =
+      Played(FileWithEffect({0xA4, 0x80, 0x3C, 0x63, 0x43, 0x18, 0x2B, 0x48, 0x9E, 0xF2, 0xBE, 0x28,
+                             0x34, 0xC5, 0xFD, 0xD4}));
   EXPECT_THAT(played.report, HasSubstr("its effect Blur is not applied"));
 }
 
 TEST(EmfPlusEffects, AreReportedThoughNobodyKnowsThem) {
-  const PlayedEmf played =
+  const PlayedMetafile played =
       Played(FileWithEffect({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}));
   EXPECT_THAT(played.report, HasSubstr("its effect of an unknown kind is not applied"));
 }

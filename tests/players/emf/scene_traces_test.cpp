@@ -10,7 +10,7 @@
 #include "metafile/emf/emf_record_type.h"
 #include "platform/quartz/cg_context_calls.h"
 #include "platform/trace/cg_trace_context.h"
-#include "players/emf/emf_player.h"
+#include "players/picture/metafile_player.h"
 #include "support/files.h"
 #include "support/golden.h"
 #include "support/paths.h"
@@ -45,7 +45,7 @@ std::string Lines(const Report& report) {
   std::string lines;
   for (const ReportedRecords& records : report.Records()) {
     lines += Words(records.omission) + std::to_string(records.count) + ' ' +
-             std::string(RecordName(records.type)) + ": " + records.why + '\n';
+             std::string(NameOf(records.record)) + ": " + records.why + '\n';
   }
   for (const std::string& remark : report.Remarks())
     lines += remark + '\n';
@@ -61,8 +61,9 @@ std::string TraceOfScene(const std::string& scene) {
   Report report;
   const CFOwned<CGContext> surface(CGTraceContextCreate(trace));
   CGContextBeginPage(surface.get(), &box);
-  PlayEmf({reinterpret_cast<const unsigned char*>(file.data()), file.size()}, page,
-          {test::InstalledFonts()}, *surface, report);
+  const auto metafile =
+      OpenMetafile({reinterpret_cast<const unsigned char*>(file.data()), file.size()});
+  PlayMetafile(metafile.value(), page, {test::InstalledFonts()}, *surface, report);
   CGContextEndPage(surface.get());
   return trace + Lines(report);
 }
