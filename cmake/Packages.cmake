@@ -16,31 +16,32 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libkelvane${KELVANE_ABI})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "fonts-liberation, libtiff6")  # the latter is loaded, not linked
-set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows Enhanced Metafiles into PDF
-A call turns a metafile (EMF), in memory or in a file, into a PDF of one page,
-and can report what that lacks. Lines stay vectors, and text stays text that
-can be searched and copied. Input is not trusted: whatever it is, there is a
-document or an error.
+set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows metafiles into PDF
+A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
+page, and can report what that lacks. Lines stay vectors, and text stays text
+that can be searched and copied. Input is not trusted: whatever it is, there is
+a document or an error.
 
 This package contains the shared library.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libkelvane-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Windows Enhanced Metafiles to PDF - development files
-A call turns a metafile (EMF), in memory or in a file, into a PDF of one page.
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Windows metafiles to PDF - development files
+A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
+page.
 
 This package contains the header, which is C, and what pkg-config and CMake
 need to build programs that use the library.")
 
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_NAME kelvane)
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_SECTION graphics)
-set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows Enhanced Metafiles into one-page PDFs
-The tool kelvane makes pages that look as Windows shows a metafile (EMF), of
-many files at once, and reports what it left out: so far text, bitmaps and
-gradients. The tool kelvaneConverter draws text and bitmaps, too, but
-simplifies lines and shapes. Lines stay vectors, and text stays text that can
-be searched and copied. Both are made for build pipelines, TeX and document
-servers, and for files nobody vouches for.")
+set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows metafiles into one-page PDFs
+The tool kelvane makes pages that look as Windows shows a metafile (EMF, EMF+,
+WMF), of many files at once, and reports what it left out. The tool
+kelvaneConverter draws text and bitmaps, too, but simplifies lines and shapes.
+Lines stay vectors, and text stays text that can be searched and copied. Both
+are made for build pipelines, TeX and document servers, and for files nobody
+vouches for.")
 
 set(CPACK_KELVANE_ABI ${KELVANE_ABI})
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/../packaging/finish_staging.cmake)
