@@ -129,7 +129,7 @@ TEST_F(ConverterOnASmallDisk, WritesADocumentThatFits) {
 
 // Where there is no way to name a file that has none, it has a name from the start.
 TEST_F(ConverterOnASmallDisk, WritesUnderATemporaryNameWhereItMust) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KELVANE_SANITIZED
   GTEST_SKIP() << "the address sanitizer does not run without /proc";
 #endif
   const std::string withoutProcesses = "mount -t tmpfs none /proc && ";

@@ -180,7 +180,7 @@ TEST(CFDataCreateMutable, MakesAnEmptyObject) {
 }
 
 TEST(CFDataCreateMutable, ReturnsNullWhenThereIsNoSuchMemory) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KELVANE_SANITIZED
   GTEST_SKIP() << "the address sanitizer ends a program that asks for so much";
 #endif
   EXPECT_EQ(CFDataCreateMutable(nullptr, std::numeric_limits<CFIndex>::max()), nullptr);

@@ -35,7 +35,9 @@ Names ExportedByTheLibrary() {
       Run({"nm", "-D", "--defined-only", "--format=posix", LibraryPath()}).output);
   Names names;
   for (std::string line; std::getline(lines, line);) {
-    const bool belongsToTheCompiler = KELVANE_INSTRUMENTED && line.rfind("__", 0) == 0;
+    // What a sanitizer adds, types of functions among it.
+    const bool belongsToTheCompiler =
+        KELVANE_INSTRUMENTED && (line.starts_with("__") || line.starts_with("_ZT"));
     if (!belongsToTheCompiler) names.insert(line.substr(0, line.find(' ')));
   }
   return names;

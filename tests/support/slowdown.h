@@ -6,7 +6,7 @@ namespace kelvane::test {
 
 /// How much longer a program may take that an instrumented build watches at every access. What is
 /// promised in seconds holds for the plain one.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KELVANE_SANITIZED
 inline constexpr int kSlowdown = 5;
 #else
 inline constexpr int kSlowdown = 1;

@@ -12,7 +12,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // Types that the builder has no verb for.
-constexpr std::uint32_t kEmrSmallTextOut = 108;
 constexpr std::uint32_t kEmrExtFloodFill = 53;
 constexpr std::uint32_t kUnknownType = 200;
 
