@@ -45,6 +45,10 @@ DeflatedBytes Deflater::Deflate(std::span<const unsigned char> data) {
   return smaller.size != 0 ? std::move(smaller) : std::move(quick);
 }
 
+DeflatedBytes Deflater::DeflateQuickly(std::span<const unsigned char> data) {
+  return DeflateAt(kQuick, data, RoomAt(kQuick, data.size()));
+}
+
 libdeflate_compressor* Deflater::CompressorAt(int level) {
   auto& compressor = compressors_[static_cast<std::size_t>(level)];
   if (!compressor) compressor.reset(libdeflate_alloc_compressor(level));

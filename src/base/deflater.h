@@ -43,6 +43,9 @@ class Deflater {
   /// @return `data` as a zlib stream. Throws std::bad_alloc.
   [[nodiscard]] DeflatedBytes Deflate(std::span<const unsigned char> data);
 
+  /// The same with little effort, for what is known to shrink to next to nothing anyhow.
+  [[nodiscard]] DeflatedBytes DeflateQuickly(std::span<const unsigned char> data);
+
  private:
   struct CompressorDeleter {
     void operator()(libdeflate_compressor* compressor) const;

@@ -89,5 +89,11 @@ TEST(Deflater, IsNotThoroughWithMoreThanIsWorthWaitingFor) {
   EXPECT_EQ(deflater.Deflate(Bytes(text)).size, SizeAt(Deflater::kFair, text));
 }
 
+TEST(Deflater, TakesTheQuickWayWhereItIsAskedTo) {
+  const std::string text(100'000, 'a');
+  Deflater deflater;
+  EXPECT_EQ(deflater.DeflateQuickly(Bytes(text)).size, SizeAt(Deflater::kQuick, text));
+}
+
 }  // namespace
 }  // namespace kelvane
