@@ -4,7 +4,7 @@
 
 #include <hb-ot.h>
 
-#include "platform/fonts/harfbuzz_owned.h"
+#include "platform/quartz/harfbuzz_owned.h"
 
 namespace kelvane {
 namespace {

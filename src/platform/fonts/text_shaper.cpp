@@ -8,7 +8,7 @@
 #include <hb.h>
 
 #include "base/unicode.h"
-#include "platform/fonts/harfbuzz_owned.h"
+#include "platform/quartz/harfbuzz_owned.h"
 
 namespace kelvane {
 namespace {

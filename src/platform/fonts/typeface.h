@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/fonts/harfbuzz_owned.h"
 #include "platform/quartz/cg_font.h"
+#include "platform/quartz/harfbuzz_owned.h"
 
 namespace kelvane {
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <hb-subset.h>
 #include <hb.h>
 
 namespace kelvane {
@@ -12,6 +13,8 @@ struct HarfBuzzDestroyer {
   void operator()(hb_font_t* font) const { hb_font_destroy(font); }
   void operator()(hb_font_funcs_t* functions) const { hb_font_funcs_destroy(functions); }
   void operator()(hb_buffer_t* buffer) const { hb_buffer_destroy(buffer); }
+  void operator()(hb_subset_input_t* input) const { hb_subset_input_destroy(input); }
+  void operator()(hb_subset_plan_t* plan) const { hb_subset_plan_destroy(plan); }
 };
 
 /// An object of HarfBuzz, owned.
