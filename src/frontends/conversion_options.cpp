@@ -97,8 +97,10 @@ std::string Refusal(const ConversionOption& option, std::string_view value,
 
 // Readers of PDF show pages of up to 14400 points a side, 200 inches.
 constexpr ConversionOption kOptions[] = {
-    {"format", "pdf", "pdf", "what to make of the picture; svg and png are not there yet",
-     "svg|png", [](ConversionOptions& options, std::string_view) { options.format = "pdf"; }},
+    {"format", "pdf|svg", "pdf", "what to make of the picture; png is not there yet", "png",
+     [](ConversionOptions& options, std::string_view value) {
+       options.format = value == "svg" ? "svg" : "pdf";
+     }},
     {"page", "frame|bounds", "frame",
      "what becomes the page: the picture's frame, or its bounds, a point a device unit", "",
      [](ConversionOptions& options, std::string_view value) {
@@ -129,6 +131,11 @@ constexpr ConversionOption kOptions[] = {
     {"outline-text", "no|yes", "no", "draws text as shapes, which cannot be searched or copied", "",
      [](ConversionOptions& options, std::string_view value) {
        options.outlinesText = value == "yes";
+     }},
+    {"no-embed-fonts", "no|yes", "no",
+     "leaves fonts out of an SVG, whose text others then show in what is installed there", "",
+     [](ConversionOptions& options, std::string_view value) {
+       options.embedsFonts = value == "no";
      }},
     {"emfplus", "auto|always|never", "auto",
      "whether EMF+ makes the picture of a file that has it; auto: when all of it can be played", "",

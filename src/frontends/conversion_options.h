@@ -19,6 +19,7 @@ struct ConversionOptions {
   std::vector<std::string> fontDirectories;  // absolute paths, looked into before installed fonts
   FontMap fontMap;
   bool outlinesText = false;  // whether text becomes shapes
+  bool embedsFonts = true;    // whether an SVG carries the faces of its text
   EmfPlusChoice emfPlus = EmfPlusChoice::kAuto;
   bool strict = false;  // whether a document that lacks something counts as a failure
 };

@@ -51,6 +51,7 @@ void AddSpooled(const SpoolRecord& record, PictureDocument& document, Report& re
   }
   if (SpoolRecordName(record.type).empty()) return report.LeftOut(id, "it is of an unknown kind");
   if (!IsSpoolPage(record.type)) return;
+  if (document.IsFull()) return report.LeftOut(id, "a picture of this format has one page");
   const auto metafile = OpenMetafile(record.data);
   if (!metafile) return report.Damaged(id, "its page is no metafile");
   document.AddPage(*metafile);

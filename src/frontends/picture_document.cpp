@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/pdf/cg_pdf_context.h"
+#include "frontends/picture_surface.h"
 #include "platform/quartz/cg_context_calls.h"
 #include "players/picture/metafile_player.h"
 
@@ -64,12 +64,12 @@ PictureDocument::PictureDocument(const ConversionOptions& options, const PlaySet
       consumer_(CGDataConsumerCreateWithCFData(bytes_.get())) {}
 
 void PictureDocument::Begin(const Metafile& first, const CGRect& page) {
-  CFDictionary information;
-  const EmfHeader* header = first.Enhanced();
-  if (title_.empty() && header != nullptr) title_ = Text(header->title);
-  information.texts[kCGPDFContextTitle] = title_;
-  if (header != nullptr) information.texts[kCGPDFContextCreator] = Text(header->creator);
-  surface_.reset(CGPDFContextCreate(consumer_.get(), &page, &information));
+  PictureWords words = {title_, {}};
+  if (const EmfHeader* header = first.Enhanced()) {
+    if (words.title.empty()) words.title = Text(header->title);
+    words.creator = Text(header->creator);
+  }
+  surface_ = SurfaceFor(options_, page, words, consumer_.get());
   if (!surface_) throw std::runtime_error("the page has no area");
   firstPage_ = page.size;
 }
@@ -84,8 +84,12 @@ void PictureDocument::AddPage(const Metafile& metafile) {
   ++pages_;
 }
 
+bool PictureDocument::IsFull() const {
+  return pages_ > 0 && !HasPages(options_.format);
+}
+
 CFOwned<CFData> PictureDocument::Finish() {
-  CGPDFContextClose(surface_.get());
+  surface_->Close();
   return std::move(bytes_);
 }
 

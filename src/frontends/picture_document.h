@@ -21,8 +21,12 @@ class PictureDocument {
   PictureDocument(const ConversionOptions& options, const PlaySetting& setting,
                   std::u16string title, Report& report);
 
-  /// Plays a metafile onto the next page. Throws when that cannot be made.
+  /// Plays a metafile onto the next page; there must be a place for it. Throws when that cannot be
+  /// made.
   void AddPage(const Metafile& metafile);
+
+  /// @return whether there is no place for another page.
+  [[nodiscard]] bool IsFull() const;
 
   /// Ends the document, which has a page. @return its bytes.
   CFOwned<CFData> Finish();

@@ -112,6 +112,19 @@ TEST(APrintJob, LacksAPageThatIsNoMetafile) {
   EXPECT_EQ(records[0].why, "its page is no metafile");
 }
 
+TEST(APrintJob, LeavesAllButItsFirstPageOutOfAnSvg) {
+  ConversionOptions options;
+  options.format = "svg";
+  const File job = PrintJob().Page(OfWidth(100)).Page(OfWidth(200)).Page(OfWidth(300)).Build();
+  const PictureConversion conversion = ConvertPicture(job, options);
+  EXPECT_EQ(conversion.pages, 1U);
+  const auto records = conversion.report.Records();
+  ASSERT_EQ(records.size(), 1U);
+  EXPECT_EQ(records[0].count, 2U);
+  EXPECT_EQ(records[0].why, "a picture of this format has one page");
+  EXPECT_FALSE(conversion.report.IsWhole());
+}
+
 TEST(APrintJob, WithoutAPageIsRefused) {
   EXPECT_EQ(DocumentOf(PrintJob().Record(3, {}).Build()), "it is a print job without a page");
 }

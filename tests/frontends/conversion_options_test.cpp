@@ -128,9 +128,8 @@ TEST(ConversionOptions, AreRefusedInWordsThatNameOptionValueAndWhatIsAllowed) {
 }
 
 TEST(ConversionOptions, SayOfAFormatThatIsToComeThatItIsNotThereYet) {
-  EXPECT_EQ(RefusalOf("format", "svg"), "format cannot be 'svg' yet: it is pdf");
-  EXPECT_EQ(RefusalOf("format", "png"), "format cannot be 'png' yet: it is pdf");
-  EXPECT_EQ(RefusalOf("format", "ps"), "format cannot be 'ps': it is pdf");
+  EXPECT_EQ(RefusalOf("format", "png"), "format cannot be 'png' yet: it is pdf or svg");
+  EXPECT_EQ(RefusalOf("format", "ps"), "format cannot be 'ps': it is pdf or svg");
 }
 
 TEST(ConversionOptions, SayWhichThereAreWhenOneIsUnknown) {

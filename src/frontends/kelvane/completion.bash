@@ -11,7 +11,7 @@ _kelvane() {
   COMPREPLY=()
   case $option in
     -f | --format)
-      mapfile -t COMPREPLY < <(compgen -W 'pdf' -- "$current")
+      mapfile -t COMPREPLY < <(compgen -W 'pdf svg' -- "$current")
       return ;;
     --page)
       mapfile -t COMPREPLY < <(compgen -W 'frame bounds' -- "$current")

@@ -88,6 +88,16 @@ TEST_F(KelvaneCommandLine, TakesAFormatThatIsThere) {
   EXPECT_EQ(Names(), (Words{"a.emf", "a.pdf"}));
 }
 
+TEST_F(KelvaneCommandLine, TakesTheFormatFromTheNameOfTheOutput) {
+  EXPECT_EQ(Run({"-o", "figure.svg", "a.emf"}).status, 0);
+  EXPECT_EQ(Read("figure.svg").substr(0, 5), "<?xml");
+}
+
+TEST_F(KelvaneCommandLine, NamesDocumentsForTheirFormat) {
+  EXPECT_EQ(Run({"-f", "svg", "--no-embed-fonts", "a.emf"}).status, 0);
+  EXPECT_EQ(Names(), (Words{"a.emf", "a.svg"}));
+}
+
 TEST_F(KelvaneCommandLine, PutsTheFormatThatIsAskedForBeforeTheNames) {
   EXPECT_EQ(Run({"-f", "pdf", "-o", "a.svg", "a.emf"}).status, 0);
   EXPECT_EQ(Read("a.svg").substr(0, 5), "%PDF-");
@@ -140,11 +150,11 @@ INSTANTIATE_TEST_SUITE_P(
                 {"--font-map", "a.emf", "a.emf"},
                 "kelvane: font-map cannot be 'a.emf': line 1 is not UTF-8"},
         Refusal{"FormatToCome",
-                {"-f", "svg", "a.emf"},
-                "kelvane: format cannot be 'svg' yet: it is pdf"},
+                {"-f", "png", "a.emf"},
+                "kelvane: format cannot be 'png' yet: it is pdf or svg"},
         Refusal{"FormatToComeByName",
                 {"-o", "a.png", "a.emf"},
-                "kelvane: format cannot be 'png' yet: it is pdf"},
+                "kelvane: format cannot be 'png' yet: it is pdf or svg"},
         Refusal{"NoJobs", {"-j", "0", "a.emf"}, "kelvane: --jobs: Value 0 not in range 1 to 256"},
         Refusal{"OneOutputOfTwo",
                 {"-o", "x.pdf", "a.emf", "b.emf"},

@@ -1,0 +1,213 @@
+#include "platform/svg/svg_image.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/base64.h"
+#include "platform/svg/svg_color.h"
+#include "platform/svg/svg_number.h"
+
+namespace kelvane {
+namespace {
+
+using Bytes = std::span<const unsigned char>;
+
+constexpr CGColor kWhite = {1, 1, 1, 1};
+constexpr CGColor kBlack = {0, 0, 0, 1};
+
+/// The rows of an image without padding: where they are, or a copy.
+class Rows {
+ public:
+  /// Throws as the provider does.
+  explicit Rows(const CGImage& image) : provided_(image.provider->Provide()) {
+    const std::size_t rowSize = image.RowSize();
+    if (image.bytesPerRow == rowSize && provided_.View().size() / rowSize >= image.height) {
+      rows_ = provided_.View().first(rowSize * image.height);
+    } else if ((packed_ = PackRows(provided_.View(), rowSize, image.height, image.bytesPerRow))) {
+      rows_ = *packed_;
+    }
+  }
+
+  /// @return none when there are too few.
+  [[nodiscard]] Bytes View() const { return rows_; }
+
+ private:
+  CGProvidedBytes provided_;
+  std::optional<std::vector<unsigned char>> packed_;
+  Bytes rows_;
+};
+
+bool IsPixels(const CGImage& image) {
+  return image.encoding == CGImage::Encoding::kPixels;
+}
+
+/// Appends the colour of a pixel.
+void AppendColor(std::vector<unsigned char>& to, const CGImage& image, Bytes row, std::size_t x) {
+  if (image.indexed != nullptr) {
+    constexpr std::array<unsigned char, 3> kNone = {};
+    const auto& table = image.indexed->table;
+    const std::size_t at = std::size_t{PackedNumber(row, x, image.bitsPerComponent)} * 3;
+    const auto* const color = at < table.size() ? table.data() + at : kNone.data();
+    to.insert(to.end(), color, color + 3);
+  } else if (image.components == 1) {
+    to.insert(to.end(), 3, row[x]);
+  } else {
+    to.insert(to.end(), row.begin() + static_cast<std::ptrdiff_t>(x * 3),
+              row.begin() + static_cast<std::ptrdiff_t>(x * 3 + 3));
+  }
+}
+
+/// @return how much of a pixel is seen.
+unsigned char AlphaIn(const CGImage& mask, Bytes row, std::size_t x) {
+  if (!mask.isMask) return row[x];
+  return PackedNumber(row, x, 1) == 0 ? 255 : 0;
+}
+
+/// An image and its mask, which is as large, in one.
+std::vector<unsigned char> MaskedPixels(const CGImage& image, Bytes rows, Bytes maskRows) {
+  const CGImage& mask = *image.mask;
+  std::vector<unsigned char> pixels;
+  pixels.reserve(image.width * image.height * 4);
+  for (std::size_t y = 0; y < image.height; ++y) {
+    const Bytes row = rows.subspan(y * image.RowSize(), image.RowSize());
+    const Bytes maskRow = maskRows.subspan(y * mask.RowSize(), mask.RowSize());
+    for (std::size_t x = 0; x < image.width; ++x) {
+      AppendColor(pixels, image, row, x);
+      pixels.push_back(AlphaIn(mask, maskRow, x));
+    }
+  }
+  return pixels;
+}
+
+/// The table of an image of numbers, with a colour for each that it has.
+std::vector<unsigned char> ColorsOf(const CGImage& image, Bytes rows) {
+  const std::size_t bits = image.bitsPerComponent;
+  const std::size_t most = std::size_t{1} << bits;
+  const std::size_t used = bits == 8 ? std::size_t{*std::ranges::max_element(rows)} + 1 : most;
+  std::vector<unsigned char> colors = image.indexed->table;
+  colors.resize(std::clamp(colors.size() / 3, used, most) * 3);
+  return colors;
+}
+
+std::uint64_t NumberOf(const CGColor& color) {
+  return std::uint64_t{SvgByte(color.red)} << 24 | std::uint64_t{SvgByte(color.green)} << 16 |
+         std::uint64_t{SvgByte(color.blue)} << 8 | SvgByte(color.alpha);
+}
+
+void AppendColor(std::vector<unsigned char>& colors, const CGColor& color) {
+  colors.insert(colors.end(), {SvgByte(color.red), SvgByte(color.green), SvgByte(color.blue)});
+}
+
+std::string Extent(const CGImage& image) {
+  std::string text;
+  AppendSvgAttribute(text, "width", static_cast<double>(image.width));
+  AppendSvgAttribute(text, "height", static_cast<double>(image.height));
+  return text;
+}
+
+/// ` xlink:href="#name"`, with what brings an image to the size of another.
+std::string Use(const std::string& name, const CGImage& image, const CGImage& size) {
+  std::string text = " xlink:href=\"#" + name + "\"";
+  AppendSvgTransform(
+      text, "transform",
+      {static_cast<CGFloat>(size.width) / static_cast<CGFloat>(image.width), 0, 0,
+       static_cast<CGFloat>(size.height) / static_cast<CGFloat>(image.height), 0, 0});
+  return text;
+}
+
+}  // namespace
+
+const std::string& SvgImages::Add(const CGImage& image, const CGColor& paint, bool isSharp) {
+  CGColor bare = paint;
+  bare.alpha = 0;
+  return StoreOnce(image, image.isMask ? Look{paint, bare, isSharp} : Look{{}, {}, isSharp});
+}
+
+const std::string& SvgImages::AddLightness(const CGImage& image, bool isSharp) {
+  return StoreOnce(image, image.isMask ? Look{kWhite, kBlack, isSharp} : Look{{}, {}, isSharp});
+}
+
+const std::string& SvgImages::StoreOnce(const CGImage& image, const Look& look) {
+  const Key key = {image.serial, NumberOf(look.painted) << 32 | NumberOf(look.bare), look.isSharp};
+  const auto known = stored_.find(key);
+  if (known != stored_.end()) return known->second;
+  return stored_.emplace(key, Store(image, look)).first->second;
+}
+
+std::string SvgImages::Store(const CGImage& image, const Look& look) {
+  return image.mask != nullptr ? StoreMasked(image, look) : StoreBare(image, look);
+}
+
+std::string SvgImages::StoreBare(const CGImage& image, const Look& look) {
+  if (!IsPixels(image)) {
+    const CGProvidedBytes file = image.provider->Provide();
+    const Bytes bytes = file.View();
+    return Define(image, "jpeg", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+  }
+  const Rows rows(image);
+  return StorePixels(image, rows.View(), look);
+}
+
+std::string SvgImages::StorePixels(const CGImage& image, Bytes rows, const Look& look) {
+  if (rows.empty()) return {};
+  PngPicture picture = {.width = image.width,
+                        .height = image.height,
+                        .bits = static_cast<unsigned>(image.bitsPerComponent),
+                        .rows = rows};
+  if (image.isMask) {
+    picture.color = PngColor::kIndexed;
+    AppendColor(picture.colors, look.painted);
+    AppendColor(picture.colors, look.bare);
+    if (look.bare.alpha != 1) picture.alphas = {255, SvgByte(look.bare.alpha)};
+  } else if (image.indexed != nullptr) {
+    picture.color = PngColor::kIndexed;
+    picture.colors = ColorsOf(image, rows);
+  } else {
+    picture.color = image.components == 1 ? PngColor::kGrey : PngColor::kRgb;
+  }
+  return DefinePicture(image, picture, look.isSharp);
+}
+
+std::string SvgImages::DefinePicture(const CGImage& image, PngPicture picture, bool isSharp) {
+  std::vector<unsigned char> larger;
+  if (isSharp) enlarging_.Enlarge(picture, larger);
+  return Define(image, "png", PngFile(picture, deflater_));
+}
+
+// A mask of the same size goes into the file. Another one, and that of a JPEG file, stays apart.
+std::string SvgImages::StoreMasked(const CGImage& image, const Look& look) {
+  const CGImage& mask = *image.mask;
+  if (IsPixels(image) && mask.width == image.width && mask.height == image.height) {
+    const Rows rows(image);
+    const Rows maskRows(mask);
+    if (rows.View().empty() || maskRows.View().empty()) return {};
+    const auto pixels = MaskedPixels(image, rows.View(), maskRows.View());
+    return DefinePicture(image, {image.width, image.height, PngColor::kRgba, 8, pixels},
+                         look.isSharp);
+  }
+  const std::string name = StoreBare(image, look);
+  const std::string lightness = AddLightness(mask, look.isSharp);
+  if (name.empty() || lightness.empty()) return {};
+  const std::string reference = definitions_.Reference(
+      "mask", " maskUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\"" + Extent(image) + "><use" +
+                  Use(lightness, mask, image) + "/></mask>");
+  return std::string(
+      definitions_.Add("use", Use(name, image, image) + " mask=\"" + reference + "\"/>"));
+}
+
+std::string SvgImages::Define(const CGImage& image, std::string_view type, std::string_view file) {
+  if (file.empty()) return {};
+  std::string rest = Extent(image);
+  // Pixels lie as they are stored, whatever a camera noted beside them.
+  if (type == "jpeg") rest += " style=\"image-orientation:none\"";
+  rest.append(" xlink:href=\"data:image/").append(type).append(";base64,");
+  AppendBase64(rest, {reinterpret_cast<const unsigned char*>(file.data()), file.size()});
+  rest += "\"/>";
+  return std::string(definitions_.Add("image", std::move(rest)));
+}
+
+}  // namespace kelvane

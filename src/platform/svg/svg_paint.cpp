@@ -1,0 +1,146 @@
+#include "platform/svg/svg_paint.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <variant>
+
+#include "platform/svg/svg_color.h"
+#include "platform/svg/svg_gradient.h"
+#include "platform/svg/svg_mesh.h"
+#include "platform/svg/svg_path.h"
+
+namespace kelvane {
+namespace {
+
+constexpr const char* kCrisp = " shape-rendering=\"crispEdges\"";  // edges that meet leave no seam
+
+/// How many images a cell of the document holds, next to each other and above each other.
+int Columns(const CGPattern& pattern) {
+  return pattern.mirrorsX ? 2 : 1;
+}
+int Rows(const CGPattern& pattern) {
+  return pattern.mirrorsY ? 2 : 1;
+}
+
+CGSize CellSize(const CGPattern& pattern) {
+  return {pattern.cell.width * static_cast<CGFloat>(Columns(pattern)),
+          pattern.cell.height * static_cast<CGFloat>(Rows(pattern))};
+}
+
+/// Where the image of a column or row lies along one axis: scale and shift. The first is at the
+/// left or at the bottom, which is where y ends; its neighbour is mirrored.
+std::pair<CGFloat, CGFloat> ColumnAt(int column, CGFloat width) {
+  return column == 0 ? std::pair(width, 0.0F) : std::pair(-width, 2 * width);
+}
+std::pair<CGFloat, CGFloat> RowAt(int row, int rows, CGFloat height) {
+  return row == 0 ? std::pair(height, static_cast<CGFloat>(rows - 1) * height)
+                  : std::pair(-height, height);
+}
+
+double ScaleOf(const CGAffineTransform& transform) {
+  return std::sqrt(std::abs(Determinant(transform)));
+}
+
+}  // namespace
+
+bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double scale) {
+  constexpr double kEnlarged = 0.6;  // points a pixel: about as many as a screen shows
+  return !image.interpolate && ScaleOf(toPage) * scale >= kEnlarged;
+}
+
+std::string SvgPaints::ImageElement(const CGImage& image, const CGColor& color,
+                                    const CGAffineTransform& toPage, double scale) {
+  const bool isSharp = SvgIsSharp(image, toPage, scale);
+  const std::string& name = images_.Add(image, color, isSharp);
+  if (name.empty()) return {};
+  std::string element = "<use xlink:href=\"#" + name + "\"";
+  AppendSvgTransform(element, "transform", toPage);
+  if (isSharp) element += " style=\"image-rendering:pixelated\"";
+  return element;
+}
+
+std::string SvgPaints::PaintOf(const CGColor& color, const CGSharedPattern& pattern,
+                               const CGAffineTransform& transform) {
+  if (pattern == nullptr) return SvgColor(color);
+  if (transform != CGAffineTransformIdentity) return PatternPaint(*pattern, transform);
+  const auto [paint, isNew] = plain_.try_emplace(pattern);
+  if (isNew) paint->second = PatternPaint(*pattern, transform);
+  return paint->second;
+}
+
+std::string SvgPaints::PatternPaint(const CGPattern& pattern, const CGAffineTransform& transform) {
+  const CGAffineTransform toElement = CGAffineTransformInvert(transform);
+  const CGAffineTransform matrix =
+      CGAffineTransformConcat(CGAffineTransformConcat(pattern.matrix, page_.fromPage), toElement);
+  if (!pattern.shading) return TilingPaint(pattern, matrix);
+  if (const auto* axial = std::get_if<CGAxialShading>(&*pattern.shading)) {
+    return SvgGradient(*axial, matrix, definitions_);
+  }
+  std::string text = " patternUnits=\"userSpaceOnUse\"";
+  AppendSvgAttribute(text, "width", page_.size.width);
+  AppendSvgAttribute(text, "height", page_.size.height);
+  AppendSvgTransform(text, "patternTransform", toElement);
+  text.append(kCrisp).append(">");
+  text +=
+      SvgMesh(std::get<CGTriangleMesh>(*pattern.shading),
+              CGAffineTransformConcat(pattern.matrix, page_.fromPage), page_.grid, definitions_);
+  text += "</pattern>";
+  return definitions_.Reference("pattern", std::move(text));
+}
+
+/// @param matrix  from pattern space.
+std::string SvgPaints::TilingPaint(const CGPattern& pattern, const CGAffineTransform& matrix) {
+  const CGSize cell = CellSize(pattern);
+  std::string text = " patternUnits=\"userSpaceOnUse\"";
+  AppendSvgAttribute(text, "width", cell.width + pattern.gap.width);
+  AppendSvgAttribute(text, "height", cell.height + pattern.gap.height);
+  AppendSvgTransform(text, "patternTransform",
+                     CGAffineTransformConcat({1, 0, 0, -1, 0, cell.height}, matrix));
+  text += '>';
+  text += CellOf(pattern, ScaleOf(matrix));
+  text += "</pattern>";
+  return definitions_.Reference("pattern", std::move(text));
+}
+
+/// What is drawn in a cell, y downwards. What lies beyond it would show in a gap.
+std::string SvgPaints::CellOf(const CGPattern& pattern, double scale) {
+  const CGSize cell = CellSize(pattern);
+  const SvgGrid grid(std::max(cell.width, cell.height));
+  std::string text;
+  for (int row = 0; pattern.image != nullptr && row < Rows(pattern); ++row) {
+    for (int column = 0; column < Columns(pattern); ++column) {
+      const auto [width, left] = ColumnAt(column, pattern.cell.width);
+      const auto [height, top] = RowAt(row, Rows(pattern), pattern.cell.height);
+      const auto pixelsAcross = static_cast<CGFloat>(pattern.image->width);
+      const auto pixelsDown = static_cast<CGFloat>(pattern.image->height);
+      const std::string image = ImageElement(
+          *pattern.image, {}, {width / pixelsAcross, 0, 0, height / pixelsDown, left, top}, scale);
+      if (!image.empty()) text += image + "/>";
+    }
+  }
+  for (const CGPatternShape& shape : pattern.shapes) {
+    text += "<path fill=\"" + SvgColor(shape.color) + "\"";
+    if (shape.color.alpha != 1) AppendSvgAttribute(text, "fill-opacity", shape.color.alpha);
+    text += " d=\"" + SvgPathData(shape.path, {1, 0, 0, -1, 0, cell.height}, grid) + "\"/>";
+  }
+  if (pattern.gap == CGSize{} || pattern.shapes.empty()) return text;
+  CGPath edge;
+  edge.AddRectangle({0, 0}, cell);
+  const std::string clip = definitions_.Reference(
+      "clipPath", "><path d=\"" + SvgPathData(edge, {}, grid) + "\"/></clipPath>");
+  return "<g clip-path=\"" + clip + "\">" + text + "</g>";
+}
+
+std::string SvgPaints::ShadingOverPage(const CGShading& shading) {
+  if (const auto* mesh = std::get_if<CGTriangleMesh>(&shading)) {
+    return SvgMesh(*mesh, page_.fromPage, page_.grid, definitions_);
+  }
+  std::string element = "<rect";
+  AppendSvgAttribute(element, "width", page_.size.width);
+  AppendSvgAttribute(element, "height", page_.size.height);
+  return element + " fill=\"" +
+         SvgGradient(std::get<CGAxialShading>(shading), page_.fromPage, definitions_) + "\"/>";
+}
+
+}  // namespace kelvane
