@@ -16,6 +16,7 @@ from multiprocessing import Pool
 from pathlib import Path
 
 import floors
+import numpy as np
 import pictures
 import subjects
 from measures import Picture, Score, compare
@@ -43,6 +44,7 @@ class Judge:
 
     tool: Path
     ending: str
+    renderer: str
     folder: Path
 
     def output_of(self, subject: Subject) -> Path:
@@ -57,11 +59,13 @@ class Judge:
             return Verdict(subject, NOTHING, None, str(failure))
         return max(verdicts, key=lambda verdict: verdict.score.overall)
 
-    @staticmethod
-    def score(output: Path, truth: Path) -> Score:
+    def score(self, output: Path, truth: Path) -> Score:
         right = pictures.read_truth(truth)
+        return compare(Picture(right), Picture(self.pixels_like(right, output)))
+
+    def pixels_like(self, right: np.ndarray, output: Path) -> np.ndarray:
         height, width, _ = right.shape
-        return compare(Picture(right), Picture(pictures.pixels_of(output, width, height)))
+        return pictures.pixels_of(output, width, height, self.renderer)
 
     def write_worst(self, verdicts: Iterable[Verdict], folder: Path) -> None:
         """Truth and result side by side, numbered from the worst."""
@@ -71,7 +75,7 @@ class Judge:
         shown = [verdict for verdict in verdicts if verdict.truth is not None][:WORST]
         for place, verdict in enumerate(shown, start=1):
             right = pictures.read_truth(verdict.truth)
-            picture = pictures.pixels_of(self.output_of(verdict.subject), right.shape[1], right.shape[0])
+            picture = self.pixels_like(right, self.output_of(verdict.subject))
             pictures.write_side_by_side(folder / f"{place:02}-{verdict.subject.name}.png", right, picture)
 
 
@@ -100,7 +104,8 @@ def print_summary(verdicts: list[Verdict]) -> None:
 def arguments() -> argparse.Namespace:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--tool", type=Path, required=True, help="the converter")
-    parser.add_argument("--format", default="pdf", help="what it is to write")
+    parser.add_argument("--format", default="pdf", choices=pictures.RENDERERS_OF, help="what it is to write")
+    parser.add_argument("--renderer", choices=pictures.RENDERERS, help="what makes pixels of it, of those that can")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), metavar="N", help="so many at once")
     parser.add_argument("--worst", type=Path, metavar="DIR", help=f"write the {WORST} worst beside their truths")
     judged = parser.add_mutually_exclusive_group()
@@ -130,7 +135,8 @@ def main() -> int:
     options = arguments()
     known = floors.read(options.floors) if options.floors is not None else {}
     with tempfile.TemporaryDirectory() as folder, Pool(options.jobs) as pool:
-        judge = Judge(options.tool.resolve(), options.format, Path(folder))
+        renderer = options.renderer or pictures.RENDERERS_OF[options.format][0]
+        judge = Judge(options.tool.resolve(), options.format, renderer, Path(folder))
         verdicts = pool.map(judge.verdict, chosen(options, known), chunksize=1)
         verdicts.sort(key=lambda verdict: verdict.score.overall)
         if options.worst is not None:

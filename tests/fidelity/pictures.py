@@ -11,6 +11,7 @@ from PIL import Image
 FONTS = Path(__file__).with_name("fonts.conf")
 SECONDS = 60  # more than a conversion or its pixels may take
 GAP = 8  # pixels between two pictures
+SMALLEST_WINDOW = 600  # pixels, of a browser
 
 
 class Failure(Exception):
@@ -29,25 +30,52 @@ def convert(tool: Path, metafile: Path, page: str, output: Path) -> None:
         raise Failure(f"exit status {done.returncode}")
 
 
-def pixels_of(document: Path, width: int, height: int) -> np.ndarray:
-    """The document as RGB of exactly this size, over white."""
+def pixels_of(document: Path, width: int, height: int, renderer: str) -> np.ndarray:
+    """The document as RGB of exactly this size, over white. A PNG needs no renderer."""
     with tempfile.TemporaryDirectory() as folder:
-        if document.suffix == ".pdf":
-            document = rasterise(document, width, height, Path(folder))
+        page = document
+        if document.suffix != ".png":
+            page = Path(folder) / "page.png"
+            run(RENDERERS[renderer](document, width, height, page))
         try:
-            return fitted(Image.open(document), width, height)
+            image = Image.open(page)
+            return fitted(image.crop((0, 0, width, height)) if renderer == "chromium" else image, width, height)
         except OSError:
             raise Failure("cannot be read") from None
 
 
-def rasterise(document: Path, width: int, height: int, folder: Path) -> Path:
-    size = ["-scale-to-x", str(width), "-scale-to-y", str(height)]
-    command = ["pdftoppm", "-png", "-singlefile", *size, document, folder / "page"]
+def with_poppler(document: Path, width: int, height: int, page: Path) -> list:
+    size = ["-scale-to-x", width, "-scale-to-y", height]
+    return ["pdftoppm", "-png", "-singlefile", *size, document, page.with_suffix("")]
+
+
+def with_librsvg(document: Path, width: int, height: int, page: Path) -> list:
+    return ["rsvg-convert", "--width", width, "--height", height, "--unlimited", document, "--output", page]
+
+
+def with_chromium(document: Path, width: int, height: int, page: Path) -> list:
+    """Shows the document as an image in the corner of a window, which is never small."""
+    shown = page.with_suffix(".html")
+    size = f"width={width} height={height}"
+    shown.write_text(f'<body style="margin:0"><img style="display:block" {size} src="{document.absolute().as_uri()}">')
+    window = f"--window-size={max(width, SMALLEST_WINDOW)},{max(height, SMALLEST_WINDOW)}"
+    own = ["--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--force-color-profile=srgb"]
+    profile = f"--user-data-dir={page.parent / 'browser'}"
+    return ["chromium", *own, profile, window, f"--screenshot={page}", shown.as_uri()]
+
+
+# The first one of a format is the one that is asked when none is named.
+RENDERERS = {"poppler": with_poppler, "librsvg": with_librsvg, "chromium": with_chromium}
+RENDERERS_OF = {"pdf": ["poppler"], "svg": ["librsvg", "chromium"], "png": [""]}
+
+
+def run(command: list) -> None:
+    environment = os.environ | {"FONTCONFIG_FILE": str(FONTS)}
+    words = [str(word) for word in command]
     try:
-        subprocess.run(command, capture_output=True, timeout=SECONDS, check=False)
+        subprocess.run(words, capture_output=True, timeout=SECONDS, env=environment, check=False)
     except subprocess.TimeoutExpired:
         raise Failure("its pixels take too long") from None
-    return folder / "page.png"
 
 
 def fitted(image: Image.Image, width: int, height: int) -> np.ndarray:
