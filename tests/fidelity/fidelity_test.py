@@ -115,7 +115,7 @@ class Scenes(unittest.TestCase):
             (folder / "scenes.json").write_text(json.dumps([scene]))
             (subject,) = subjects.scenes(folder)
             # A tool that says it did well.
-            verdict = fidelity.Judge(Path("/bin/true"), "pdf", folder).verdict(subject)
+            verdict = fidelity.Judge(Path("/bin/true"), "pdf", "poppler", folder).verdict(subject)
         self.assertEqual(verdict.trouble, "has no truth: pie.png")
         self.assertIsNone(verdict.truth)
 

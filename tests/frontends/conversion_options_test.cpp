@@ -135,7 +135,7 @@ TEST(ConversionOptions, SayOfAFormatThatIsToComeThatItIsNotThereYet) {
 TEST(ConversionOptions, SayWhichThereAreWhenOneIsUnknown) {
   EXPECT_EQ(RefusalOf("dpi", "200"),
             "there is no option 'dpi': there are format, page, width, height, scale, font-dir, "
-            "font-map, outline-text, emfplus and strict");
+            "font-map, outline-text, no-embed-fonts, emfplus and strict");
 }
 
 struct RefusedValue {

@@ -29,7 +29,8 @@ _kelvane() {
       case $current in
         -*)
           mapfile -t COMPREPLY < <(compgen -W '--output --directory --jobs --report --format --page
-            --width --height --scale --font-dir --font-map --outline-text --emfplus --strict --help --version' -- "$current")
+            --width --height --scale --font-dir --font-map --outline-text --no-embed-fonts --emfplus --strict --help
+            --version' -- "$current")
           return ;;
       esac
       mapfile -t COMPREPLY < <(

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/quartz/cg_clip_writer.h"
@@ -41,8 +42,8 @@ bool LeavesAll(const CGClip& clip, const CGRect& page) {
 /// The SVG back end. An element has all that it is painted with; clips are groups around elements.
 class CGSVGContext final : public CGContext, private CGClipOperators {
  public:
-  CGSVGContext(CGDataConsumerRef consumer, const CGSVGDescription& description)
-      : consumer_(CFShare(consumer)), description_(description), images_(definitions_) {}
+  CGSVGContext(CGDataConsumerRef consumer, CGSVGDescription description)
+      : consumer_(CFShare(consumer)), description_(std::move(description)), images_(definitions_) {}
 
   void Close() override {
     EndPage();

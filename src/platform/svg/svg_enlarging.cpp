@@ -8,7 +8,7 @@
 namespace kelvane {
 namespace {
 
-using Rows = std::vector<unsigned char>;
+using PixelBytes = std::vector<unsigned char>;
 
 constexpr std::size_t kMostPixels = std::size_t{1} << 16;  // of an enlarged picture
 
@@ -19,14 +19,15 @@ std::size_t FactorFor(const PngPicture& picture) {
   return factor < 2 ? 1 : static_cast<std::size_t>(factor);
 }
 
-void AppendRepeated(Rows& to, std::span<const unsigned char> pixel, std::size_t times) {
+void AppendRepeated(PixelBytes& to, std::span<const unsigned char> pixel, std::size_t times) {
   for (std::size_t i = 0; i < times; ++i)
     to.insert(to.end(), pixel.begin(), pixel.end());
 }
 
 /// A row with each pixel repeated, a number of less than a byte in one of its own.
-Rows WideRow(const PngPicture& picture, std::span<const unsigned char> row, std::size_t times) {
-  Rows wide;
+PixelBytes WideRow(const PngPicture& picture, std::span<const unsigned char> row,
+                   std::size_t times) {
+  PixelBytes wide;
   const std::size_t components = PngComponents(picture.color);
   wide.reserve(picture.width * components * times);
   for (std::size_t x = 0; x < picture.width; ++x) {
@@ -41,12 +42,12 @@ Rows WideRow(const PngPicture& picture, std::span<const unsigned char> row, std:
 
 }  // namespace
 
-void SvgEnlarging::Enlarge(PngPicture& picture, Rows& rows) {
+void SvgEnlarging::Enlarge(PngPicture& picture, PixelBytes& rows) {
   const std::size_t factor = FactorFor(picture);
   const std::size_t pixels = picture.width * picture.height * factor * factor;
   if (factor < 2 || pixels > left_) return;
   left_ -= pixels;
-  Rows larger;
+  PixelBytes larger;
   larger.reserve(pixels * PngComponents(picture.color));
   const std::size_t rowSize = PngRowSize(picture);
   for (std::size_t y = 0; y < picture.height; ++y)

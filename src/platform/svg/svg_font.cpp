@@ -58,15 +58,16 @@ bool HasOutlinesForBrowsers(const CGFontDescription& face) {
 }
 
 /// @return what of a face shows these characters, as a WOFF2 file; empty when it is too broken.
-std::string Carried(const CGFont& font, std::map<char32_t, CGGlyph> characters) {
+std::string Carried(const CGFont& font, const std::map<char32_t, CGGlyph>& characters) {
   CGFontSubsetWish wish = {.glyphs = {}, .keepsStyle = true};
   for (const auto& [character, glyph] : characters)
     wish.glyphs.insert(glyph);
   const auto subset = SubsetOf(font, wish);
   if (!subset) return {};
-  for (auto& [character, glyph] : characters)
-    glyph = subset->glyphs.at(glyph);
-  return Woff2File(subset->bytes, characters);
+  std::map<char32_t, CGGlyph> carried;
+  for (const auto& [character, glyph] : characters)
+    carried[character] = subset->glyphs.at(glyph);
+  return Woff2File(subset->bytes, carried);
 }
 
 }  // namespace

@@ -20,10 +20,10 @@ constexpr CGColor kWhite = {1, 1, 1, 1};
 constexpr CGColor kBlack = {0, 0, 0, 1};
 
 /// The rows of an image without padding: where they are, or a copy.
-class Rows {
+class ImageRows {
  public:
   /// Throws as the provider does.
-  explicit Rows(const CGImage& image) : provided_(image.provider->Provide()) {
+  explicit ImageRows(const CGImage& image) : provided_(image.provider->Provide()) {
     const std::size_t rowSize = image.RowSize();
     if (image.bytesPerRow == rowSize && provided_.View().size() / rowSize >= image.height) {
       rows_ = provided_.View().first(rowSize * image.height);
@@ -148,7 +148,7 @@ std::string SvgImages::StoreBare(const CGImage& image, const Look& look) {
     const Bytes bytes = file.View();
     return Define(image, "jpeg", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   }
-  const Rows rows(image);
+  const ImageRows rows(image);
   return StorePixels(image, rows.View(), look);
 }
 
@@ -182,8 +182,8 @@ std::string SvgImages::DefinePicture(const CGImage& image, PngPicture picture, b
 std::string SvgImages::StoreMasked(const CGImage& image, const Look& look) {
   const CGImage& mask = *image.mask;
   if (IsPixels(image) && mask.width == image.width && mask.height == image.height) {
-    const Rows rows(image);
-    const Rows maskRows(mask);
+    const ImageRows rows(image);
+    const ImageRows maskRows(mask);
     if (rows.View().empty() || maskRows.View().empty()) return {};
     const auto pixels = MaskedPixels(image, rows.View(), maskRows.View());
     return DefinePicture(image, {image.width, image.height, PngColor::kRgba, 8, pixels},
@@ -192,9 +192,9 @@ std::string SvgImages::StoreMasked(const CGImage& image, const Look& look) {
   const std::string name = StoreBare(image, look);
   const std::string lightness = AddLightness(mask, look.isSharp);
   if (name.empty() || lightness.empty()) return {};
-  const std::string reference = definitions_.Reference(
-      "mask", " maskUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\"" + Extent(image) + "><use" +
-                  Use(lightness, mask, image) + "/></mask>");
+  const std::string reference =
+      definitions_.Reference("mask", R"( maskUnits="userSpaceOnUse" x="0" y="0")" + Extent(image) +
+                                         "><use" + Use(lightness, mask, image) + "/></mask>");
   return std::string(
       definitions_.Add("use", Use(name, image, image) + " mask=\"" + reference + "\"/>"));
 }

@@ -44,7 +44,7 @@ void AppendAnyNumber(std::string& text, double value) {
 
 }  // namespace
 
-SvgGrid::SvgGrid(double extent) : decimals_(0), perUnit_(1) {
+SvgGrid::SvgGrid(double extent) {
   constexpr double kSteps = 1e5;
   constexpr int kMostDecimals = 8;
   while (decimals_ < kMostDecimals && static_cast<double>(perUnit_) * extent < kSteps) {

@@ -28,8 +28,8 @@ class SvgGrid {
   }
 
  private:
-  int decimals_;
-  std::int64_t perUnit_;
+  int decimals_ = 0;
+  std::int64_t perUnit_ = 1;
 };
 
 /// Numbers one after the other, set apart only where they would run into each other.
