@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include <dlfcn.h>
+#include "base/loaded_functions.h"
 
 namespace kelvane {
 inline namespace metafile {
@@ -11,29 +11,9 @@ namespace {
 // The first of its kind that can be told how much memory it may take.
 constexpr const char* kTiffLibrary = "libtiff.so.6";
 
-/// The functions of a library, as long as all that were asked for are there.
-class LoadedFunctions {
- public:
-  explicit LoadedFunctions(void* library) : library_(library) {}
-
-  template <class Function>
-  void Get(Function& function, const char* name) {
-    function = reinterpret_cast<Function>(dlsym(library_, name));
-    areAllThere_ = areAllThere_ && function != nullptr;
-  }
-  [[nodiscard]] bool AreAllThere() const { return areAllThere_; }
-
- private:
-  void* library_;
-  bool areAllThere_ = true;
-};
-
-// It is never unloaded: threads may still be reading when a process ends.
 std::optional<TiffLibrary> LoadNow() {
-  void* library = dlopen(kTiffLibrary, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return std::nullopt;
   TiffLibrary tiff;
-  LoadedFunctions functions(library);
+  LoadedFunctions functions(kTiffLibrary);
   functions.Get(tiff.allocateOptions, "TIFFOpenOptionsAlloc");
   functions.Get(tiff.freeOptions, "TIFFOpenOptionsFree");
   functions.Get(tiff.setMostMemoryAtOnce, "TIFFOpenOptionsSetMaxSingleMemAlloc");
