@@ -15,7 +15,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libkelvane${KELVANE_ABI})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "fonts-liberation, libtiff6")  # the latter is loaded, not linked
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "fonts-liberation, libcairo2, libtiff6")  # the libraries are loaded, not linked
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows metafiles into PDF
 A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
 page, and can report what that lacks. Lines stay vectors, and text stays text

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "gdi/font_map.h"
+#include "platform/quartz/cg_color_space.h"
 #include "players/page_placement.h"
 #include "players/play_setting.h"
 
@@ -21,6 +23,8 @@ struct ConversionOptions {
   bool outlinesText = false;  // whether text becomes shapes
   bool embedsFonts = true;    // whether an SVG carries the faces of its text
   EmfPlusChoice emfPlus = EmfPlusChoice::kAuto;
+  std::optional<double> dotsPerInch;  // of a PNG, where neither its width nor its height is given
+  std::optional<CGColor> background = CGColor{1, 1, 1, 1};  // of a PNG; none: clear
   bool strict = false;  // whether a document that lacks something counts as a failure
 };
 
@@ -31,7 +35,6 @@ struct ConversionOption {
   const char* values;    // "frame|bounds", "1..14400" for a number, or "DIR" or "FILE" for a path
   const char* standard;  // the value unless another is set; empty when the picture decides or none
   const char* help;      // words that fit on a line
-  const char* coming;    // values that are refused as not there yet
 
   /// @param value  one that is allowed. Throws std::runtime_error when what it names is refused.
   void (*store)(ConversionOptions& options, std::string_view value);

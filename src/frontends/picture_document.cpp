@@ -46,8 +46,9 @@ PagePlacement PageOfWhatIsDrawn(const Metafile& metafile, const PictureGeometry&
 PagePlacement PageOf(const Metafile& metafile, const ConversionOptions& options,
                      const PlaySetting& setting, Report& report) {
   const PictureGeometry picture = metafile.Geometry();
-  const auto page = PlaceOnPage(picture, options.page, options.size);
-  if (!page) return PageOfWhatIsDrawn(metafile, picture, options.size, setting, report);
+  const PageSizeWish wish = PageWishOf(options);
+  const auto page = PlaceOnPage(picture, options.page, wish);
+  if (!page) return PageOfWhatIsDrawn(metafile, picture, wish, setting, report);
   Remark(page->trouble, report);
   return *page;
 }

@@ -65,10 +65,18 @@ class BlitPainter {
 
   void DrawColored(const Coloring& coloring, const ImageBlending& blending) {
     if (IsOnePixel(blit_)) return FillWithPixel(coloring, blending);
-    if (AreAlike(coloring.operation, SRCCOPY) && blit_.shown == nullptr) {
+    const bool holdsJpeg = canvas_.Surface().Capabilities().holdsJpeg;
+    if (holdsJpeg && AreAlike(coloring.operation, SRCCOPY) && blit_.shown == nullptr) {
       if (const auto jpeg = JpegOf(blit_)) return DrawWhole(*jpeg, blending);
     }
     Draw(ImageOf({{blit_.dib, blit_.part}}, coloring, blit_.isSmooth), blending);
+  }
+
+  /// Draws the pixels as they are, their bits to be combined with the paint's and those below.
+  void Combine(TernaryRasterOperation operation, const Marks& paint) {
+    if (paint.count > 0) SetFill(canvas_.Surface(), paint.marks[0]);
+    const auto code = static_cast<std::uint8_t>(CodeOf(operation));
+    Draw(ImageOf({{blit_.dib, blit_.part}}, {}, blit_.isSmooth), {kCGBlendModeNormal, 1, code});
   }
 
   void FillWith(RgbColor color, const ImageBlending& blending) {
@@ -87,7 +95,7 @@ class BlitPainter {
     for (const Mark& mark : marks.All()) {
       SetFill(surface, mark);
       if (stencil != nullptr) {
-        DrawImage(canvas_, *stencil, unitToDevice_, {mark.mode, 1});
+        DrawImage(canvas_, *stencil, unitToDevice_, {mark.mode, 1, mark.operation});
       } else {
         FillPlace();
       }
@@ -104,7 +112,8 @@ class BlitPainter {
   void FillWithPixel(const Coloring& coloring, const ImageBlending& blending) {
     const auto pixel = FirstPixel(blit_);
     if (!pixel) return device_.shortfalls.Add(Shortfall::kUnreadableBitmap);
-    FillWith(Combine(coloring.operation, coloring.paint, *pixel, coloring.ground), blending);
+    FillWith(kelvane::Combine(coloring.operation, coloring.paint, *pixel, coloring.ground),
+             blending);
   }
 
   /// A file is not taken apart: all of it is drawn, and the rest cut off.
@@ -195,6 +204,10 @@ void PaintBlit(DeviceContext& device, const Blit& blit, TernaryRasterOperation o
   if (needsPaint && paint.kind == Brush::Kind::kNull) return;
   const bool needsDestination = NeedsDestination(operation);
   const bool needsPattern = needsPaint && paint.kind != Brush::Kind::kSolid;
+  if ((needsDestination || needsPattern) && device.canvas->Surface().Capabilities().combinesBits) {
+    const Marks marks = needsPaint ? BlitMarks(device, paint, R2_COPYPEN, std::nullopt) : Marks();
+    return BlitPainter(device, blit).Combine(operation, marks);
+  }
   if (needsDestination || needsPattern) {
     const auto whites = WhitePixels(blit);
     if (whites) return PaintHalves(device, blit, operation, paint, *whites);

@@ -34,6 +34,7 @@ void DrawImage(Canvas& canvas, const CGImage& image, const TransformD& unitToDev
   surface.SaveGState();
   surface.SetBlendMode(blending.mode);
   surface.SetAlpha(blending.alpha);
+  surface.SetBitOperation(blending.operation);
   surface.ConcatCTM(OnPage(canvas, unitToDevice));
   surface.DrawImage({{0, 0}, {1, 1}}, &image);
   surface.RestoreGState();

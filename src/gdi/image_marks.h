@@ -3,6 +3,7 @@
 #include "gdi/canvas.h"
 #include "gdi/geometry.h"
 #include "platform/quartz/cg_blend_mode.h"
+#include "platform/quartz/cg_graphics_state.h"
 #include "platform/quartz/cg_image.h"
 
 namespace kelvane {
@@ -11,6 +12,7 @@ namespace kelvane {
 struct ImageBlending {
   CGBlendMode mode = kCGBlendModeNormal;
   CGFloat alpha = 1;
+  CGBitOperation operation = {};  // in place of both, where the surface has it
 };
 
 /// Draws an image, or paints through a mask in the fill colour that is set.

@@ -39,11 +39,24 @@ Marks MixedMarks(DeviceContext& device, const BrushPaint& paint, BinaryRasterOpe
   return found;
 }
 
+/// Where the surface combines bits, plain marks are all that is needed.
+Marks CombinedMarks(DeviceContext& device, const BrushPaint& paint,
+                    BinaryRasterOperation operation) {
+  if (operation == R2_NOP) return {};
+  Marks found = MixedMarks(device, paint, R2_COPYPEN);
+  for (Mark& mark : found.marks)
+    mark.operation = CodeOf(operation);
+  return found;
+}
+
 }  // namespace
 
 Marks MarksOf(DeviceContext& device, const BrushPaint& paint, BinaryRasterOperation operation,
               std::optional<RgbColor> ground) {
   if (paint.kind == Brush::Kind::kNull) return {};
+  if (operation != R2_COPYPEN && device.canvas->Surface().Capabilities().combinesBits) {
+    return CombinedMarks(device, paint, operation);
+  }
   if (IsExact(operation, paint)) return MixedMarks(device, paint, operation);
   if (ground && paint.kind != Brush::Kind::kPattern) {
     return MixedMarks(device, OnGround(paint, operation, *ground), R2_COPYPEN);
@@ -61,12 +74,14 @@ void SetFill(CGContext& surface, const Mark& mark) {
   surface.SetFillColor(mark.color);
   surface.SetFillPattern(mark.pattern);
   surface.SetBlendMode(mark.mode);
+  surface.SetBitOperation(mark.operation);
 }
 
 void SetStroke(CGContext& surface, const Mark& mark) {
   surface.SetStrokeColor(mark.color);
   surface.SetStrokePattern(mark.pattern);
   surface.SetBlendMode(mark.mode);
+  surface.SetBitOperation(mark.operation);
 }
 
 }  // namespace kelvane

@@ -17,6 +17,7 @@ struct Mark {
   CGColor color;
   CGSharedPattern pattern;
   CGBlendMode mode = kCGBlendModeNormal;
+  CGBitOperation operation = {};  // in place of the mode, where the surface has it
 };
 
 /// The marks that paint makes under a raster operation, one on the other.
@@ -26,7 +27,7 @@ struct Marks {
 
   [[nodiscard]] std::span<const Mark> All() const { return {marks.data(), count}; }
   [[nodiscard]] bool IsOneOpaque() const {
-    return count == 1 && marks[0].mode == kCGBlendModeNormal;
+    return count == 1 && marks[0].mode == kCGBlendModeNormal && !marks[0].operation;
   }
 };
 

@@ -130,9 +130,7 @@ std::uint8_t Combine(TernaryRasterOperation operation, std::uint8_t paint, std::
 }
 
 RgbColor Combine(BinaryRasterOperation operation, RgbColor paint, RgbColor destination) {
-  // Two bits of the code for each of the paint's, twice: whatever the source.
-  const std::uint32_t bits = operation - R2_BLACK;
-  const std::uint32_t code = (bits & 3) * 0x05 | (bits >> 2 & 3) * 0x50;
+  const std::uint32_t code = CodeOf(operation);
   return Combine(static_cast<TernaryRasterOperation>(code << 16), paint, {}, destination);
 }
 

@@ -34,6 +34,12 @@ constexpr std::uint32_t CodeOf(TernaryRasterOperation operation) {
   return operation >> 16 & 0xFF;
 }
 
+/// @return the code of the ternary operation that does the same, whatever the source.
+constexpr std::uint8_t CodeOf(BinaryRasterOperation operation) {
+  const std::uint32_t bits = operation - R2_BLACK;  // two for each of the paint's
+  return static_cast<std::uint8_t>((bits & 3) * 0x05 | (bits >> 2 & 3) * 0x50);
+}
+
 /// @return whether two ternary operations do the same.
 constexpr bool AreAlike(TernaryRasterOperation one, TernaryRasterOperation other) {
   return CodeOf(one) == CodeOf(other);

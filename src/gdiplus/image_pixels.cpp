@@ -14,6 +14,7 @@
 #include "gdiplus/pixel_formats.h"
 #include "metafile/bmp_file.h"
 #include "metafile/gif_decoder.h"
+#include "metafile/jpeg_decoder.h"
 #include "metafile/jpeg_header.h"
 #include "metafile/png_decoder.h"
 #include "metafile/tiff_decoder.h"
@@ -141,8 +142,20 @@ OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
   return rgba ? ImageOfRgba(size, *rgba, IsSmooth(graphics)) : Unreadable(graphics);
 }
 
+/// For a surface that takes no files.
+OwnedImage DecodedJpeg(Graphics& graphics, std::span<const unsigned char> file,
+                       const JpegHeader& header) {
+  const ImageSize size = {header.width, header.height};
+  if (!AffordPixels(graphics, size)) return nullptr;
+  auto rgb = DecodeJpeg(file, {0, 0, size.width, size.height});
+  if (!rgb) return Unreadable(graphics);
+  return ImageOfRgb(size.width, size.height, std::move(*rgb), IsSmooth(graphics));
+}
+
 OwnedImage Decoded(Graphics& graphics, std::span<const unsigned char> file,
                    const JpegHeader& header) {
+  if (!graphics.canvas->Surface().Capabilities().holdsJpeg)
+    return DecodedJpeg(graphics, file, header);
   return OwnedImage(CGImageCreateWithJPEG(header.width, header.height, header.components,
                                           ProviderOf({file.begin(), file.end()}).get(),
                                           IsSmooth(graphics)));

@@ -47,14 +47,27 @@ class Judge:
     renderer: str
     folder: Path
 
-    def output_of(self, subject: Subject) -> Path:
-        return self.folder / f"{subject.name}.{self.ending}"
+    def output_of(self, subject: Subject, truth: Path) -> Path:
+        """Pixels are made as large as each truth is; other formats are made once."""
+        name = truth.stem if self.ending == "png" else subject.name
+        return self.folder / f"{name}.{self.ending}"
+
+    def convert(self, subject: Subject) -> None:
+        """Writes what is to be judged."""
+        if self.ending != "png":
+            return pictures.convert(self.tool, subject.metafile, subject.page, self.output_of(subject, Path()))
+        for truth in subject.truths:
+            height, width, _ = pictures.read_truth(truth).shape
+            output = self.output_of(subject, truth)
+            pictures.convert(self.tool, subject.metafile, subject.page, output, (width, height))
+        return None
 
     def verdict(self, subject: Subject) -> Verdict:
-        output = self.output_of(subject)
         try:
-            pictures.convert(self.tool, subject.metafile, subject.page, output)
-            verdicts = [Verdict(subject, self.score(output, truth), truth, "") for truth in subject.truths]
+            self.convert(subject)
+            verdicts = [
+                Verdict(subject, self.score(self.output_of(subject, truth), truth), truth, "") for truth in subject.truths
+            ]
         except pictures.Failure as failure:
             return Verdict(subject, NOTHING, None, str(failure))
         return max(verdicts, key=lambda verdict: verdict.score.overall)
@@ -75,7 +88,7 @@ class Judge:
         shown = [verdict for verdict in verdicts if verdict.truth is not None][:WORST]
         for place, verdict in enumerate(shown, start=1):
             right = pictures.read_truth(verdict.truth)
-            picture = self.pixels_like(right, self.output_of(verdict.subject))
+            picture = self.pixels_like(right, self.output_of(verdict.subject, verdict.truth))
             pictures.write_side_by_side(folder / f"{place:02}-{verdict.subject.name}.png", right, picture)
 
 

@@ -18,9 +18,13 @@ class Failure(Exception):
     """No picture, and why."""
 
 
-def convert(tool: Path, metafile: Path, page: str, output: Path) -> None:
-    """Has the tool write the output, whose ending is the format, with the fonts of the truths."""
-    command = [tool, "--page", page, "-o", output, metafile]
+def convert(tool: Path, metafile: Path, page: str, output: Path, size: tuple[int, int] | None = None) -> None:
+    """Has the tool write the output, whose ending is the format, with the fonts of the truths.
+
+    The size, of pixels, is for a format that has them.
+    """
+    pixels = ["--width", str(size[0]), "--height", str(size[1])] if size is not None else []
+    command = [tool, "--page", page, *pixels, "-o", output, metafile]
     environment = os.environ | {"FONTCONFIG_FILE": str(FONTS)}
     try:
         done = subprocess.run(command, capture_output=True, timeout=SECONDS, env=environment, check=False)

@@ -127,15 +127,14 @@ TEST(ConversionOptions, AreRefusedInWordsThatNameOptionValueAndWhatIsAllowed) {
             "font-map cannot be '/nowhere': it cannot be read: No such file or directory");
 }
 
-TEST(ConversionOptions, SayOfAFormatThatIsToComeThatItIsNotThereYet) {
-  EXPECT_EQ(RefusalOf("format", "png"), "format cannot be 'png' yet: it is pdf or svg");
-  EXPECT_EQ(RefusalOf("format", "ps"), "format cannot be 'ps': it is pdf or svg");
+TEST(ConversionOptions, SayWhichFormatsThereAre) {
+  EXPECT_EQ(RefusalOf("format", "ps"), "format cannot be 'ps': it is pdf, svg or png");
 }
 
 TEST(ConversionOptions, SayWhichThereAreWhenOneIsUnknown) {
-  EXPECT_EQ(RefusalOf("dpi", "200"),
-            "there is no option 'dpi': there are format, page, width, height, scale, font-dir, "
-            "font-map, outline-text, no-embed-fonts, emfplus and strict");
+  EXPECT_EQ(RefusalOf("dots", "200"),
+            "there is no option 'dots': there are format, page, width, height, scale, font-dir, "
+            "font-map, outline-text, no-embed-fonts, emfplus, dpi, background and strict");
 }
 
 struct RefusedValue {

@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
-#include "metafile/png_decoder.h"
 #include "platform/quartz/cg_context_calls.h"
+#include "support/bitmap.h"
 #include "support/files.h"
 #include "support/process.h"
 
@@ -34,15 +34,7 @@ Raster RasterOfSvg(const std::string& svg, int scale) {
                                     folder / "page.svg", "--output", folder / "page.png"});
   if (result.status != 0 || !result.output.empty()) throw std::runtime_error(result.output);
 
-  const std::string file = ReadFile(folder / "page.png");
-  const std::span<const unsigned char> bytes(reinterpret_cast<const unsigned char*>(file.data()),
-                                             file.size());
-  const auto header = ReadPngHeader(bytes);
-  if (!header) throw std::runtime_error("no picture");
-  const auto pixels = DecodePng(bytes, {0, 0, header->width, header->height});
-  if (!pixels) throw std::runtime_error("no pixels");
-  return {static_cast<int>(header->width), static_cast<int>(header->height),
-          std::string(pixels->begin(), pixels->end())};
+  return RasterOfPng(ReadFile(folder / "page.png"));
 }
 
 }  // namespace kelvane::test

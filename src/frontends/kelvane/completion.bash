@@ -11,7 +11,7 @@ _kelvane() {
   COMPREPLY=()
   case $option in
     -f | --format)
-      mapfile -t COMPREPLY < <(compgen -W 'pdf svg' -- "$current")
+      mapfile -t COMPREPLY < <(compgen -W 'pdf svg png' -- "$current")
       return ;;
     --page)
       mapfile -t COMPREPLY < <(compgen -W 'frame bounds' -- "$current")
@@ -23,20 +23,23 @@ _kelvane() {
       mapfile -t COMPREPLY < <(compgen -d -- "$current") ;;
     -o | --output | --report | --font-map)
       mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
-    -j | --jobs | --width | --height | --scale)
+    --background)
+      mapfile -t COMPREPLY < <(compgen -W 'none white' -- "$current")
+      return ;;
+    -j | --jobs | --width | --height | --scale | --dpi)
       return ;;
     *)
       case $current in
         -*)
           mapfile -t COMPREPLY < <(compgen -W '--output --directory --jobs --report --format --page
-            --width --height --scale --font-dir --font-map --outline-text --no-embed-fonts --emfplus --strict --help
-            --version' -- "$current")
+            --width --height --scale --font-dir --font-map --outline-text --no-embed-fonts --emfplus --dpi
+            --background --strict --help --version' -- "$current")
           return ;;
       esac
       mapfile -t COMPREPLY < <(
         [ "$COMP_CWORD" -ne 1 ] || compgen -W 'info dump' -- "$current"
         compgen -d -- "$current"
-        compgen -f -X '!*.[eE][mM][fF]' -- "$current"
+        compgen -f -X '!*.[eEwW][mM][fFzZ]' -- "$current"
       ) ;;
   esac
   compopt -o filenames 2>/dev/null

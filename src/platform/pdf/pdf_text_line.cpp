@@ -61,7 +61,7 @@ void PdfTextLine::Start(const PdfTextStyle& style, CGPoint origin) {
   const CGPoint onPage = CGPointApplyAffineTransform(origin, style.matrix);
   matrix_.tx = onPage.x;
   matrix_.ty = onPage.y;
-  scale_ = std::sqrt(std::abs(Determinant(matrix_)));
+  scale_ = LengthScale(matrix_);
   tolerance_ = Tolerance(size_ * scale_);
   pen_ = 0;
   count_ = 0;

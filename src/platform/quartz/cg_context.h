@@ -20,6 +20,12 @@
 
 namespace kelvane {
 
+/// What some outputs can show, and others cannot.
+struct CGCapabilities {
+  bool holdsJpeg = true;      // JPEG files as they are; else images are to be given as pixels
+  bool combinesBits = false;  // marks whose bits are combined with those of what is there
+};
+
 /// The drawing surface. This class keeps the graphics state, the current path and all geometry; a
 /// back end is handed finished marks in page space, which is the page's default user space, and
 /// nothing else.
@@ -61,7 +67,13 @@ class CGContext : public CFObject {
   /// Lengths that are no lengths, or come to nothing, make the line solid.
   void SetLineDash(CGFloat phase, std::span<const CGFloat> lengths);
   void SetAlpha(CGFloat alpha);  // brought into 0 to 1; not-a-number changes nothing
-  void SetBlendMode(CGBlendMode mode) { state_.blendMode = mode; }
+  /// Marks are mixed from then on, even where they were combined bit by bit.
+  void SetBlendMode(CGBlendMode mode) {
+    state_.blendMode = mode;
+    state_.bitOperation.reset();
+  }
+  /// Only for an output that combines bits.
+  void SetBitOperation(CGBitOperation operation) { state_.bitOperation = operation; }
   void SetTextDrawingMode(CGTextDrawingMode mode) { state_.textMode = mode; }
   void SetTextMatrix(const CGAffineTransform& matrix) { textMatrix_ = matrix; }
   [[nodiscard]] const CGAffineTransform& TextMatrix() const { return textMatrix_; }
@@ -109,6 +121,9 @@ class CGContext : public CFObject {
 
   /// @return which faces this output can show; to be asked before a face is chosen.
   [[nodiscard]] virtual CGFontFilter FontFilter() const = 0;
+
+  /// @return what this output can show; to be asked before marks are chosen.
+  [[nodiscard]] virtual CGCapabilities Capabilities() const { return {}; }
 
   [[nodiscard]] CGPoint ToUserSpace(CGPoint pagePoint) const;
   [[nodiscard]] CGRect ToUserSpace(const CGRect& pageRect) const;

@@ -101,4 +101,9 @@ constexpr double Determinant(const CGAffineTransform& t) {
   return static_cast<double>(t.a) * t.d - static_cast<double>(t.b) * t.c;
 }
 
+/// @return how much longer lengths become, on the average of all directions.
+inline double LengthScale(const CGAffineTransform& t) {
+  return std::sqrt(std::abs(Determinant(t)));
+}
+
 }  // namespace kelvane

@@ -19,7 +19,7 @@ CGStrokeGeometry StrokeGeometry(const CGGraphicsState& state) {
 }
 
 CGFloat TextStrokeWidth(const CGGraphicsState& state) {
-  return static_cast<CGFloat>(state.lineWidth * std::sqrt(std::abs(Determinant(state.ctm))));
+  return static_cast<CGFloat>(state.lineWidth * LengthScale(state.ctm));
 }
 
 // The stroke is as wide as a bold face's stems are wider. Sharp corners of it are cut off, not

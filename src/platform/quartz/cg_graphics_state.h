@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "platform/quartz/cg_blend_mode.h"
@@ -21,6 +22,11 @@ enum CGPathDrawingMode : std::uint8_t {
   kCGPathFillStroke = 3,    // non-zero winding
   kCGPathEOFillStroke = 4,  // even-odd
 };
+
+/// How the bits of a mark's channels are combined with those below it: for each three bits of the
+/// fill colour or pattern, of the mark itself and of what is there, from the high ones on, the
+/// result's. Nullopt, as usual, for marks that are mixed.
+using CGBitOperation = std::optional<std::uint8_t>;
 
 /// The numbers are PDF's text rendering modes, too (ISO 32000-1, table 106).
 enum CGTextDrawingMode : std::uint8_t {
@@ -47,9 +53,10 @@ struct CGGraphicsState {
   CGLineCap lineCap = kCGLineCapButt;
   CGLineJoin lineJoin = kCGLineJoinMiter;
   CGBlendMode blendMode = kCGBlendModeNormal;
-  CGFloat alpha = 1;          // of whatever is marked, colours and images alike
-  CGLineDash dash;            // user space
-  std::size_t clipCount = 0;  // how many of the page's clips are in effect, oldest first
+  CGFloat alpha = 1;            // of whatever is marked, colours and images alike
+  CGBitOperation bitOperation;  // in place of both, where the output has it
+  CGLineDash dash;              // user space
+  std::size_t clipCount = 0;    // how many of the page's clips are in effect, oldest first
 
   friend bool operator==(const CGGraphicsState&, const CGGraphicsState&) = default;
 };

@@ -1,7 +1,6 @@
 #include "platform/svg/cg_svg_context.h"
 
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -96,7 +95,7 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
     if (mark.strokes && stroke.throughTransform) {
       mark.transform = CGAffineTransformConcat(stroke.transform, toElement);
       toElement = stroke.inverse;
-      const double scale = std::sqrt(std::abs(Determinant(stroke.transform)));
+      const double scale = LengthScale(stroke.transform);
       grid = SvgGrid(page_->Extent() / scale);
     }
     hasHairlines_ = hasHairlines_ || IsHairline(State(), mark);
@@ -134,7 +133,7 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
     Draw([&] {
       const CGGraphicsState state = run.isEmboldened ? Emboldened(State(), run.size) : State();
       const SvgTextFrame frame(run, *page_);
-      const double scale = std::sqrt(std::abs(Determinant(frame.Transform())));
+      const double scale = LengthScale(frame.Transform());
       const SvgMark mark = {
           .fills = Fills(state.textMode),
           .strokes = Strokes(state.textMode),

@@ -1,7 +1,6 @@
 #include "platform/svg/svg_paint.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -38,15 +37,11 @@ std::pair<CGFloat, CGFloat> RowAt(int row, int rows, CGFloat height) {
                   : std::pair(-height, height);
 }
 
-double ScaleOf(const CGAffineTransform& transform) {
-  return std::sqrt(std::abs(Determinant(transform)));
-}
-
 }  // namespace
 
 bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double scale) {
   constexpr double kEnlarged = 0.6;  // points a pixel: about as many as a screen shows
-  return !image.interpolate && ScaleOf(toPage) * scale >= kEnlarged;
+  return !image.interpolate && LengthScale(toPage) * scale >= kEnlarged;
 }
 
 std::string SvgPaints::ImageElement(const CGImage& image, const CGColor& color,
@@ -98,7 +93,7 @@ std::string SvgPaints::TilingPaint(const CGPattern& pattern, const CGAffineTrans
   AppendSvgTransform(text, "patternTransform",
                      CGAffineTransformConcat({1, 0, 0, -1, 0, cell.height}, matrix));
   text += '>';
-  text += CellOf(pattern, ScaleOf(matrix));
+  text += CellOf(pattern, LengthScale(matrix));
   text += "</pattern>";
   return definitions_.Reference("pattern", std::move(text));
 }

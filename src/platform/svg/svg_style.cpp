@@ -1,7 +1,6 @@
 #include "platform/svg/svg_style.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/svg/svg_number.h"
 
@@ -16,7 +15,7 @@ void AppendWord(std::string& text, const char* name, std::string_view word) {
 /// about a pixel.
 double WidthOf(const SvgMark& mark, const SvgPaints& paints) {
   if (mark.stroke.width > 0) return mark.stroke.width;
-  const double scale = std::sqrt(std::abs(Determinant(mark.transform)));
+  const double scale = LengthScale(mark.transform);
   return paints.Page().Extent() / 1000 / (scale > 0 ? scale : 1);
 }
 

@@ -126,10 +126,6 @@ class TextWriter {
   double pen_ = 0;                 // behind the last character
 };
 
-double LengthScale(const CGAffineTransform& transform) {
-  return std::sqrt(std::abs(Determinant(transform)));
-}
-
 }  // namespace
 
 SvgTextFrame::SvgTextFrame(const CGGlyphRun& run, const SvgPage& page)

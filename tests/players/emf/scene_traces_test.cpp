@@ -21,7 +21,7 @@ namespace {
 
 /// The scenes whose pictures are held to a floor.
 std::vector<std::string> JudgedScenes() {
-  std::ifstream floors(SourcePath("tests/scenes/floors.tsv"));
+  std::ifstream floors(SourcePath("tests/scenes/floors-pdf.tsv"));
   std::vector<std::string> scenes;
   for (std::string line; std::getline(floors, line);)
     scenes.push_back(line.substr(0, line.find('\t')));

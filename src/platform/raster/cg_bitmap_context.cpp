@@ -1,0 +1,395 @@
+#include "platform/raster/cg_bitmap_context.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <new>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/quartz/cg_clip_writer.h"
+#include "platform/quartz/cg_extent.h"
+#include "platform/raster/cairo_library.h"
+#include "platform/raster/png_writer.h"
+#include "platform/raster/raster_geometry.h"
+#include "platform/raster/raster_image.h"
+#include "platform/raster/raster_operation.h"
+#include "platform/raster/raster_paint.h"
+#include "platform/raster/raster_pixel.h"
+
+namespace kelvane {
+namespace {
+
+constexpr std::size_t kMostASide = 32767;  // of Cairo's images
+
+constexpr std::array<cairo_operator_t, kCGBlendModes> kOperators = {
+    CAIRO_OPERATOR_OVER,          CAIRO_OPERATOR_MULTIPLY,       CAIRO_OPERATOR_SCREEN,
+    CAIRO_OPERATOR_OVERLAY,       CAIRO_OPERATOR_DARKEN,         CAIRO_OPERATOR_LIGHTEN,
+    CAIRO_OPERATOR_COLOR_DODGE,   CAIRO_OPERATOR_COLOR_BURN,     CAIRO_OPERATOR_SOFT_LIGHT,
+    CAIRO_OPERATOR_HARD_LIGHT,    CAIRO_OPERATOR_DIFFERENCE,     CAIRO_OPERATOR_EXCLUSION,
+    CAIRO_OPERATOR_HSL_HUE,       CAIRO_OPERATOR_HSL_SATURATION, CAIRO_OPERATOR_HSL_COLOR,
+    CAIRO_OPERATOR_HSL_LUMINOSITY};
+
+constexpr std::array<cairo_line_cap_t, 3> kCaps = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND,
+                                                   CAIRO_LINE_CAP_SQUARE};
+constexpr std::array<cairo_line_join_t, 3> kJoins = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND,
+                                                     CAIRO_LINE_JOIN_BEVEL};
+
+/// A group that was painted apart, and where it lies among the page's pixels.
+struct Layer {
+  CairoOwned<cairo_pattern_t> pattern;
+  cairo_surface_t* surface;  // the pattern's
+  int left = 0;
+  int top = 0;
+};
+
+/// The back end of pixels.
+class CGBitmapContext final : public CGContext, private CGClipOperators {
+ public:
+  CGBitmapContext(CGDataConsumerRef consumer, const CGBitmapDescription& description)
+      : cairo_(Cairo()), consumer_(CFShare(consumer)), description_(description) {}
+
+  void Close() override {
+    EndPage();
+    const auto consumer = std::move(consumer_);
+    if (!consumer || !image_) return;
+    const PixelRows pixels(image_.get());
+    const PngSheet sheet = {description_.width, description_.height, !description_.background,
+                            description_.dotsPerInch};
+    WritePng(sheet, *consumer, [&](std::size_t y, std::span<unsigned char> bytes) {
+      WriteRow(pixels.Row(y), bytes);
+    });
+    consumer->Commit();
+  }
+
+  [[nodiscard]] CGFontFilter FontFilter() const override { return AnyFont; }
+  [[nodiscard]] CGCapabilities Capabilities() const override {
+    return {.holdsJpeg = false, .combinesBits = true};
+  }
+
+ private:
+  ~CGBitmapContext() override = default;
+
+  void PageBegins(const CGRect& box) override {
+    isPainting_ = !image_;
+    if (!isPainting_) return;
+    image_.reset(cairo_.createImage(CAIRO_FORMAT_ARGB32, static_cast<int>(description_.width),
+                                    static_cast<int>(description_.height)));
+    if (cairo_.statusOfSurface(image_.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+    drawing_.reset(cairo_.create(image_.get()));
+    if (const auto& color = description_.background) {
+      cairo_.setColor(drawing_.get(), color->red, color->green, color->blue, 1);
+      cairo_.paint(drawing_.get());
+    }
+    const CGFloat x = static_cast<CGFloat>(description_.width) / box.size.width;
+    const CGFloat y = static_cast<CGFloat>(description_.height) / box.size.height;
+    toPixels_ = {x, 0, 0, -y, -box.origin.x * x, (box.origin.y + box.size.height) * y};
+    paints_.emplace(toPixels_, images_);
+  }
+
+  void PageEnds() override {
+    if (!isPainting_) return;
+    clips_.End(*this);
+    isPainting_ = false;
+  }
+
+  void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
+    if (Fills(mode)) {
+      const bool isEvenOdd = mode == kCGPathEOFill || mode == kCGPathEOFillStroke;
+      Draw(State(), ExtentOf(State(), path, kCGPathFill), State().fillColor, State().fillPattern,
+           [&] {
+             SetPath(drawing_.get(), path, toPixels_);
+             cairo_.setFillRule(drawing_.get(),
+                                isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+             cairo_.fill(drawing_.get());
+           });
+    }
+    if (Strokes(mode)) {
+      Draw(State(), ExtentOf(State(), path, kCGPathStroke), State().strokeColor,
+           State().strokePattern, [&] {
+             SetPath(drawing_.get(), path, toPixels_);
+             StrokeAs(StrokeGeometry(State()), State());
+           });
+    }
+  }
+
+  void GlyphsDrawn(const CGGlyphRun& run) override {
+    const CGGraphicsState state = run.isEmboldened ? Emboldened(State(), run.size) : State();
+    const CGPath outlines = OutlinesOf(run);
+    if (!outlines.HasSegments()) return;
+    if (Fills(state.textMode)) {
+      Draw(state, ExtentOf(run), state.fillColor, state.fillPattern, [&] {
+        SetPath(drawing_.get(), outlines, toPixels_);
+        cairo_.setFillRule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
+        cairo_.fill(drawing_.get());
+      });
+    }
+    if (Strokes(state.textMode)) {
+      Draw(state, Grown(ExtentOf(run), StrokeMargin(state)), state.strokeColor, state.strokePattern,
+           [&] {
+             SetPath(drawing_.get(), outlines, toPixels_);
+             StrokeAs({TextStrokeWidth(state), 1, false}, state);
+           });
+    }
+  }
+
+  void ImageDrawn(const CGImage& image, const CGAffineTransform& matrix) override {
+    if (!isPainting_) return;
+    cairo_surface_t* const pixels = images_.PixelsOf(image, State().fillColor);
+    if (pixels == nullptr) return;
+    const CGAffineTransform toTarget =
+        CGAffineTransformConcat(CGAffineTransformConcat(PixelsToSquare(pixels), matrix), toPixels_);
+    const auto pattern = RasterPaints::ImagePattern(pixels, image, toTarget);
+    const CGBox extent = BoxOf(CGRectApplyAffineTransform({{0, 0}, {1, 1}}, matrix));
+    if (image.isMask && State().fillPattern != nullptr) {
+      cairo_.setExtend(pattern.get(), CAIRO_EXTEND_NONE);
+      return Draw(State(), extent, {}, State().fillPattern,
+                  [&] { cairo_.mask(drawing_.get(), pattern.get()); });
+    }
+    Draw(
+        State(), extent, [&] { cairo_.setSource(drawing_.get(), pattern.get()); },
+        [&] { FillSquare(CGAffineTransformConcat(matrix, toPixels_)); });
+  }
+
+  void ShadingDrawn(const CGShading& shading) override {
+    if (!isPainting_) return;
+    Draw(
+        State(), ExtentOf(shading, Clips()), [&] { paints_->SetSource(drawing_.get(), shading); },
+        [&] { cairo_.paint(drawing_.get()); });
+  }
+
+  /// An upright image has whole pixels: those of two that meet would let through what lies below.
+  void FillSquare(const CGAffineTransform& toTarget) {
+    const bool isUpright =
+        (toTarget.b == 0 && toTarget.c == 0) || (toTarget.a == 0 && toTarget.d == 0);
+    CGPath square;
+    square.AddRectangle({0, 0}, {1, 1});
+    SetPath(drawing_.get(), square, toTarget);
+    cairo_.setAntialias(drawing_.get(), isUpright ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
+    cairo_.setFillRule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
+    cairo_.fill(drawing_.get());
+    cairo_.setAntialias(drawing_.get(), CAIRO_ANTIALIAS_DEFAULT);
+  }
+
+  /// Strokes the current path.
+  void StrokeAs(const CGStrokeGeometry& stroke, const CGGraphicsState& state) {
+    cairo_t* const drawing = drawing_.get();
+    const double pixels = LengthScale(toPixels_);
+    // The pen is deformed by the matrix at the time of the stroke; the path is there already.
+    cairo_.save(drawing);
+    double scale = pixels;
+    if (stroke.throughTransform) {
+      const cairo_matrix_t matrix = MatrixOf(CGAffineTransformConcat(stroke.transform, toPixels_));
+      cairo_.transform(drawing, &matrix);
+      scale = 1;
+    }
+    const double width = stroke.width * scale;
+    const double thinnest = stroke.throughTransform ? 0 : 1;
+    cairo_.setLineWidth(drawing, std::max(width, thinnest));
+    cairo_.setLineCap(drawing, kCaps[state.lineCap]);
+    cairo_.setLineJoin(drawing, kJoins[state.lineJoin]);
+    cairo_.setMiterLimit(drawing, state.miterLimit);
+    std::vector<double> dashes;
+    for (const CGFloat length : state.dash.lengths)
+      dashes.push_back(length * stroke.scale * scale);
+    cairo_.setDash(drawing, dashes.data(), static_cast<int>(dashes.size()),
+                   state.dash.phase * stroke.scale * scale);
+    cairo_.stroke(drawing);
+    cairo_.restore(drawing);
+  }
+
+  template <class PaintIt>
+  void Draw(const CGGraphicsState& state, const CGBox& extent, const CGColor& color,
+            const CGSharedPattern& pattern, PaintIt&& paint) {
+    if (!isPainting_) return;
+    Draw(
+        state, extent, [&] { paints_->SetSource(drawing_.get(), color, pattern); }, paint);
+  }
+
+  /// Paints a mark as its state says.
+  /// @param extent     nothing of it is painted elsewhere, page space.
+  /// @param setSource  of the mark. @param paint  paints it.
+  template <class SetSource, class PaintIt>
+  void Draw(const CGGraphicsState& state, const CGBox& extent, SetSource&& setSource,
+            PaintIt&& paint) {
+    clips_.Bring(Clips(), *this);
+    if (state.bitOperation || state.blendMode != kCGBlendModeNormal) PutPaperBelow();
+    if (state.alpha == 1 && !state.bitOperation) {
+      setSource();
+      cairo_.setOperator(drawing_.get(), kOperators[state.blendMode]);
+      paint();
+      cairo_.setOperator(drawing_.get(), CAIRO_OPERATOR_OVER);
+      return;
+    }
+    cairo_.save(drawing_.get());
+    CutTo(extent);
+    if (state.bitOperation) {
+      Combine(*state.bitOperation, setSource, paint);
+    } else {
+      Fade(state, setSource, paint);
+    }
+    cairo_.restore(drawing_.get());
+  }
+
+  /// So that layers are no larger than what is painted on them.
+  void CutTo(const CGBox& extent) {
+    const CGRect box = {{static_cast<CGFloat>(extent.left), static_cast<CGFloat>(extent.bottom)},
+                        {static_cast<CGFloat>(extent.right - extent.left),
+                         static_cast<CGFloat>(extent.top - extent.bottom)}};
+    const CGRect pixels = CGRectApplyAffineTransform(box, toPixels_);
+    CGPath around;  // whole pixels, one more on each side
+    const CGFloat left = std::floor(pixels.origin.x) - 1;
+    const CGFloat top = std::floor(pixels.origin.y) - 1;
+    around.AddRectangle({left, top},
+                        {std::ceil(pixels.size.width) + 3, std::ceil(pixels.size.height) + 3});
+    SetPath(drawing_.get(), around, {});
+    cairo_.clip(drawing_.get());
+  }
+
+  template <class SetSource, class PaintIt>
+  void Fade(const CGGraphicsState& state, SetSource&& setSource, PaintIt&& paint) {
+    const Layer layer = Apart([&] {
+      setSource();
+      paint();
+    });
+    cairo_.setSource(drawing_.get(), layer.pattern.get());
+    cairo_.setOperator(drawing_.get(), kOperators[state.blendMode]);
+    cairo_.paintWithAlpha(drawing_.get(), state.alpha);
+  }
+
+  /// What is mixed with the page finds white paper there.
+  void PutPaperBelow() {
+    if (description_.background || hasPaper_) return;
+    hasPaper_ = true;
+    const CairoOwned<cairo_t> below(cairo_.create(image_.get()));
+    cairo_.setOperator(below.get(), CAIRO_OPERATOR_DEST_OVER);
+    cairo_.setColor(below.get(), 1, 1, 1, 1);
+    cairo_.paint(below.get());
+  }
+
+  template <class PaintIt>
+  Layer Apart(PaintIt&& paint) {
+    cairo_.pushGroup(drawing_.get());
+    paint();
+    Layer layer = {CairoOwned<cairo_pattern_t>(cairo_.popGroup(drawing_.get())), nullptr};
+    double x = 0;
+    double y = 0;
+    cairo_.surfaceOf(layer.pattern.get(), &layer.surface);
+    cairo_.deviceOffset(layer.surface, &x, &y);
+    layer.left = static_cast<int>(-x);
+    layer.top = static_cast<int>(-y);
+    return layer;
+  }
+
+  /// Combines the bits of a mark, of paint and of what is there.
+  template <class SetSource, class PaintIt>
+  void Combine(std::uint8_t operation, SetSource&& setSource, PaintIt&& paint) {
+    const Layer mark = Apart([&] {
+      setSource();
+      paint();
+    });
+    const Layer ground = Apart([&] {
+      paints_->SetSource(drawing_.get(), State().fillColor, State().fillPattern);
+      cairo_.paint(drawing_.get());
+    });
+    CombinePixels(operation, mark, ground);
+    cairo_.setSource(drawing_.get(), mark.pattern.get());
+    cairo_.paint(drawing_.get());
+  }
+
+  /// Both layers are as large as the clip.
+  void CombinePixels(std::uint8_t operation, const Layer& mark, const Layer& paint) {
+    const PixelRows page(image_.get());
+    const PixelRows marks(mark.surface);
+    const PixelRows paints(paint.surface);
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+    cairo_.clipExtents(drawing_.get(), &left, &top, &right, &bottom);
+    for (int y = static_cast<int>(std::floor(top)); y < static_cast<int>(std::ceil(bottom)); ++y) {
+      const std::uint32_t* const there = page.Row(static_cast<std::size_t>(y));
+      std::uint32_t* const row = marks.Row(static_cast<std::size_t>(y - mark.top));
+      const std::uint32_t* const paintRow = paints.Row(static_cast<std::size_t>(y - paint.top));
+      for (int x = static_cast<int>(std::floor(left)); x < static_cast<int>(std::ceil(right));
+           ++x) {
+        std::uint32_t& pixel = row[x - mark.left];
+        const std::uint8_t alpha = AlphaOf(pixel);
+        if (alpha == 0) continue;
+        const std::uint32_t result =
+            CombinedBits(operation, Opaque(paintRow[x - paint.left]), Unfaded(pixel), there[x]);
+        pixel = Faded(result, alpha);
+      }
+    }
+  }
+
+  static std::uint32_t Opaque(std::uint32_t pixel) {
+    return AlphaOf(pixel) == 0 ? 0xFF000000U : Unfaded(pixel);
+  }
+
+  CGPath OutlinesOf(const CGGlyphRun& run) {
+    CGPath outlines;
+    const CGFloat scale = run.size / static_cast<CGFloat>(run.font->Description().unitsPerEm);
+    for (const CGPositionedGlyph& glyph : run.glyphs) {
+      const auto [known, isNew] = outlines_.try_emplace({run.font, glyph.glyph});
+      if (isNew) known->second = run.font->Outline(glyph.glyph);
+      outlines.AddPath(known->second,
+                       CGAffineTransformConcat({scale, 0, 0, scale, glyph.origin.x, glyph.origin.y},
+                                               run.matrix));
+    }
+    return outlines;
+  }
+
+  void WriteSave() override { cairo_.save(drawing_.get()); }
+  void WriteRestore() override { cairo_.restore(drawing_.get()); }
+  void WriteClip(const CGClip& clip) override {
+    SetPath(drawing_.get(), clip.area, toPixels_);
+    cairo_.setFillRule(drawing_.get(),
+                       clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+    cairo_.clip(drawing_.get());
+  }
+
+  void WriteRow(const std::uint32_t* row, std::span<unsigned char> bytes) const {
+    const bool hasAlpha = !description_.background;
+    unsigned char* to = bytes.data();
+    for (std::size_t x = 0; x < description_.width; ++x) {
+      const std::uint8_t alpha = AlphaOf(row[x]);
+      const std::uint32_t pixel = hasAlpha && alpha != 0 ? Unfaded(row[x]) : row[x];
+      *to++ = static_cast<unsigned char>(pixel >> 16);
+      *to++ = static_cast<unsigned char>(pixel >> 8);
+      *to++ = static_cast<unsigned char>(pixel);
+      if (hasAlpha) *to++ = alpha;
+    }
+  }
+
+  const CairoLibrary& cairo_;
+  CFOwned<CGDataConsumer> consumer_;  // null once the picture is written
+  CGBitmapDescription description_;
+  CairoOwned<cairo_surface_t> image_;  // null before the first page
+  CairoOwned<cairo_t> drawing_;
+  CGAffineTransform toPixels_;
+  RasterImages images_;
+  std::optional<RasterPaints> paints_;
+  std::map<std::pair<CGFontRef, CGGlyph>, CGPath> outlines_;
+  CGClipWriter clips_;
+  bool isPainting_ = false;
+  bool hasPaper_ = false;
+};
+
+bool IsSide(std::size_t pixels) {
+  return pixels >= 1 && pixels <= kMostASide;
+}
+
+}  // namespace
+
+CGContextRef CGBitmapContextCreate(CGDataConsumerRef consumer,
+                                   const CGBitmapDescription& description) {
+  if (consumer == nullptr) return nullptr;
+  if (!IsSide(description.width) || !IsSide(description.height)) return nullptr;
+  return new CGBitmapContext(consumer, description);
+}
+
+}  // namespace kelvane

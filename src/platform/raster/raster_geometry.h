@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_path.h"
+#include "platform/raster/cairo_library.h"
+
+namespace kelvane {
+
+inline cairo_matrix_t MatrixOf(const CGAffineTransform& t) {
+  return {t.a, t.b, t.c, t.d, t.tx, t.ty};
+}
+
+/// Makes a path the current one. @param toPixels  maps its points.
+inline void SetPath(cairo_t* drawing, const CGPath& path, const CGAffineTransform& toPixels) {
+  const CairoLibrary& cairo = Cairo();
+  cairo.newPath(drawing);
+  const auto at = [&toPixels](CGPoint point) {
+    return CGPointApplyAffineTransform(point, toPixels);
+  };
+  path.ForEach([&](CGPath::Element element, const CGPoint* points) {
+    switch (element) {
+      case CGPath::Element::kMove: {
+        const CGPoint to = at(points[0]);
+        return cairo.moveTo(drawing, to.x, to.y);
+      }
+      case CGPath::Element::kLine: {
+        const CGPoint to = at(points[0]);
+        return cairo.lineTo(drawing, to.x, to.y);
+      }
+      case CGPath::Element::kCurve: {
+        const CGPoint one = at(points[0]);
+        const CGPoint two = at(points[1]);
+        const CGPoint to = at(points[2]);
+        return cairo.curveTo(drawing, one.x, one.y, two.x, two.y, to.x, to.y);
+      }
+      case CGPath::Element::kRectangle: {
+        const CGPoint corner = points[0];
+        const CGPoint size = points[1];
+        const CGPoint corners[] = {at(corner), at({corner.x + size.x, corner.y}),
+                                   at({corner.x + size.x, corner.y + size.y}),
+                                   at({corner.x, corner.y + size.y})};
+        cairo.moveTo(drawing, corners[0].x, corners[0].y);
+        for (int i = 1; i < 4; ++i)
+          cairo.lineTo(drawing, corners[i].x, corners[i].y);
+        return cairo.closePath(drawing);
+      }
+      case CGPath::Element::kClose:
+        return cairo.closePath(drawing);
+    }
+  });
+}
+
+}  // namespace kelvane

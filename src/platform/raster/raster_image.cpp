@@ -1,0 +1,149 @@
+#include "platform/raster/raster_image.h"
+
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "platform/raster/raster_pixel.h"
+
+namespace kelvane {
+namespace {
+
+using Bytes = std::span<const unsigned char>;
+
+struct PictureSize {
+  std::size_t width;
+  std::size_t height;
+};
+
+/// The bytes of an image while they are looked at.
+class SourceRows {
+ public:
+  explicit SourceRows(const CGImage& image) : image_(image), provided_(image.provider->Provide()) {}
+
+  [[nodiscard]] bool AreWhole() const {
+    const std::size_t size = provided_.View().size();
+    const std::size_t rowSize = image_.RowSize();
+    return size >= rowSize && (size - rowSize) / image_.bytesPerRow >= image_.height - 1;
+  }
+  [[nodiscard]] Bytes Row(std::size_t y) const {
+    return provided_.View().subspan(y * image_.bytesPerRow, image_.RowSize());
+  }
+
+ private:
+  const CGImage& image_;
+  CGProvidedBytes provided_;
+};
+
+std::size_t NumberIn(Bytes row, std::size_t at, std::size_t bits) {
+  const std::size_t bit = at * bits;
+  return row[bit / 8] >> (8 - bits - bit % 8) & ((1U << bits) - 1);
+}
+
+std::uint32_t ColorAt(const CGImage& image, Bytes row, std::size_t x) {
+  if (image.indexed != nullptr) {
+    const auto& table = image.indexed->table;
+    const std::size_t at = NumberIn(row, x, image.bitsPerComponent) * 3;
+    if (at >= table.size()) return OpaquePixel(0, 0, 0);
+    return OpaquePixel(table[at], table[at + 1], table[at + 2]);
+  }
+  if (image.components == 1) return OpaquePixel(row[x], row[x], row[x]);
+  return OpaquePixel(row[3 * x], row[3 * x + 1], row[3 * x + 2]);
+}
+
+/// One of the parts of a picture, looked up by the picture's pixels: image and mask may differ in
+/// size.
+class PicturePart {
+ public:
+  PicturePart(const CGImage& image, const PictureSize& size)
+      : image_(image), rows_(image), size_(size) {}
+
+  [[nodiscard]] bool IsWhole() const { return rows_.AreWhole(); }
+
+  /// @param painted  what an image mask is painted in.
+  void WriteColors(std::size_t y, std::uint32_t painted, std::uint32_t* to) const {
+    const Bytes row = RowAt(y);
+    for (std::size_t x = 0; x < size_.width; ++x) {
+      const std::size_t column = ColumnAt(x);
+      if (image_.isMask) {
+        to[x] = NumberIn(row, column, 1) == 0 ? painted : 0;
+      } else {
+        to[x] = ColorAt(image_, row, column);
+      }
+    }
+  }
+
+  /// Fades pixels to how much is seen of each.
+  void Fade(std::size_t y, std::uint32_t* pixels) const {
+    const Bytes row = RowAt(y);
+    for (std::size_t x = 0; x < size_.width; ++x)
+      pixels[x] = Faded(pixels[x], AlphaAt(row, ColumnAt(x)));
+  }
+
+ private:
+  [[nodiscard]] std::uint8_t AlphaAt(Bytes row, std::size_t column) const {
+    if (!image_.isMask) return row[column];
+    return NumberIn(row, column, 1) == 0 ? 255 : 0;
+  }
+  [[nodiscard]] Bytes RowAt(std::size_t y) const {
+    return rows_.Row(y * image_.height / size_.height);
+  }
+  [[nodiscard]] std::size_t ColumnAt(std::size_t x) const { return x * image_.width / size_.width; }
+
+  const CGImage& image_;
+  SourceRows rows_;
+  PictureSize size_;
+};
+
+PictureSize SizeOf(const CGImage& image) {
+  if (image.mask == nullptr) return {image.width, image.height};
+  return {std::max(image.width, image.mask->width), std::max(image.height, image.mask->height)};
+}
+
+CairoOwned<cairo_surface_t> Make(const CGImage& image, const CGColor& paint) {
+  constexpr std::size_t kMostASide = 32767;
+  const PictureSize size = SizeOf(image);
+  if (image.encoding != CGImage::Encoding::kPixels) return nullptr;
+  if (size.width > kMostASide || size.height > kMostASide) return nullptr;
+  const PicturePart colors(image, size);
+  std::optional<PicturePart> mask;
+  if (image.mask != nullptr) mask.emplace(*image.mask, size);
+  if (!colors.IsWhole() || (mask && !mask->IsWhole())) return nullptr;
+  CairoOwned<cairo_surface_t> surface(Cairo().createImage(
+      CAIRO_FORMAT_ARGB32, static_cast<int>(size.width), static_cast<int>(size.height)));
+  if (Cairo().statusOfSurface(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+  const PixelRows pixels(surface.get());
+  const std::uint32_t painted = OpaquePixel(paint);
+  for (std::size_t y = 0; y < size.height; ++y) {
+    colors.WriteColors(y, painted, pixels.Row(y));
+    if (mask) mask->Fade(y, pixels.Row(y));
+  }
+  return surface;
+}
+
+}  // namespace
+
+cairo_surface_t* RasterImages::PixelsOf(const CGImage& image, const CGColor& paint) {
+  constexpr std::size_t kRoom = std::size_t{1} << 24;  // pixels
+  const Key key = {image.serial, image.isMask ? OpaquePixel(paint) : 0};
+  const auto known = kept_.find(key);
+  if (known != kept_.end()) return known->second.get();
+  const PictureSize extent = SizeOf(image);
+  const std::size_t size = extent.width * extent.height;
+  if (pixels_ + size > kRoom) {
+    kept_.clear();
+    pixels_ = 0;
+  }
+  pixels_ += size;
+  return kept_.emplace(key, Make(image, paint)).first->second.get();
+}
+
+CGAffineTransform PixelsToSquare(cairo_surface_t* pixels) {
+  const auto width = static_cast<CGFloat>(Cairo().widthOf(pixels));
+  const auto height = static_cast<CGFloat>(Cairo().heightOf(pixels));
+  return {1 / width, 0, 0, -1 / height, 0, 1};
+}
+
+}  // namespace kelvane

@@ -1,0 +1,173 @@
+#include "platform/raster/raster_paint.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <new>
+#include <utility>
+#include <variant>
+
+#include "platform/raster/raster_geometry.h"
+
+namespace kelvane {
+namespace {
+
+/// @return whole pixels, of which a cell has some, but not more than a page.
+int PixelsIn(double length) {
+  constexpr double kMost = 4096;
+  return static_cast<int>(std::clamp(std::round(length), 1.0, kMost));
+}
+
+/// @param toTarget  from the pattern's own space.
+void Place(cairo_pattern_t* pattern, const CGAffineTransform& toTarget) {
+  const cairo_matrix_t matrix = MatrixOf(CGAffineTransformInvert(toTarget));
+  Cairo().setPatternMatrix(pattern, &matrix);
+}
+
+CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading) {
+  CairoOwned<cairo_pattern_t> pattern(
+      Cairo().createLinear(shading.start.x, shading.start.y, shading.end.x, shading.end.y));
+  for (const CGGradientStop& stop : shading.stops) {
+    Cairo().addStop(pattern.get(), stop.location, stop.color.red, stop.color.green, stop.color.blue,
+                    stop.color.alpha);
+  }
+  Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
+  return pattern;
+}
+
+/// A triangle is a patch whose last corner is the first again.
+CairoOwned<cairo_pattern_t> Gradient(const CGTriangleMesh& mesh) {
+  CairoOwned<cairo_pattern_t> pattern(Cairo().createMesh());
+  for (std::size_t at = 0; at + 2 < mesh.vertices.size(); at += 3) {
+    const CGMeshVertex* const corners = &mesh.vertices[at];
+    Cairo().beginPatch(pattern.get());
+    Cairo().patchMoveTo(pattern.get(), corners[0].point.x, corners[0].point.y);
+    for (unsigned i = 1; i < 3; ++i)
+      Cairo().patchLineTo(pattern.get(), corners[i].point.x, corners[i].point.y);
+    for (unsigned i = 0; i < 4; ++i) {
+      const CGColor& color = corners[i % 3].color;
+      Cairo().setCornerColor(pattern.get(), i, color.red, color.green, color.blue, color.alpha);
+    }
+    Cairo().endPatch(pattern.get());
+  }
+  return pattern;
+}
+
+/// @param toTarget  from the shading's space.
+CairoOwned<cairo_pattern_t> Shaded(const CGShading& shading, const CGAffineTransform& toTarget) {
+  auto pattern = std::visit([](const auto& kind) { return Gradient(kind); }, shading);
+  Place(pattern.get(), toTarget);
+  return pattern;
+}
+
+}  // namespace
+
+CairoOwned<cairo_pattern_t> RasterPaints::ImagePattern(cairo_surface_t* pixels,
+                                                       const CGImage& image,
+                                                       const CGAffineTransform& toTarget) {
+  // Where Windows smooths between pixels, each has its colour at its upper left corner.
+  constexpr CGAffineTransform kFromCorner = {1, 0, 0, 1, -0.5F, -0.5F};
+  CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(pixels));
+  const bool isEnlarged = LengthScale(toTarget) >= 1;
+  const bool isSmooth = isEnlarged && image.interpolate;
+  Place(pattern.get(), isSmooth ? CGAffineTransformConcat(kFromCorner, toTarget) : toTarget);
+  Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
+  Cairo().setFilter(pattern.get(), isSmooth     ? CAIRO_FILTER_BILINEAR
+                                   : isEnlarged ? CAIRO_FILTER_NEAREST
+                                                : CAIRO_FILTER_GOOD);  // by area
+  return pattern;
+}
+
+void RasterPaints::SetSource(cairo_t* drawing, const CGColor& color,
+                             const CGSharedPattern& pattern) {
+  if (pattern == nullptr) {
+    return Cairo().setColor(drawing, color.red, color.green, color.blue, 1);
+  }
+  if (pattern != lastShared_) {
+    last_ = PatternOf(*pattern);
+    lastShared_ = pattern;
+  }
+  Cairo().setSource(drawing, last_.get());
+}
+
+void RasterPaints::SetSource(cairo_t* drawing, const CGShading& shading) {
+  Cairo().setSource(drawing, Shaded(shading, toPixels_).get());
+}
+
+CairoOwned<cairo_pattern_t> RasterPaints::PatternOf(const CGPattern& pattern) {
+  if (!pattern.shading) return Tiling(pattern);
+  return Shaded(*pattern.shading, CGAffineTransformConcat(pattern.matrix, toPixels_));
+}
+
+/// A cell is painted once, in whole pixels: so upright ones have edges as sharp as on Windows,
+/// wherever they lie.
+CairoOwned<cairo_pattern_t> RasterPaints::Tiling(const CGPattern& pattern) {
+  const CGAffineTransform toTarget = CGAffineTransformConcat(pattern.matrix, toPixels_);
+  const CGSize step = {pattern.cell.width * (pattern.mirrorsX ? 2.0F : 1.0F) + pattern.gap.width,
+                       pattern.cell.height * (pattern.mirrorsY ? 2.0F : 1.0F) + pattern.gap.height};
+  const int across = PixelsIn(step.width * std::hypot(toTarget.a, toTarget.b));
+  const int down = PixelsIn(step.height * std::hypot(toTarget.c, toTarget.d));
+  const CGAffineTransform toTile = {
+      static_cast<CGFloat>(across) / step.width, 0, 0,
+      -static_cast<CGFloat>(down) / step.height, 0, static_cast<CGFloat>(down)};
+  const CairoOwned<cairo_surface_t> tile(Cairo().createImage(CAIRO_FORMAT_ARGB32, across, down));
+  if (Cairo().statusOfSurface(tile.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+  const CairoOwned<cairo_t> drawing(Cairo().create(tile.get()));
+  DrawCell(drawing.get(), pattern, toTile);
+  CairoOwned<cairo_pattern_t> tiles(Cairo().createSurfacePattern(tile.get()));
+  Cairo().setExtend(tiles.get(), CAIRO_EXTEND_REPEAT);
+  const bool isUpright = toTarget.b == 0 && toTarget.c == 0;
+  Cairo().setFilter(tiles.get(), isUpright ? CAIRO_FILTER_NEAREST : CAIRO_FILTER_BILINEAR);
+  Place(tiles.get(), CGAffineTransformConcat(CGAffineTransformInvert(toTile), toTarget));
+  return tiles;
+}
+
+/// @param toTile  from pattern space to the cell's pixels.
+void RasterPaints::DrawCell(cairo_t* drawing, const CGPattern& pattern,
+                            const CGAffineTransform& toTile) {
+  CGPath edge;
+  edge.AddRectangle({0, 0}, {pattern.cell.width * (pattern.mirrorsX ? 2.0F : 1.0F),
+                             pattern.cell.height * (pattern.mirrorsY ? 2.0F : 1.0F)});
+  SetPath(drawing, edge, toTile);
+  Cairo().clip(drawing);
+  if (pattern.image != nullptr) DrawCellImages(drawing, pattern, toTile);
+  for (const CGPatternShape& shape : pattern.shapes) {
+    Cairo().setColor(drawing, shape.color.red, shape.color.green, shape.color.blue,
+                     shape.color.alpha);
+    SetPath(drawing, shape.path, toTile);
+    Cairo().fill(drawing);
+  }
+}
+
+void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
+                                  const CGAffineTransform& toTile) {
+  cairo_surface_t* const pixels = images_.PixelsOf(*pattern.image, {});
+  if (pixels == nullptr) return;
+  const CGSize cell = pattern.cell;
+  const CGAffineTransform toCell =
+      CGAffineTransformConcat(PixelsToSquare(pixels), {cell.width, 0, 0, cell.height, 0, 0});
+  Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_NONE);
+  for (int row = 0; row < (pattern.mirrorsY ? 2 : 1); ++row) {
+    for (int column = 0; column < (pattern.mirrorsX ? 2 : 1); ++column) {
+      const CGAffineTransform mirrored = {column == 0 ? 1.0F : -1.0F,
+                                          0,
+                                          0,
+                                          row == 0 ? 1.0F : -1.0F,
+                                          column == 0 ? 0 : 2 * cell.width,
+                                          row == 0 ? 0 : 2 * cell.height};
+      const auto image =
+          ImagePattern(pixels, *pattern.image,
+                       CGAffineTransformConcat(CGAffineTransformConcat(toCell, mirrored), toTile));
+      CGPath place;
+      place.AddRectangle(
+          {static_cast<CGFloat>(column) * cell.width, static_cast<CGFloat>(row) * cell.height},
+          cell);
+      Cairo().setSource(drawing, image.get());
+      SetPath(drawing, place, toTile);
+      Cairo().fill(drawing);
+    }
+  }
+  Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_DEFAULT);
+}
+
+}  // namespace kelvane

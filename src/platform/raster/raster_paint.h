@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/quartz/cg_color_space.h"
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_image.h"
+#include "platform/quartz/cg_pattern.h"
+#include "platform/quartz/cg_shading.h"
+#include "platform/raster/cairo_library.h"
+#include "platform/raster/raster_image.h"
+
+namespace kelvane {
+
+/// What marks are filled with, as Cairo has it.
+class RasterPaints {
+ public:
+  /// @param toPixels  from page space. @param images  borrowed.
+  RasterPaints(const CGAffineTransform& toPixels, RasterImages& images)
+      : toPixels_(toPixels), images_(images) {}
+
+  /// Makes a colour, or a pattern in its place, the source.
+  void SetSource(cairo_t* drawing, const CGColor& color, const CGSharedPattern& pattern);
+
+  /// @param shading  page space.
+  void SetSource(cairo_t* drawing, const CGShading& shading);
+
+  /// @param pixels    of an image. @param toTarget  from its pixels, y downwards.
+  /// @param image     says how it is enlarged.
+  static CairoOwned<cairo_pattern_t> ImagePattern(cairo_surface_t* pixels, const CGImage& image,
+                                                  const CGAffineTransform& toTarget);
+
+ private:
+  CairoOwned<cairo_pattern_t> PatternOf(const CGPattern& pattern);
+  CairoOwned<cairo_pattern_t> Tiling(const CGPattern& pattern);
+  void DrawCell(cairo_t* drawing, const CGPattern& pattern, const CGAffineTransform& toTile);
+  void DrawCellImages(cairo_t* drawing, const CGPattern& pattern, const CGAffineTransform& toTile);
+
+  CGAffineTransform toPixels_;
+  RasterImages& images_;
+  CGSharedPattern lastShared_;  // patterns are used again and again
+  CairoOwned<cairo_pattern_t> last_;
+};
+
+}  // namespace kelvane
