@@ -28,7 +28,7 @@ TEST_F(ReadmeCommands, OfTheToolWork) {
                                             "-c", "PATH=" + tools + ":$PATH; " + i->str(1)});
     EXPECT_EQ(result.status, 0) << i->str(1) << "\n" << result.output;
   }
-  EXPECT_EQ(count, 7U);
+  EXPECT_EQ(count, 8U);
 }
 
 }  // namespace

@@ -172,7 +172,8 @@ TEST(CGBitmapContext, CombinesTheBitsOfMarksWithThoseBelow) {
 }
 
 TEST(CGBitmapContext, CombinesImagesWithPaintAndWhatIsBelow) {
-  static constexpr std::uint8_t kMerged = 0xCA;  // the image where paint has bits, else what is there
+  static constexpr std::uint8_t kMerged =
+      0xCA;  // the image where paint has bits, else what is there
   const auto image = test::ImageOf(1, 1, 3, {0xAA, 0xAA, 0xAA});
   const Raster picture = BitmapOf([&](CGContextRef c) {
     SetFill(c, 0x55 / 255.0F, 0x55 / 255.0F, 0x55 / 255.0F);
