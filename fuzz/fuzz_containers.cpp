@@ -3,25 +3,15 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <exception>
-#include <ostream>
 #include <span>
-#include <streambuf>
 #include <vector>
 
-#include "frontends/inspection/dump.h"
-#include "frontends/inspection/info.h"
-#include "frontends/picture_conversion.h"
+#include "playing.h"
 #include "support/containers.h"
 
 namespace {
 
 using Container = std::span<const unsigned char>;
-
-/// Takes everything, keeps nothing.
-class Unread final : public std::streambuf {
-  std::streamsize xsputn(const char* /*text*/, std::streamsize size) override { return size; }
-};
 
 /// Each record is its type, a byte, how many sixteens of bytes it has, and these.
 std::vector<unsigned char> JobOf(Container input) {
@@ -35,23 +25,12 @@ std::vector<unsigned char> JobOf(Container input) {
   return job.Build();
 }
 
-void DrawAndPrint(Container file) {
-  try {
-    kelvane::ConvertPicture(file, {});
-  } catch (const std::exception&) {  // no document can be made of it
-  }
-  Unread unread;
-  std::ostream out(&unread);
-  kelvane::Dump(file, out);
-  kelvane::InfoOf(file, "fuzz");
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-  DrawAndPrint({data, size});
+  kelvane::fuzzing::PlayAndPrint({data, size});
   const std::vector<unsigned char> job = JobOf({data, size});
-  DrawAndPrint(job);
-  DrawAndPrint(kelvane::test::Gzipped(job));
+  kelvane::fuzzing::PlayAndPrint(job);
+  kelvane::fuzzing::PlayAndPrint(kelvane::test::Gzipped(job));
   return 0;
 }

@@ -4,26 +4,16 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <exception>
-#include <ostream>
 #include <span>
-#include <streambuf>
 #include <vector>
 
-#include "frontends/inspection/dump.h"
-#include "frontends/inspection/info.h"
-#include "frontends/picture_conversion.h"
 #include "metafile/wmf/wmf_record_type.h"
+#include "playing.h"
 #include "support/windows_metafile.h"
 
 namespace {
 
 using Input = std::span<const unsigned char>;
-
-/// Takes everything, keeps nothing.
-class NoText final : public std::streambuf {
-  std::streamsize xsputn(const char* /*text*/, std::streamsize size) override { return size; }
-};
 
 std::uint16_t TypeOf(unsigned lowByte) {
   for (unsigned high = 0; high < 16; ++high) {
@@ -48,21 +38,10 @@ std::vector<unsigned char> Framed(Input input) {
   return metafile.Build();
 }
 
-void PlayAndPrint(Input file) {
-  try {
-    kelvane::ConvertPicture(file, {});
-  } catch (const std::exception&) {  // no document can be made of it
-  }
-  NoText nowhere;
-  std::ostream out(&nowhere);
-  kelvane::Dump(file, out);
-  kelvane::InfoOf(file, "fuzz");
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-  PlayAndPrint({data, size});
-  PlayAndPrint(Framed({data, size}));
+  kelvane::fuzzing::PlayAndPrint({data, size});
+  kelvane::fuzzing::PlayAndPrint(Framed({data, size}));
   return 0;
 }
