@@ -14,6 +14,18 @@ inline WindowsMetafile OnPlainPage() {
   return windows;
 }
 
+inline constexpr RectangleL kBox = {20, 30, 60, 70};
+
+// A box that shows the state, of either kind of metafiles.
+
+inline void Box(WindowsMetafile& windows) {
+  windows.Record(0x041B, {70, 60, 30, 20});
+}
+
+inline void Box(Metafile& enhanced) {
+  enhanced.Rectangle(kBox);
+}
+
 // Text in a font of 20 units, of either kind of metafiles.
 
 inline WindowsMetafile& SelectPlainFont(WindowsMetafile& windows) {
