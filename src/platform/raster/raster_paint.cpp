@@ -68,7 +68,8 @@ CairoOwned<cairo_pattern_t> RasterPaints::ImagePattern(cairo_surface_t* pixels,
   // Where Windows smooths between pixels, each has its colour at its upper left corner.
   constexpr CGAffineTransform kFromCorner = {1, 0, 0, 1, -0.5F, -0.5F};
   CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(pixels));
-  const bool isEnlarged = LengthScale(toTarget) >= 1;
+  constexpr double kAsLarge = 0.999;  // but for rounding
+  const bool isEnlarged = LengthScale(toTarget) >= kAsLarge;
   const bool isSmooth = isEnlarged && image.interpolate;
   Place(pattern.get(), isSmooth ? CGAffineTransformConcat(kFromCorner, toTarget) : toTarget);
   Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
