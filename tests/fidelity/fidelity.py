@@ -49,7 +49,7 @@ class Judge:
 
     def output_of(self, subject: Subject, truth: Path) -> Path:
         """Pixels are made as large as each truth is; other formats are made once."""
-        name = truth.stem if self.ending == "png" else subject.name
+        name = f"{subject.name}-{truth.stem}" if self.ending == "png" else subject.name
         return self.folder / f"{name}.{self.ending}"
 
     def convert(self, subject: Subject) -> None:
