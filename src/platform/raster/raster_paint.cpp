@@ -60,18 +60,31 @@ CairoOwned<cairo_pattern_t> Shaded(const CGShading& shading, const CGAffineTrans
   return pattern;
 }
 
+/// @return half a pixel down and to the right, in the pixels of a cell.
+CGPoint HalfPixelIn(const CGAffineTransform& toTile, const CGAffineTransform& toTarget) {
+  CGAffineTransform matrix = CGAffineTransformConcat(CGAffineTransformInvert(toTarget), toTile);
+  matrix.tx = 0;
+  matrix.ty = 0;
+  return CGPointApplyAffineTransform({0.5F, 0.5F}, matrix);
+}
+
 }  // namespace
 
 CairoOwned<cairo_pattern_t> RasterPaints::ImagePattern(cairo_surface_t* pixels,
                                                        const CGImage& image,
-                                                       const CGAffineTransform& toTarget) {
-  // Where Windows smooths between pixels, each has its colour at its upper left corner.
+                                                       const CGAffineTransform& toTarget,
+                                                       CGPoint halfPixel) {
+  // Where Windows smooths, it looks at the upper left corners of the pixels it paints, and takes
+  // those of the image to have their colours there.
   constexpr CGAffineTransform kFromCorner = {1, 0, 0, 1, -0.5F, -0.5F};
+  const CGAffineTransform toMiddle = {1, 0, 0, 1, halfPixel.x, halfPixel.y};
   CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(pixels));
   constexpr double kAsLarge = 0.999;  // but for rounding
   const bool isEnlarged = LengthScale(toTarget) >= kAsLarge;
   const bool isSmooth = isEnlarged && image.interpolate;
-  Place(pattern.get(), isSmooth ? CGAffineTransformConcat(kFromCorner, toTarget) : toTarget);
+  const CGAffineTransform cornersToMiddles =
+      CGAffineTransformConcat(CGAffineTransformConcat(kFromCorner, toTarget), toMiddle);
+  Place(pattern.get(), isSmooth ? cornersToMiddles : toTarget);
   Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
   Cairo().setFilter(pattern.get(), isSmooth     ? CAIRO_FILTER_BILINEAR
                                    : isEnlarged ? CAIRO_FILTER_NEAREST
@@ -147,6 +160,7 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
   const CGSize cell = pattern.cell;
   const CGAffineTransform toCell =
       CGAffineTransformConcat(PixelsToSquare(pixels), {cell.width, 0, 0, cell.height, 0, 0});
+  const CGPoint halfPixel = HalfPixelIn(toTile, CGAffineTransformConcat(pattern.matrix, toPixels_));
   Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_NONE);
   for (int row = 0; row < (pattern.mirrorsY ? 2 : 1); ++row) {
     for (int column = 0; column < (pattern.mirrorsX ? 2 : 1); ++column) {
@@ -156,9 +170,9 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
                                           row == 0 ? 1.0F : -1.0F,
                                           column == 0 ? 0 : 2 * cell.width,
                                           row == 0 ? 0 : 2 * cell.height};
-      const auto image =
-          ImagePattern(pixels, *pattern.image,
-                       CGAffineTransformConcat(CGAffineTransformConcat(toCell, mirrored), toTile));
+      const auto image = ImagePattern(
+          pixels, *pattern.image,
+          CGAffineTransformConcat(CGAffineTransformConcat(toCell, mirrored), toTile), halfPixel);
       CGPath place;
       place.AddRectangle(
           {static_cast<CGFloat>(column) * cell.width, static_cast<CGFloat>(row) * cell.height},

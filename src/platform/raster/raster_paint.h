@@ -23,10 +23,13 @@ class RasterPaints {
   /// @param shading  page space.
   void SetSource(cairo_t* drawing, const CGShading& shading);
 
-  /// @param pixels    of an image. @param toTarget  from its pixels, y downwards.
-  /// @param image     says how it is enlarged.
+  /// @param pixels     of an image. @param toTarget  from its pixels, y downwards.
+  /// @param image      says how it is enlarged.
+  /// @param halfPixel  from the upper left corner of a pixel of the page to its middle, as the
+  ///                   target has it.
   static CairoOwned<cairo_pattern_t> ImagePattern(cairo_surface_t* pixels, const CGImage& image,
-                                                  const CGAffineTransform& toTarget);
+                                                  const CGAffineTransform& toTarget,
+                                                  CGPoint halfPixel = {0.5F, 0.5F});
 
  private:
   CairoOwned<cairo_pattern_t> PatternOf(const CGPattern& pattern);

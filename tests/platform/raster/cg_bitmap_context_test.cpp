@@ -23,6 +23,8 @@ using testing::StartsWith;
 
 using Bytes = std::vector<unsigned char>;
 
+constexpr Raster::Color kBlack = {0, 0, 0};
+
 /// Red, green, blue and alpha of all pixels.
 Bytes PixelsOf(const std::string& file) {
   const std::span<const unsigned char> bytes(reinterpret_cast<const unsigned char*>(file.data()),
@@ -117,6 +119,28 @@ TEST(CGBitmapContext, ShrinksImagesByArea) {
       },
       {.width = 1, .height = 1}));
   EXPECT_NEAR(picture.At(0, 0)[0], 128, 8);
+}
+
+TEST(CGBitmapContext, LooksAtTheCornersOfPixelsWhereItSmooths) {
+  const auto image = test::ImageOf(2, 1, 1, {0, 255});
+  const Raster raster = BitmapOf([&](CGContextRef c) {
+    CGContextDrawImage(c, {{0, 0}, {100, 100}}, image.get());
+  });
+  EXPECT_EQ(raster.At(0, 50), kBlack);
+  EXPECT_NEAR(raster.At(25, 50)[0], 128, 4);
+  EXPECT_EQ(raster.At(50, 50), test::kWhitePixel);
+  EXPECT_EQ(raster.At(99, 99), test::kWhitePixel);
+}
+
+TEST(CGBitmapContext, LeavesAnImageOfItsOwnSizeAsItIs) {
+  const auto image = test::ImageOf(2, 2, 1, {0, 255, 255, 0});
+  const Raster raster = BitmapOf([&](CGContextRef c) {
+    CGContextDrawImage(c, {{10, 10}, {2, 2}}, image.get());
+  });
+  EXPECT_EQ(raster.At(10, 88), kBlack);
+  EXPECT_EQ(raster.At(11, 88), test::kWhitePixel);
+  EXPECT_EQ(raster.At(10, 89), test::kWhitePixel);
+  EXPECT_EQ(raster.At(11, 89), kBlack);
 }
 
 TEST(CGBitmapContext, LeavesNoSeamBetweenImagesThatMeet) {
