@@ -27,9 +27,9 @@ void AddPolygon(CGPath& path, std::initializer_list<CGPoint> points) {
 
 /// The band through the pixels from one corner of the cell to the other, and what of its
 /// neighbours reaches in at the other two corners. Falling has y upwards here: from the top left.
-void AddDiagonal(CGPath& path, bool isFalling) {
+/// @param h  half of the band, along either axis.
+void AddDiagonal(CGPath& path, bool isFalling, CGFloat h) {
   constexpr CGFloat s = kHatchCell;
-  constexpr CGFloat h = 0.5F;  // half of the band, along either axis
   const auto at = [isFalling](CGFloat x, CGFloat y) { return CGPoint{x, isFalling ? s - y : y}; };
   AddPolygon(path, {at(0, 0), at(h, 0), at(s, s - h), at(s, s), at(s - h, s), at(0, h)});
   AddPolygon(path, {at(s - h, 0), at(s, 0), at(s, h)});
@@ -79,12 +79,12 @@ std::optional<std::vector<unsigned char>> RgbOf(const Dib& dib, const BrushPaint
 }  // namespace
 
 // As thick as a pixel: the fourth row, the fifth column, the diagonals.
-CGPath HatchLines(HatchStyle hatch) {
+CGPath HatchLines(HatchStyle hatch, CGFloat halfBand) {
   CGPath path;
   if (hatch == HS_HORIZONTAL || hatch == HS_CROSS) path.AddRectangle({0, 4}, {kHatchCell, 1});
   if (hatch == HS_VERTICAL || hatch == HS_CROSS) path.AddRectangle({4, 0}, {1, kHatchCell});
-  if (hatch == HS_FDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, true);
-  if (hatch == HS_BDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, false);
+  if (hatch == HS_FDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, true, halfBand);
+  if (hatch == HS_BDIAGONAL || hatch == HS_DIAGCROSS) AddDiagonal(path, false, halfBand);
   return path;
 }
 

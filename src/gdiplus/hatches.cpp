@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <numbers>
 #include <utility>
 
 #include "gdi/brush_pattern.h"
@@ -100,14 +101,15 @@ CGPath PixelsOf(std::uint64_t bits) {
   return path;
 }
 
-/// Lines from corner to corner are those that a device context has, too, and smooth.
+/// Lines from corner to corner are smooth, and as wide as a pixel across.
 CGPath LinesOf(std::uint32_t style) {
   constexpr std::uint32_t kForwardDiagonal = 2;
   constexpr std::uint32_t kBackwardDiagonal = 3;
   constexpr std::uint32_t kDiagonalCross = 5;
-  if (style == kForwardDiagonal) return HatchLines(HS_FDIAGONAL);
-  if (style == kBackwardDiagonal) return HatchLines(HS_BDIAGONAL);
-  if (style == kDiagonalCross) return HatchLines(HS_DIAGCROSS);
+  constexpr auto kHalfBand = std::numbers::sqrt2_v<CGFloat> / 2;
+  if (style == kForwardDiagonal) return HatchLines(HS_FDIAGONAL, kHalfBand);
+  if (style == kBackwardDiagonal) return HatchLines(HS_BDIAGONAL, kHalfBand);
+  if (style == kDiagonalCross) return HatchLines(HS_DIAGCROSS, kHalfBand);
   return PixelsOf(kHatchBits[style]);
 }
 

@@ -76,6 +76,12 @@ TEST(HatchBrush, RepeatsItsPixelsOverItsBackground) {
             "end-pattern\n");
 }
 
+TEST(HatchBrush, HasDiagonalsAsWideAsAPixelAcross) {
+  constexpr std::uint32_t kForwardDiagonal = 2;
+  const std::string trace = PaintedWith(EmfPlusHatchBrush{kForwardDiagonal, kRed, kClearBlue});
+  EXPECT_NE(trace.find("move 0 8\nline 0.70710677 8\n"), std::string::npos) << trace;
+}
+
 TEST(HatchBrush, BeginsAtTheRenderingOrigin) {
   TracedGraphics graphics;
   graphics->state.renderingOrigin = {3, 2};
