@@ -113,7 +113,7 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
     Draw([&] {
       if (image.isMask && State().fillPattern != nullptr) return FillThrough(image, matrix);
       const std::string element =
-          paints_->ImageElement(image, State().fillColor, OfPixels(image, matrix), 1);
+          paints_->ImageElement(image, State().fillColor, OfPixels(image, matrix));
       if (element.empty()) return;
       body_ += element;
       if (State().alpha != 1) AppendSvgAttribute(body_, "opacity", State().alpha);

@@ -61,4 +61,22 @@ void SvgEnlarging::Enlarge(PngPicture& picture, PixelBytes& rows) {
   picture.height *= factor;
 }
 
+void GoOnByOnePixel(PngPicture& picture, PixelBytes& rows) {
+  const std::size_t rowSize = PngRowSize(picture);
+  const std::size_t pixelSize = PngComponents(picture.color);
+  PixelBytes larger;
+  larger.reserve((picture.width + 1) * (picture.height + 1) * pixelSize);
+  for (std::size_t y = 0; y <= picture.height; ++y) {
+    const std::size_t from = std::min(y, picture.height - 1);
+    const PixelBytes row = WideRow(picture, picture.rows.subspan(from * rowSize, rowSize), 1);
+    larger.insert(larger.end(), row.begin(), row.end());
+    AppendRepeated(larger, std::span(row).last(pixelSize), 1);
+  }
+  rows = std::move(larger);
+  picture.rows = rows;
+  picture.bits = 8;
+  picture.width += 1;
+  picture.height += 1;
+}
+
 }  // namespace kelvane

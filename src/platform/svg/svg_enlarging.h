@@ -19,4 +19,7 @@ class SvgEnlarging {
   std::size_t left_ = std::size_t{1} << 21;  // pixels that a document may still gain
 };
 
+/// Adds a column to the right and a row below, of the pixels beside them. @param rows  keeps them.
+void GoOnByOnePixel(PngPicture& picture, std::vector<unsigned char>& rows);
+
 }  // namespace kelvane

@@ -102,11 +102,18 @@ void AppendColor(std::vector<unsigned char>& colors, const CGColor& color) {
   colors.insert(colors.end(), {SvgByte(color.red), SvgByte(color.green), SvgByte(color.blue)});
 }
 
-std::string Extent(const CGImage& image) {
+std::string Extent(std::size_t width, std::size_t height) {
   std::string text;
-  AppendSvgAttribute(text, "width", static_cast<double>(image.width));
-  AppendSvgAttribute(text, "height", static_cast<double>(image.height));
+  AppendSvgAttribute(text, "width", static_cast<double>(width));
+  AppendSvgAttribute(text, "height", static_cast<double>(height));
   return text;
+}
+
+/// @return whether all of an image goes into one PNG file.
+bool IsOnePicture(const CGImage& image) {
+  const CGImage* const mask = image.mask.get();
+  return IsPixels(image) &&
+         (mask == nullptr || (mask->width == image.width && mask->height == image.height));
 }
 
 /// ` xlink:href="#name"`, with what brings an image to the size of another.
@@ -122,17 +129,34 @@ std::string Use(const std::string& name, const CGImage& image, const CGImage& si
 }  // namespace
 
 const std::string& SvgImages::Add(const CGImage& image, const CGColor& paint, bool isSharp) {
-  CGColor bare = paint;
-  bare.alpha = 0;
-  return StoreOnce(image, image.isMask ? Look{paint, bare, isSharp} : Look{{}, {}, isSharp});
+  return StoreOnce(image, LookOf(image, paint, isSharp ? Pixels::kEnlarged : Pixels::kAsTheyAre));
 }
 
 const std::string& SvgImages::AddLightness(const CGImage& image, bool isSharp) {
-  return StoreOnce(image, image.isMask ? Look{kWhite, kBlack, isSharp} : Look{{}, {}, isSharp});
+  const Pixels pixels = isSharp ? Pixels::kEnlarged : Pixels::kAsTheyAre;
+  return StoreOnce(image, image.isMask ? Look{kWhite, kBlack, pixels} : Look{{}, {}, pixels});
+}
+
+std::string SvgImages::AddShifted(const CGImage& image, const CGColor& paint) {
+  constexpr std::size_t kMostPixels = std::size_t{1} << 22;  // more are seldom told apart
+  const bool isSmall = image.width <= kMostPixels / image.height;
+  if (!isSmall || !IsOnePicture(image)) return Add(image, paint, false);
+  const std::string& name = StoreOnce(image, LookOf(image, paint, Pixels::kGoOn));
+  if (name.empty()) return {};
+  const std::string edge = definitions_.Reference(
+      "clipPath", "><rect" + Extent(image.width, image.height) + "/></clipPath>");
+  return std::string(definitions_.Add("g", " clip-path=\"" + edge + "\"><use xlink:href=\"#" +
+                                               name + R"(" x="-.5" y="-.5"/></g>)"));
+}
+
+SvgImages::Look SvgImages::LookOf(const CGImage& image, const CGColor& paint, Pixels pixels) {
+  CGColor bare = paint;
+  bare.alpha = 0;
+  return image.isMask ? Look{paint, bare, pixels} : Look{{}, {}, pixels};
 }
 
 const std::string& SvgImages::StoreOnce(const CGImage& image, const Look& look) {
-  const Key key = {image.serial, NumberOf(look.painted) << 32 | NumberOf(look.bare), look.isSharp};
+  const Key key = {image.serial, NumberOf(look.painted) << 32 | NumberOf(look.bare), look.pixels};
   const auto known = stored_.find(key);
   if (known != stored_.end()) return known->second;
   return stored_.emplace(key, Store(image, look)).first->second;
@@ -146,7 +170,8 @@ std::string SvgImages::StoreBare(const CGImage& image, const Look& look) {
   if (!IsPixels(image)) {
     const CGProvidedBytes file = image.provider->Provide();
     const Bytes bytes = file.View();
-    return Define(image, "jpeg", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    return Define(image.width, image.height, "jpeg",
+                  {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   }
   const ImageRows rows(image);
   return StorePixels(image, rows.View(), look);
@@ -169,39 +194,42 @@ std::string SvgImages::StorePixels(const CGImage& image, Bytes rows, const Look&
   } else {
     picture.color = image.components == 1 ? PngColor::kGrey : PngColor::kRgb;
   }
-  return DefinePicture(image, picture, look.isSharp);
+  return DefinePicture(image, picture, look.pixels);
 }
 
-std::string SvgImages::DefinePicture(const CGImage& image, PngPicture picture, bool isSharp) {
+std::string SvgImages::DefinePicture(const CGImage& image, PngPicture picture, Pixels pixels) {
   std::vector<unsigned char> larger;
-  if (isSharp) enlarging_.Enlarge(picture, larger);
-  return Define(image, "png", PngFile(picture, deflater_));
+  const std::size_t more = pixels == Pixels::kGoOn ? 1 : 0;
+  if (pixels == Pixels::kEnlarged) enlarging_.Enlarge(picture, larger);
+  if (pixels == Pixels::kGoOn) GoOnByOnePixel(picture, larger);
+  return Define(image.width + more, image.height + more, "png", PngFile(picture, deflater_));
 }
 
 // A mask of the same size goes into the file. Another one, and that of a JPEG file, stays apart.
 std::string SvgImages::StoreMasked(const CGImage& image, const Look& look) {
   const CGImage& mask = *image.mask;
-  if (IsPixels(image) && mask.width == image.width && mask.height == image.height) {
+  if (IsOnePicture(image)) {
     const ImageRows rows(image);
     const ImageRows maskRows(mask);
     if (rows.View().empty() || maskRows.View().empty()) return {};
     const auto pixels = MaskedPixels(image, rows.View(), maskRows.View());
     return DefinePicture(image, {image.width, image.height, PngColor::kRgba, 8, pixels},
-                         look.isSharp);
+                         look.pixels);
   }
   const std::string name = StoreBare(image, look);
-  const std::string lightness = AddLightness(mask, look.isSharp);
+  const std::string lightness = AddLightness(mask, look.pixels == Pixels::kEnlarged);
   if (name.empty() || lightness.empty()) return {};
-  const std::string reference =
-      definitions_.Reference("mask", R"( maskUnits="userSpaceOnUse" x="0" y="0")" + Extent(image) +
-                                         "><use" + Use(lightness, mask, image) + "/></mask>");
+  const std::string reference = definitions_.Reference(
+      "mask", R"( maskUnits="userSpaceOnUse" x="0" y="0")" + Extent(image.width, image.height) +
+                  "><use" + Use(lightness, mask, image) + "/></mask>");
   return std::string(
       definitions_.Add("use", Use(name, image, image) + " mask=\"" + reference + "\"/>"));
 }
 
-std::string SvgImages::Define(const CGImage& image, std::string_view type, std::string_view file) {
+std::string SvgImages::Define(std::size_t width, std::size_t height, std::string_view type,
+                              std::string_view file) {
   if (file.empty()) return {};
-  std::string rest = Extent(image);
+  std::string rest = Extent(width, height);
   // Pixels lie as they are stored, whatever a camera noted beside them.
   if (type == "jpeg") rest += " style=\"image-orientation:none\"";
   rest.append(" xlink:href=\"data:image/").append(type).append(";base64,");

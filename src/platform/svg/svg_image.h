@@ -35,14 +35,26 @@ class SvgImages {
   /// @return the name of the same as lightness, which is what masks are made of; empty as above.
   const std::string& AddLightness(const CGImage& image, bool isSharp);
 
+  /// As `Add`, for an image that is smoothed: pixels have their colours at their upper left
+  /// corners, not in their middles. Very large images, those with a mask of another size and JPEG
+  /// files stay as they are.
+  std::string AddShifted(const CGImage& image, const CGColor& paint);
+
  private:
+  enum class Pixels : std::uint8_t {
+    kAsTheyAre,
+    kEnlarged,  // where that pays
+    kGoOn,      // by one to the right and downwards
+  };
   /// How an image is to look.
   struct Look {
     CGColor painted;  // what bits of 0 of an image mask become
     CGColor bare;     // and those of 1
-    bool isSharp;
+    Pixels pixels;
   };
-  using Key = std::tuple<std::uint64_t, std::uint64_t, bool>;  // the serial, colours, sharpness
+  using Key = std::tuple<std::uint64_t, std::uint64_t, Pixels>;  // the serial, both colours
+
+  static Look LookOf(const CGImage& image, const CGColor& paint, Pixels pixels);
 
   const std::string& StoreOnce(const CGImage& image, const Look& look);
   std::string Store(const CGImage& image, const Look& look);
@@ -50,8 +62,9 @@ class SvgImages {
   std::string StoreMasked(const CGImage& image, const Look& look);
   std::string StorePixels(const CGImage& image, std::span<const unsigned char> rows,
                           const Look& look);
-  std::string DefinePicture(const CGImage& image, PngPicture picture, bool isSharp);
-  std::string Define(const CGImage& image, std::string_view type, std::string_view file);
+  std::string DefinePicture(const CGImage& image, PngPicture picture, Pixels pixels);
+  std::string Define(std::size_t width, std::size_t height, std::string_view type,
+                     std::string_view file);
 
   SvgDefinitions& definitions_;
   Deflater deflater_;

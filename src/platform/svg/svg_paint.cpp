@@ -1,6 +1,7 @@
 #include "platform/svg/svg_paint.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -37,6 +38,24 @@ std::pair<CGFloat, CGFloat> RowAt(int row, int rows, CGFloat height) {
                   : std::pair(-height, height);
 }
 
+/// Where Windows smooths, it looks at the upper left corners of a screen's pixels, and takes those
+/// of an image to have their colours there. Viewers take the middles for both, which comes to the
+/// same only where the pixels are equally large.
+bool IsShifted(const CGImage& image, const CGAffineTransform& toPage) {
+  constexpr double kScreenPixel = 0.75;  // points
+  constexpr double kAlmostNone = 0.01;
+  return image.interpolate && std::abs(LengthScale(toPage) / kScreenPixel - 1) > kAlmostNone;
+}
+
+/// @return the element of an image of that name without its end; empty when there is none.
+std::string UseOf(const std::string& name, const CGAffineTransform& toPage, bool isSharp) {
+  if (name.empty()) return {};
+  std::string element = "<use xlink:href=\"#" + name + "\"";
+  AppendSvgTransform(element, "transform", toPage);
+  if (isSharp) element += " style=\"image-rendering:pixelated\"";
+  return element;
+}
+
 }  // namespace
 
 bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double scale) {
@@ -45,14 +64,10 @@ bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double sc
 }
 
 std::string SvgPaints::ImageElement(const CGImage& image, const CGColor& color,
-                                    const CGAffineTransform& toPage, double scale) {
-  const bool isSharp = SvgIsSharp(image, toPage, scale);
-  const std::string& name = images_.Add(image, color, isSharp);
-  if (name.empty()) return {};
-  std::string element = "<use xlink:href=\"#" + name + "\"";
-  AppendSvgTransform(element, "transform", toPage);
-  if (isSharp) element += " style=\"image-rendering:pixelated\"";
-  return element;
+                                    const CGAffineTransform& toPage) {
+  if (IsShifted(image, toPage)) return UseOf(images_.AddShifted(image, color), toPage, false);
+  const bool isSharp = SvgIsSharp(image, toPage, 1);
+  return UseOf(images_.Add(image, color, isSharp), toPage, isSharp);
 }
 
 std::string SvgPaints::PaintOf(const CGColor& color, const CGSharedPattern& pattern,
@@ -109,8 +124,9 @@ std::string SvgPaints::CellOf(const CGPattern& pattern, double scale) {
       const auto [height, top] = RowAt(row, Rows(pattern), pattern.cell.height);
       const auto pixelsAcross = static_cast<CGFloat>(pattern.image->width);
       const auto pixelsDown = static_cast<CGFloat>(pattern.image->height);
-      const std::string image = ImageElement(
-          *pattern.image, {}, {width / pixelsAcross, 0, 0, height / pixelsDown, left, top}, scale);
+      const CGAffineTransform toCell = {width / pixelsAcross, 0, 0, height / pixelsDown, left, top};
+      const bool isSharp = SvgIsSharp(*pattern.image, toCell, scale);
+      const std::string image = UseOf(images_.Add(*pattern.image, {}, isSharp), toCell, isSharp);
       if (!image.empty()) text += image + "/>";
     }
   }

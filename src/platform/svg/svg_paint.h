@@ -33,10 +33,9 @@ class SvgPaints {
 
   /// Draws an image.
   /// @param toPage  maps its pixels, y downwards from its top left corner, to where it is drawn.
-  /// @param scale   points a unit there. @return the element without its end; empty when there is
-  ///                nothing to draw.
+  /// @return the element without its end; empty when there is nothing to draw.
   std::string ImageElement(const CGImage& image, const CGColor& color,
-                           const CGAffineTransform& toPage, double scale);
+                           const CGAffineTransform& toPage);
 
  private:
   std::string PatternPaint(const CGPattern& pattern, const CGAffineTransform& transform);
@@ -49,6 +48,7 @@ class SvgPaints {
   std::map<CGSharedPattern, std::string> plain_;  // for elements without a transform
 };
 
+/// @param scale  points a unit of that page.
 /// @return whether Windows shows the pixels of the image, which is drawn that large.
 bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double scale);
 

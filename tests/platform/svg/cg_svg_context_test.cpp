@@ -118,10 +118,31 @@ TEST(CGSVGContext, DefinesEqualClipsImagesAndGradientsOnce) {
       CGContextRestoreGState(c);
     }
   });
-  EXPECT_EQ(CountOf(body, "<clipPath"), 1U);
+  EXPECT_EQ(CountOf(body, "<clipPath"), 2U);  // and the edge of the image, which is smooth
   EXPECT_EQ(CountOf(body, "<image"), 1U);
   EXPECT_EQ(CountOf(body, "<linearGradient"), 1U);
-  EXPECT_EQ(CountOf(body, "<use xlink:href=\"#i0\""), 3U);
+  EXPECT_EQ(CountOf(body, "<use xlink:href=\"#i0\""), 1U);
+  EXPECT_EQ(CountOf(body, "<use xlink:href=\"#g0\""), 3U);
+}
+
+TEST(CGSVGContext, HasColorsOfSmoothImagesInTheCornersOfTheirPixels) {
+  const auto image = test::ImageOf(2, 1, 1, {0, 255});
+  const test::Raster raster = test::RasterOfSvg(SvgOf([&](CGContextRef c) {
+    CGContextDrawImage(c, {{0, 0}, {80, 80}}, image.get());
+  }));
+  EXPECT_LE(raster.At(0, 50)[0], 6);  // the middle of the first pixel of the page
+  EXPECT_NEAR(raster.At(20, 50)[0], 128, 6);
+  EXPECT_EQ(raster.At(40, 50), test::kWhitePixel);
+  EXPECT_EQ(raster.At(0, 19), test::kWhitePixel);  // above the image
+}
+
+TEST(CGSVGContext, LeavesSmoothImagesOfTheScreensSizeWhereTheyAre) {
+  const auto image = test::ImageOf(2, 1, 1, {0, 255});
+  EXPECT_THAT(SvgBodyOf([&](CGContextRef c) {
+                CGContextDrawImage(c, {{0, 0}, {1.5F, 0.75F}}, image.get());
+              }),
+              testing::AllOf(HasSubstr("<image id=\"i0\" width=\"2\" height=\"1\""),
+                             Not(HasSubstr("clip"))));
 }
 
 TEST(CGSVGContext, KeepsJpegFilesAsTheyAre) {
