@@ -222,7 +222,8 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
                        "\n"
                        R"(<svg xmlns="http://www.w3.org/2000/svg")"
                        R"( xmlns:xlink="http://www.w3.org/1999/xlink" version="1.1")";
-    if (hasText_) text += R"( xml:space="preserve")";
+    // Without the second some browsers place letters on whole pixels.
+    if (hasText_) text += R"( xml:space="preserve" text-rendering="geometricPrecision")";
     // What marks are mixed with is this page alone.
     if (isBlended_) text += R"( style="isolation:isolate")";
     const char* names[] = {" width=\"", " height=\""};

@@ -209,6 +209,12 @@ TEST(CGSVGContext, CarriesTheFacesOfItsText) {
   EXPECT_THAT(bare, HasSubstr("font-family:'Liberation Sans',Arial,Helvetica,sans-serif}"));
 }
 
+TEST(CGSVGContext, WantsLettersBetweenPixelsWhereThereAreAny) {
+  const std::string wish = "text-rendering=\"geometricPrecision\"";
+  EXPECT_THAT(SvgOf([](CGContextRef c) { test::DrawText(c, u"Ab"); }), HasSubstr(wish));
+  EXPECT_THAT(SvgOf([](CGContextRef c) { FillRect(c, {{0, 0}, {1, 1}}); }), Not(HasSubstr(wish)));
+}
+
 TEST(CGSVGContext, NamesWeightAndSlantOfAFace) {
   EXPECT_THAT(SvgBodyOf([](CGContextRef c) {
                 test::DrawText(c, u"Ab", {.font = "Liberation Serif Bold Italic"});
