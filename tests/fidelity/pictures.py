@@ -61,7 +61,8 @@ def with_chromium(document: Path, width: int, height: int, page: Path) -> list:
     """Shows the document as an image in the corner of a window, which is never small."""
     shown = page.with_suffix(".html")
     size = f"width={width} height={height}"
-    shown.write_text(f'<body style="margin:0"><img style="display:block" {size} src="{document.absolute().as_uri()}">')
+    source = f"{document.absolute().as_uri()}#svgView(preserveAspectRatio(none))"
+    shown.write_text(f'<body style="margin:0"><img style="display:block" {size} src="{source}">')
     window = f"--window-size={max(width, SMALLEST_WINDOW)},{max(height, SMALLEST_WINDOW)}"
     own = ["--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--force-color-profile=srgb"]
     profile = f"--user-data-dir={page.parent / 'browser'}"

@@ -12,6 +12,8 @@
 #include "support/files.h"
 #include "support/paths.h"
 #include "support/process.h"
+#include "support/svg.h"
+#include "support/text.h"
 
 namespace kelvane::test {
 namespace {
@@ -131,6 +133,14 @@ TEST(AnSvgInABrowser, ShowsItsTextInTheFontThatItCarries) {
                              "const answer = [...document.fonts].map("
                              "face => face.family + ' ' + face.status).join();"),
             "f0 loaded");
+}
+
+TEST(AnSvgInABrowser, KeepsEveryBlankOfItsText) {
+  const std::string svg = SvgOf([](CGContextRef c) { DrawText(c, u"  A  B "); });
+  EXPECT_EQ(AnswerInABrowser(svg,
+                             "const answer = [...document.querySelectorAll('text')].map("
+                             "text => text.getNumberOfChars()).join();"),
+            "7");
 }
 
 }  // namespace

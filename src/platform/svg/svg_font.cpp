@@ -104,8 +104,9 @@ std::string SvgFont::Rules(bool isEmbedded) const {
   for (const auto& [ours, theirs] : kRelatives) {
     if (family == ours) families.append(theirs).append(",");
   }
-  return rules + "." + name_ + "{" + style + "font-kerning:none;font-family:" + families +
-         GenericFamily(face) + "}";
+  // Browsers look for xml:space at an element of text alone.
+  return rules + "." + name_ + "{" + style +
+         "white-space:pre;font-kerning:none;font-family:" + families + GenericFamily(face) + "}";
 }
 
 /// @return the face as data; empty when it may not travel or cannot.

@@ -200,10 +200,8 @@ TEST(CGSVGContext, TellsPlacesThatAreNotThoseOfTheFace) {
 TEST(CGSVGContext, CarriesTheFacesOfItsText) {
   const test::Drawing draw = [](CGContextRef c) { test::DrawText(c, u"Ab"); };
   EXPECT_THAT(SvgOf(draw), HasSubstr("@font-face{font-family:f0;src:url(data:font/woff2;base64,"));
-  EXPECT_THAT(
-      SvgOf(draw),
-      HasSubstr(
-          ".f0{font-kerning:none;font-family:f0,'Liberation Sans',Arial,Helvetica,sans-serif}"));
+  EXPECT_THAT(SvgOf(draw), HasSubstr(".f0{white-space:pre;font-kerning:none;font-family:f0,'"
+                                     "Liberation Sans',Arial,Helvetica,sans-serif}"));
   const std::string bare = SvgOf(draw, test::kPageBox, {.title = {}, .embedsFonts = false});
   EXPECT_THAT(bare, Not(HasSubstr("@font-face")));
   EXPECT_THAT(bare, HasSubstr("font-family:'Liberation Sans',Arial,Helvetica,sans-serif}"));
@@ -219,7 +217,7 @@ TEST(CGSVGContext, NamesWeightAndSlantOfAFace) {
   EXPECT_THAT(SvgBodyOf([](CGContextRef c) {
                 test::DrawText(c, u"Ab", {.font = "Liberation Serif Bold Italic"});
               }),
-              HasSubstr(".f0{font-weight:700;font-style:italic;font-kerning:none;"
+              HasSubstr(".f0{font-weight:700;font-style:italic;white-space:pre;font-kerning:none;"
                         "font-family:f0,'Liberation Serif','Times New Roman',Times,serif}"));
 }
 
