@@ -11,6 +11,8 @@
 namespace kelvane {
 namespace {
 
+constexpr double kPointsAnInch = 72;
+
 struct PixelSize {
   double width;
   double height;
@@ -18,7 +20,6 @@ struct PixelSize {
 
 /// @param page  points.
 PixelSize PixelsOf(const ConversionOptions& options, CGSize page) {
-  constexpr double kPointsAnInch = 72;
   constexpr double kUsualDots = 96;
   const PageSizeWish& wish = options.size;
   if (wish.width && wish.height) return {*wish.width, *wish.height};
@@ -30,9 +31,8 @@ PixelSize PixelsOf(const ConversionOptions& options, CGSize page) {
 
 CFOwned<CGContext> BitmapSurface(const ConversionOptions& options, CGSize page,
                                  CGDataConsumerRef consumer) {
-  constexpr double kMostASide = 32767;
+  constexpr double kMostASide = kCGBitmapMostASide;
   constexpr double kMostPixels = 1U << 28;
-  constexpr double kPointsAnInch = 72;
   const PixelSize exact = PixelsOf(options, page);
   const double width = std::max(std::round(exact.width), 1.0);
   const double height = std::max(std::round(exact.height), 1.0);

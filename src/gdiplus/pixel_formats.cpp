@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 
+#include "base/packed_number.h"
 #include "metafile/alpha_multiplied.h"
 
 namespace kelvane::gdiplus {
@@ -126,10 +127,9 @@ std::vector<unsigned char> Indexed(const EmfPlusPixels& pixels, unsigned bits) {
   std::vector<unsigned char> rgba;
   rgba.reserve(4 * pixels.width * pixels.height);
   for (std::size_t y = 0; y < pixels.height; ++y) {
-    PixelBytes row = pixels.rows.data() + y * pixels.stride;
+    const std::span<const unsigned char> row = std::span(pixels.rows).subspan(y * pixels.stride);
     for (std::size_t x = 0; x < pixels.width; ++x) {
-      const std::size_t bit = x * bits;
-      const unsigned index = row[bit / 8] >> (8 - bits - bit % 8) & ((1U << bits) - 1);
+      const unsigned char index = PackedNumber(row, x, bits);
       Append(rgba, index < pixels.palette.size() ? pixels.palette[index] : kBlack);
     }
   }

@@ -25,14 +25,6 @@ QPDFObjectHandle NewPattern(PatternType type, const CGAffineTransform& m) {
   return dictionary;
 }
 
-/// How many images a cell of the document holds, next to each other and above each other.
-int Columns(const CGPattern& pattern) {
-  return pattern.mirrorsX ? 2 : 1;
-}
-int Rows(const CGPattern& pattern) {
-  return pattern.mirrorsY ? 2 : 1;
-}
-
 /// Viewers give an image every pixel that it touches, and mirror images touch each other: each is
 /// taken in by less than anyone can see.
 /// @return what maps the unit square to a column's or row's part along one axis: scale and shift.
@@ -46,10 +38,10 @@ void DrawImages(const CGPattern& pattern, QPDFObjectHandle image, PdfResources& 
                 PdfContent& content) {
   if (image.isNull()) return;
   const std::string& name = resources.NameOf(image, kPdfImage);
-  for (int row = 0; row < Rows(pattern); ++row) {
-    for (int column = 0; column < Columns(pattern); ++column) {
-      const auto [width, left] = PartAt(column, Columns(pattern), pattern.cell.width);
-      const auto [height, bottom] = PartAt(row, Rows(pattern), pattern.cell.height);
+  for (int row = 0; row < pattern.Rows(); ++row) {
+    for (int column = 0; column < pattern.Columns(); ++column) {
+      const auto [width, left] = PartAt(column, pattern.Columns(), pattern.cell.width);
+      const auto [height, bottom] = PartAt(row, pattern.Rows(), pattern.cell.height);
       content.Save();
       content.Concat({width, 0, 0, height, left, bottom});
       content.DrawXObject(name);
@@ -86,8 +78,7 @@ QPDFObjectHandle AddTiling(PdfWriter& writer, const CGPattern& pattern, PdfImage
 
   constexpr int kColored = 1;
   constexpr int kConstantSpacing = 1;
-  const CGSize cell = {pattern.cell.width * static_cast<CGFloat>(Columns(pattern)),
-                       pattern.cell.height * static_cast<CGFloat>(Rows(pattern))};
+  const CGSize cell = pattern.TileSize();
   auto dictionary = NewPattern(kTiling, pattern.matrix);
   dictionary.replaceKey("/PaintType", QPDFObjectHandle::newInteger(kColored));
   dictionary.replaceKey("/TilingType", QPDFObjectHandle::newInteger(kConstantSpacing));

@@ -35,6 +35,16 @@ struct CGPattern {
   // What is drawn in a cell, in this order; nothing beyond it shows.
   CFOwned<const CGImage> image;  // over the whole cell, its top row along the upper edge; or null
   std::vector<CGPatternShape> shapes;
+
+  // What is repeated: so many images, mirror images among them, next to and above each other.
+  [[nodiscard]] int Columns() const { return mirrorsX ? 2 : 1; }
+  [[nodiscard]] int Rows() const { return mirrorsY ? 2 : 1; }
+
+  /// @return the extent of them all, without the gap.
+  [[nodiscard]] CGSize TileSize() const {
+    return {cell.width * static_cast<CGFloat>(Columns()),
+            cell.height * static_cast<CGFloat>(Rows())};
+  }
 };
 
 /// Null where there is a plain colour.

@@ -23,8 +23,6 @@
 namespace kelvane {
 namespace {
 
-constexpr std::size_t kMostASide = 32767;  // of Cairo's images
-
 constexpr std::array<cairo_operator_t, kCGBlendModes> kOperators = {
     CAIRO_OPERATOR_OVER,          CAIRO_OPERATOR_MULTIPLY,       CAIRO_OPERATOR_SCREEN,
     CAIRO_OPERATOR_OVERLAY,       CAIRO_OPERATOR_DARKEN,         CAIRO_OPERATOR_LIGHTEN,
@@ -380,7 +378,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
 };
 
 bool IsSide(std::size_t pixels) {
-  return pixels >= 1 && pixels <= kMostASide;
+  return pixels >= 1 && pixels <= kCGBitmapMostASide;
 }
 
 }  // namespace

@@ -9,9 +9,11 @@
 
 namespace kelvane {
 
+inline constexpr std::size_t kCGBitmapMostASide = 32767;  // pixels, which is what Cairo has
+
 /// A picture of pixels as it is to be made.
 struct CGBitmapDescription {
-  std::size_t width = 0;                                    // pixels, at least 1, at most 32767
+  std::size_t width = 0;                                    // pixels, 1 to kCGBitmapMostASide
   std::size_t height = 0;                                   // rows, as many
   std::optional<CGColor> background = CGColor{1, 1, 1, 1};  // none: what is not painted is clear
   double dotsPerInch = 96;                                  // as the file says it

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "platform/quartz/cg_image_pixel.h"
+#include "platform/raster/cg_bitmap_context.h"
 #include "platform/raster/raster_pixel.h"
 
 namespace kelvane {
@@ -37,22 +39,6 @@ class SourceRows {
   CGProvidedBytes provided_;
 };
 
-std::size_t NumberIn(Bytes row, std::size_t at, std::size_t bits) {
-  const std::size_t bit = at * bits;
-  return row[bit / 8] >> (8 - bits - bit % 8) & ((1U << bits) - 1);
-}
-
-std::uint32_t ColorAt(const CGImage& image, Bytes row, std::size_t x) {
-  if (image.indexed != nullptr) {
-    const auto& table = image.indexed->table;
-    const std::size_t at = NumberIn(row, x, image.bitsPerComponent) * 3;
-    if (at >= table.size()) return OpaquePixel(0, 0, 0);
-    return OpaquePixel(table[at], table[at + 1], table[at + 2]);
-  }
-  if (image.components == 1) return OpaquePixel(row[x], row[x], row[x]);
-  return OpaquePixel(row[3 * x], row[3 * x + 1], row[3 * x + 2]);
-}
-
 /// One of the parts of a picture, looked up by the picture's pixels: image and mask may differ in
 /// size.
 class PicturePart {
@@ -68,9 +54,10 @@ class PicturePart {
     for (std::size_t x = 0; x < size_.width; ++x) {
       const std::size_t column = ColumnAt(x);
       if (image_.isMask) {
-        to[x] = NumberIn(row, column, 1) == 0 ? painted : 0;
+        to[x] = AlphaInRow(image_, row, column) != 0 ? painted : 0;
       } else {
-        to[x] = ColorAt(image_, row, column);
+        const auto [red, green, blue] = ColorInRow(image_, row, column);
+        to[x] = OpaquePixel(red, green, blue);
       }
     }
   }
@@ -79,14 +66,10 @@ class PicturePart {
   void Fade(std::size_t y, std::uint32_t* pixels) const {
     const Bytes row = RowAt(y);
     for (std::size_t x = 0; x < size_.width; ++x)
-      pixels[x] = Faded(pixels[x], AlphaAt(row, ColumnAt(x)));
+      pixels[x] = Faded(pixels[x], AlphaInRow(image_, row, ColumnAt(x)));
   }
 
  private:
-  [[nodiscard]] std::uint8_t AlphaAt(Bytes row, std::size_t column) const {
-    if (!image_.isMask) return row[column];
-    return NumberIn(row, column, 1) == 0 ? 255 : 0;
-  }
   [[nodiscard]] Bytes RowAt(std::size_t y) const {
     return rows_.Row(y * image_.height / size_.height);
   }
@@ -103,10 +86,9 @@ PictureSize SizeOf(const CGImage& image) {
 }
 
 CairoOwned<cairo_surface_t> Make(const CGImage& image, const CGColor& paint) {
-  constexpr std::size_t kMostASide = 32767;
   const PictureSize size = SizeOf(image);
   if (image.encoding != CGImage::Encoding::kPixels) return nullptr;
-  if (size.width > kMostASide || size.height > kMostASide) return nullptr;
+  if (size.width > kCGBitmapMostASide || size.height > kCGBitmapMostASide) return nullptr;
   const PicturePart colors(image, size);
   std::optional<PicturePart> mask;
   if (image.mask != nullptr) mask.emplace(*image.mask, size);

@@ -117,8 +117,8 @@ CairoOwned<cairo_pattern_t> RasterPaints::PatternOf(const CGPattern& pattern) {
 /// wherever they lie.
 CairoOwned<cairo_pattern_t> RasterPaints::Tiling(const CGPattern& pattern) {
   const CGAffineTransform toTarget = CGAffineTransformConcat(pattern.matrix, toPixels_);
-  const CGSize step = {pattern.cell.width * (pattern.mirrorsX ? 2.0F : 1.0F) + pattern.gap.width,
-                       pattern.cell.height * (pattern.mirrorsY ? 2.0F : 1.0F) + pattern.gap.height};
+  const CGSize size = pattern.TileSize();
+  const CGSize step = {size.width + pattern.gap.width, size.height + pattern.gap.height};
   const int across = PixelsIn(step.width * std::hypot(toTarget.a, toTarget.b));
   const int down = PixelsIn(step.height * std::hypot(toTarget.c, toTarget.d));
   const CGAffineTransform toTile = {
@@ -140,8 +140,7 @@ CairoOwned<cairo_pattern_t> RasterPaints::Tiling(const CGPattern& pattern) {
 void RasterPaints::DrawCell(cairo_t* drawing, const CGPattern& pattern,
                             const CGAffineTransform& toTile) {
   CGPath edge;
-  edge.AddRectangle({0, 0}, {pattern.cell.width * (pattern.mirrorsX ? 2.0F : 1.0F),
-                             pattern.cell.height * (pattern.mirrorsY ? 2.0F : 1.0F)});
+  edge.AddRectangle({0, 0}, pattern.TileSize());
   SetPath(drawing, edge, toTile);
   Cairo().clip(drawing);
   if (pattern.image != nullptr) DrawCellImages(drawing, pattern, toTile);
@@ -162,8 +161,8 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
       CGAffineTransformConcat(PixelsToSquare(pixels), {cell.width, 0, 0, cell.height, 0, 0});
   const CGPoint halfPixel = HalfPixelIn(toTile, CGAffineTransformConcat(pattern.matrix, toPixels_));
   Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_NONE);
-  for (int row = 0; row < (pattern.mirrorsY ? 2 : 1); ++row) {
-    for (int column = 0; column < (pattern.mirrorsX ? 2 : 1); ++column) {
+  for (int row = 0; row < pattern.Rows(); ++row) {
+    for (int column = 0; column < pattern.Columns(); ++column) {
       const CGAffineTransform mirrored = {column == 0 ? 1.0F : -1.0F,
                                           0,
                                           0,

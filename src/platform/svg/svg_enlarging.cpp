@@ -5,6 +5,8 @@
 #include <span>
 #include <utility>
 
+#include "base/packed_number.h"
+
 namespace kelvane {
 namespace {
 

@@ -1,13 +1,13 @@
 #include "platform/svg/svg_image.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "base/base64.h"
+#include "platform/quartz/cg_image_pixel.h"
 #include "platform/svg/svg_color.h"
 #include "platform/svg/svg_number.h"
 
@@ -45,28 +45,6 @@ bool IsPixels(const CGImage& image) {
   return image.encoding == CGImage::Encoding::kPixels;
 }
 
-/// Appends the colour of a pixel.
-void AppendColor(std::vector<unsigned char>& to, const CGImage& image, Bytes row, std::size_t x) {
-  if (image.indexed != nullptr) {
-    constexpr std::array<unsigned char, 3> kNone = {};
-    const auto& table = image.indexed->table;
-    const std::size_t at = std::size_t{PackedNumber(row, x, image.bitsPerComponent)} * 3;
-    const auto* const color = at < table.size() ? table.data() + at : kNone.data();
-    to.insert(to.end(), color, color + 3);
-  } else if (image.components == 1) {
-    to.insert(to.end(), 3, row[x]);
-  } else {
-    to.insert(to.end(), row.begin() + static_cast<std::ptrdiff_t>(x * 3),
-              row.begin() + static_cast<std::ptrdiff_t>(x * 3 + 3));
-  }
-}
-
-/// @return how much of a pixel is seen.
-unsigned char AlphaIn(const CGImage& mask, Bytes row, std::size_t x) {
-  if (!mask.isMask) return row[x];
-  return PackedNumber(row, x, 1) == 0 ? 255 : 0;
-}
-
 /// An image and its mask, which is as large, in one.
 std::vector<unsigned char> MaskedPixels(const CGImage& image, Bytes rows, Bytes maskRows) {
   const CGImage& mask = *image.mask;
@@ -76,8 +54,8 @@ std::vector<unsigned char> MaskedPixels(const CGImage& image, Bytes rows, Bytes 
     const Bytes row = rows.subspan(y * image.RowSize(), image.RowSize());
     const Bytes maskRow = maskRows.subspan(y * mask.RowSize(), mask.RowSize());
     for (std::size_t x = 0; x < image.width; ++x) {
-      AppendColor(pixels, image, row, x);
-      pixels.push_back(AlphaIn(mask, maskRow, x));
+      const auto [red, green, blue] = ColorInRow(image, row, x);
+      pixels.insert(pixels.end(), {red, green, blue, AlphaInRow(mask, maskRow, x)});
     }
   }
   return pixels;
@@ -109,6 +87,11 @@ std::string Extent(std::size_t width, std::size_t height) {
   return text;
 }
 
+CGColor Clear(CGColor color) {
+  color.alpha = 0;
+  return color;
+}
+
 /// @return whether all of an image goes into one PNG file.
 bool IsOnePicture(const CGImage& image) {
   const CGImage* const mask = image.mask.get();
@@ -129,19 +112,18 @@ std::string Use(const std::string& name, const CGImage& image, const CGImage& si
 }  // namespace
 
 const std::string& SvgImages::Add(const CGImage& image, const CGColor& paint, bool isSharp) {
-  return StoreOnce(image, LookOf(image, paint, isSharp ? Pixels::kEnlarged : Pixels::kAsTheyAre));
+  return StoreOnce(image, {paint, Clear(paint), PixelsFor(isSharp)});
 }
 
 const std::string& SvgImages::AddLightness(const CGImage& image, bool isSharp) {
-  const Pixels pixels = isSharp ? Pixels::kEnlarged : Pixels::kAsTheyAre;
-  return StoreOnce(image, image.isMask ? Look{kWhite, kBlack, pixels} : Look{{}, {}, pixels});
+  return StoreOnce(image, {kWhite, kBlack, PixelsFor(isSharp)});
 }
 
 std::string SvgImages::AddShifted(const CGImage& image, const CGColor& paint) {
   constexpr std::size_t kMostPixels = std::size_t{1} << 22;  // more are seldom told apart
   const bool isSmall = image.width <= kMostPixels / image.height;
   if (!isSmall || !IsOnePicture(image)) return Add(image, paint, false);
-  const std::string& name = StoreOnce(image, LookOf(image, paint, Pixels::kGoOn));
+  const std::string& name = StoreOnce(image, {paint, Clear(paint), Pixels::kGoOn});
   if (name.empty()) return {};
   const std::string edge = definitions_.Reference(
       "clipPath", "><rect" + Extent(image.width, image.height) + "/></clipPath>");
@@ -149,14 +131,13 @@ std::string SvgImages::AddShifted(const CGImage& image, const CGColor& paint) {
                                                name + R"(" x="-.5" y="-.5"/></g>)"));
 }
 
-SvgImages::Look SvgImages::LookOf(const CGImage& image, const CGColor& paint, Pixels pixels) {
-  CGColor bare = paint;
-  bare.alpha = 0;
-  return image.isMask ? Look{paint, bare, pixels} : Look{{}, {}, pixels};
+SvgImages::Pixels SvgImages::PixelsFor(bool isSharp) {
+  return isSharp ? Pixels::kEnlarged : Pixels::kAsTheyAre;
 }
 
 const std::string& SvgImages::StoreOnce(const CGImage& image, const Look& look) {
-  const Key key = {image.serial, NumberOf(look.painted) << 32 | NumberOf(look.bare), look.pixels};
+  const std::uint64_t colors = NumberOf(look.painted) << 32 | NumberOf(look.bare);
+  const Key key = {image.serial, image.isMask ? colors : 0, look.pixels};
   const auto known = stored_.find(key);
   if (known != stored_.end()) return known->second;
   return stored_.emplace(key, Store(image, look)).first->second;

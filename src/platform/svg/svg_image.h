@@ -48,13 +48,13 @@ class SvgImages {
   };
   /// How an image is to look.
   struct Look {
-    CGColor painted;  // what bits of 0 of an image mask become
+    CGColor painted;  // what bits of 0 of an image mask become; of other images it does not matter
     CGColor bare;     // and those of 1
     Pixels pixels;
   };
   using Key = std::tuple<std::uint64_t, std::uint64_t, Pixels>;  // the serial, both colours
 
-  static Look LookOf(const CGImage& image, const CGColor& paint, Pixels pixels);
+  static Pixels PixelsFor(bool isSharp);
 
   const std::string& StoreOnce(const CGImage& image, const Look& look);
   std::string Store(const CGImage& image, const Look& look);

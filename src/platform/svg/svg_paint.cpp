@@ -15,19 +15,6 @@ namespace {
 
 constexpr const char* kCrisp = " shape-rendering=\"crispEdges\"";  // edges that meet leave no seam
 
-/// How many images a cell of the document holds, next to each other and above each other.
-int Columns(const CGPattern& pattern) {
-  return pattern.mirrorsX ? 2 : 1;
-}
-int Rows(const CGPattern& pattern) {
-  return pattern.mirrorsY ? 2 : 1;
-}
-
-CGSize CellSize(const CGPattern& pattern) {
-  return {pattern.cell.width * static_cast<CGFloat>(Columns(pattern)),
-          pattern.cell.height * static_cast<CGFloat>(Rows(pattern))};
-}
-
 /// Where the image of a column or row lies along one axis: scale and shift. The first is at the
 /// left or at the bottom, which is where y ends; its neighbour is mirrored.
 std::pair<CGFloat, CGFloat> ColumnAt(int column, CGFloat width) {
@@ -101,7 +88,7 @@ std::string SvgPaints::PatternPaint(const CGPattern& pattern, const CGAffineTran
 
 /// @param matrix  from pattern space.
 std::string SvgPaints::TilingPaint(const CGPattern& pattern, const CGAffineTransform& matrix) {
-  const CGSize cell = CellSize(pattern);
+  const CGSize cell = pattern.TileSize();
   std::string text = " patternUnits=\"userSpaceOnUse\"";
   AppendSvgAttribute(text, "width", cell.width + pattern.gap.width);
   AppendSvgAttribute(text, "height", cell.height + pattern.gap.height);
@@ -115,13 +102,13 @@ std::string SvgPaints::TilingPaint(const CGPattern& pattern, const CGAffineTrans
 
 /// What is drawn in a cell, y downwards. What lies beyond it would show in a gap.
 std::string SvgPaints::CellOf(const CGPattern& pattern, double scale) {
-  const CGSize cell = CellSize(pattern);
+  const CGSize cell = pattern.TileSize();
   const SvgGrid grid(std::max(cell.width, cell.height));
   std::string text;
-  for (int row = 0; pattern.image != nullptr && row < Rows(pattern); ++row) {
-    for (int column = 0; column < Columns(pattern); ++column) {
+  for (int row = 0; pattern.image != nullptr && row < pattern.Rows(); ++row) {
+    for (int column = 0; column < pattern.Columns(); ++column) {
       const auto [width, left] = ColumnAt(column, pattern.cell.width);
-      const auto [height, top] = RowAt(row, Rows(pattern), pattern.cell.height);
+      const auto [height, top] = RowAt(row, pattern.Rows(), pattern.cell.height);
       const auto pixelsAcross = static_cast<CGFloat>(pattern.image->width);
       const auto pixelsDown = static_cast<CGFloat>(pattern.image->height);
       const CGAffineTransform toCell = {width / pixelsAcross, 0, 0, height / pixelsDown, left, top};

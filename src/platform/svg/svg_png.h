@@ -31,13 +31,6 @@ std::size_t PngComponents(PngColor color);
 /// @return bytes that a row takes.
 std::size_t PngRowSize(const PngPicture& picture);
 
-/// @return number `at` of a row, of those that have so many bits, from the high ones on.
-inline unsigned char PackedNumber(std::span<const unsigned char> row, std::size_t at,
-                                  std::size_t bits) {
-  const std::size_t bit = at * bits;
-  return static_cast<unsigned char>(row[bit / 8] >> (8 - bits - bit % 8) & ((1U << bits) - 1));
-}
-
 /// @return the bytes of a PNG file; empty for a picture larger than the format has.
 std::string PngFile(const PngPicture& picture, Deflater& deflater);
 
