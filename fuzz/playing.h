@@ -8,12 +8,17 @@
 
 namespace kelvane::fuzzing {
 
-/// Plays a file onto a page, and prints it.
-inline void PlayAndPrint(std::span<const unsigned char> file) {
+/// Plays a file onto a page.
+inline void Play(std::span<const unsigned char> file, const ConversionOptions& options = {}) {
   try {
-    ConvertPicture(file, {});
+    ConvertPicture(file, options);
   } catch (const std::exception&) {  // no document can be made of it
   }
+}
+
+/// Plays a file onto a page, and prints it.
+inline void PlayAndPrint(std::span<const unsigned char> file) {
+  Play(file);
   Print(file);
 }
 
