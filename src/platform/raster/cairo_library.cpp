@@ -43,7 +43,8 @@ void GetDrawing(LoadedFunctions& functions, CairoLibrary& cairo) {
   functions.Get(cairo.setLineCap, "cairo_set_line_cap");
   functions.Get(cairo.setLineJoin, "cairo_set_line_join");
   functions.Get(cairo.setMiterLimit, "cairo_set_miter_limit");
-  functions.Get(cairo.setDash, "cairo_set_dash");
+  functions.Get(cairo.copyPathFlat, "cairo_copy_path_flat");
+  functions.Get(cairo.destroyPath, "cairo_path_destroy");
   functions.Get(cairo.fill, "cairo_fill");
   functions.Get(cairo.stroke, "cairo_stroke");
   functions.Get(cairo.clip, "cairo_clip");
@@ -63,12 +64,6 @@ void GetPatterns(LoadedFunctions& functions, CairoLibrary& cairo) {
   functions.Get(cairo.surfaceOf, "cairo_pattern_get_surface");
   functions.Get(cairo.createLinear, "cairo_pattern_create_linear");
   functions.Get(cairo.addStop, "cairo_pattern_add_color_stop_rgba");
-  functions.Get(cairo.createMesh, "cairo_pattern_create_mesh");
-  functions.Get(cairo.beginPatch, "cairo_mesh_pattern_begin_patch");
-  functions.Get(cairo.endPatch, "cairo_mesh_pattern_end_patch");
-  functions.Get(cairo.patchMoveTo, "cairo_mesh_pattern_move_to");
-  functions.Get(cairo.patchLineTo, "cairo_mesh_pattern_line_to");
-  functions.Get(cairo.setCornerColor, "cairo_mesh_pattern_set_corner_color_rgba");
   functions.Get(cairo.setPatternMatrix, "cairo_pattern_set_matrix");
   functions.Get(cairo.setExtend, "cairo_pattern_set_extend");
   functions.Get(cairo.setFilter, "cairo_pattern_set_filter");

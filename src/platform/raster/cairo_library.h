@@ -41,7 +41,8 @@ struct CairoLibrary {
   decltype(&cairo_set_line_cap) setLineCap = nullptr;
   decltype(&cairo_set_line_join) setLineJoin = nullptr;
   decltype(&cairo_set_miter_limit) setMiterLimit = nullptr;
-  decltype(&cairo_set_dash) setDash = nullptr;
+  decltype(&cairo_copy_path_flat) copyPathFlat = nullptr;
+  decltype(&cairo_path_destroy) destroyPath = nullptr;
   decltype(&cairo_fill) fill = nullptr;
   decltype(&cairo_stroke) stroke = nullptr;
   decltype(&cairo_clip) clip = nullptr;
@@ -60,12 +61,6 @@ struct CairoLibrary {
   decltype(&cairo_pattern_get_surface) surfaceOf = nullptr;
   decltype(&cairo_pattern_create_linear) createLinear = nullptr;
   decltype(&cairo_pattern_add_color_stop_rgba) addStop = nullptr;
-  decltype(&cairo_pattern_create_mesh) createMesh = nullptr;
-  decltype(&cairo_mesh_pattern_begin_patch) beginPatch = nullptr;
-  decltype(&cairo_mesh_pattern_end_patch) endPatch = nullptr;
-  decltype(&cairo_mesh_pattern_move_to) patchMoveTo = nullptr;
-  decltype(&cairo_mesh_pattern_line_to) patchLineTo = nullptr;
-  decltype(&cairo_mesh_pattern_set_corner_color_rgba) setCornerColor = nullptr;
   decltype(&cairo_pattern_set_matrix) setPatternMatrix = nullptr;
   decltype(&cairo_pattern_set_extend) setExtend = nullptr;
   decltype(&cairo_pattern_set_filter) setFilter = nullptr;

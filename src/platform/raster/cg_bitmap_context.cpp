@@ -14,6 +14,7 @@
 #include "platform/quartz/cg_extent.h"
 #include "platform/raster/cairo_library.h"
 #include "platform/raster/png_writer.h"
+#include "platform/raster/raster_dashes.h"
 #include "platform/raster/raster_geometry.h"
 #include "platform/raster/raster_image.h"
 #include "platform/raster/raster_operation.h"
@@ -44,11 +45,20 @@ struct Layer {
   int top = 0;
 };
 
+/// @return how many dashes and gaps a picture has; of more of them no pixel would tell.
+std::size_t MostDashes(const CGBitmapDescription& description) {
+  constexpr std::size_t kAlways = std::size_t{1} << 20;
+  return kAlways + 4 * description.width * description.height;
+}
+
 /// The back end of pixels.
 class CGBitmapContext final : public CGContext, private CGClipOperators {
  public:
   CGBitmapContext(CGDataConsumerRef consumer, const CGBitmapDescription& description)
-      : cairo_(Cairo()), consumer_(CFShare(consumer)), description_(description) {}
+      : cairo_(Cairo()),
+        consumer_(CFShare(consumer)),
+        description_(description),
+        dashesLeft_(MostDashes(description)) {}
 
   void Close() override {
     EndPage();
@@ -74,8 +84,9 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   void PageBegins(const CGRect& box) override {
     isPainting_ = !image_;
     if (!isPainting_) return;
-    image_.reset(cairo_.createImage(CAIRO_FORMAT_ARGB32, static_cast<int>(description_.width),
-                                    static_cast<int>(description_.height)));
+    const PixelCount size = {static_cast<int>(description_.width),
+                             static_cast<int>(description_.height)};
+    image_.reset(cairo_.createImage(CAIRO_FORMAT_ARGB32, size.width, size.height));
     if (cairo_.statusOfSurface(image_.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
     drawing_.reset(cairo_.create(image_.get()));
     if (const auto& color = description_.background) {
@@ -85,7 +96,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     const CGFloat x = static_cast<CGFloat>(description_.width) / box.size.width;
     const CGFloat y = static_cast<CGFloat>(description_.height) / box.size.height;
     toPixels_ = {x, 0, 0, -y, -box.origin.x * x, (box.origin.y + box.size.height) * y};
-    paints_.emplace(toPixels_, images_);
+    paints_.emplace(toPixels_, size, images_);
   }
 
   void PageEnds() override {
@@ -175,28 +186,38 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   /// Strokes the current path.
   void StrokeAs(const CGStrokeGeometry& stroke, const CGGraphicsState& state) {
     cairo_t* const drawing = drawing_.get();
-    const double pixels = LengthScale(toPixels_);
+    const auto pixels = static_cast<CGFloat>(LengthScale(toPixels_));
+    const CGAffineTransform penToPixels = stroke.throughTransform
+                                              ? CGAffineTransformConcat(stroke.transform, toPixels_)
+                                              : CGAffineTransform{pixels, 0, 0, pixels, 0, 0};
+    const double scale = stroke.throughTransform ? 1 : pixels;
+    const double thinnest = stroke.throughTransform ? 0 : 1;
+    const double width = std::max(stroke.width * scale, thinnest);
+    if (!state.dash.IsSolid()) CutIntoDashes(state, stroke, penToPixels, width / scale);
     // The pen is deformed by the matrix at the time of the stroke; the path is there already.
     cairo_.save(drawing);
-    double scale = pixels;
     if (stroke.throughTransform) {
-      const cairo_matrix_t matrix = MatrixOf(CGAffineTransformConcat(stroke.transform, toPixels_));
+      const cairo_matrix_t matrix = MatrixOf(penToPixels);
       cairo_.transform(drawing, &matrix);
-      scale = 1;
     }
-    const double width = stroke.width * scale;
-    const double thinnest = stroke.throughTransform ? 0 : 1;
-    cairo_.setLineWidth(drawing, std::max(width, thinnest));
+    cairo_.setLineWidth(drawing, width);
     cairo_.setLineCap(drawing, kCaps[state.lineCap]);
     cairo_.setLineJoin(drawing, kJoins[state.lineJoin]);
     cairo_.setMiterLimit(drawing, state.miterLimit);
-    std::vector<double> dashes;
-    for (const CGFloat length : state.dash.lengths)
-      dashes.push_back(length * stroke.scale * scale);
-    cairo_.setDash(drawing, dashes.data(), static_cast<int>(dashes.size()),
-                   state.dash.phase * stroke.scale * scale);
     cairo_.stroke(drawing);
     cairo_.restore(drawing);
+  }
+
+  /// @param width  of the pen, in its own lengths.
+  void CutIntoDashes(const CGGraphicsState& state, const CGStrokeGeometry& stroke,
+                     const CGAffineTransform& penToPixels, double width) {
+    RasterDashes dashes = {{}, state.dash.phase * stroke.scale, penToPixels};
+    for (const CGFloat length : state.dash.lengths)
+      dashes.lengths.push_back(double{length} * stroke.scale);
+    const double longest = std::max(std::hypot(penToPixels.a, penToPixels.b),
+                                    std::hypot(penToPixels.c, penToPixels.d));
+    kelvane::CutIntoDashes(drawing_.get(), dashes,
+                           width * longest * std::max<double>(state.miterLimit, 1), dashesLeft_);
   }
 
   template <class PaintIt>
@@ -373,6 +394,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   std::optional<RasterPaints> paints_;
   std::map<std::pair<CGFontRef, CGGlyph>, CGPath> outlines_;
   CGClipWriter clips_;
+  std::size_t dashesLeft_;
   bool isPainting_ = false;
   bool hasPaper_ = false;
 };

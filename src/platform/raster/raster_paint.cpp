@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "platform/raster/raster_geometry.h"
+#include "platform/raster/raster_mesh.h"
 
 namespace kelvane {
 namespace {
@@ -24,7 +25,9 @@ void Place(cairo_pattern_t* pattern, const CGAffineTransform& toTarget) {
   Cairo().setPatternMatrix(pattern, &matrix);
 }
 
-CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading) {
+/// @param toTarget  from the shading's space.
+CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading,
+                                     const CGAffineTransform& toTarget) {
   CairoOwned<cairo_pattern_t> pattern(
       Cairo().createLinear(shading.start.x, shading.start.y, shading.end.x, shading.end.y));
   for (const CGGradientStop& stop : shading.stops) {
@@ -32,30 +35,6 @@ CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading) {
                     stop.color.alpha);
   }
   Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
-  return pattern;
-}
-
-/// A triangle is a patch whose last corner is the first again.
-CairoOwned<cairo_pattern_t> Gradient(const CGTriangleMesh& mesh) {
-  CairoOwned<cairo_pattern_t> pattern(Cairo().createMesh());
-  for (std::size_t at = 0; at + 2 < mesh.vertices.size(); at += 3) {
-    const CGMeshVertex* const corners = &mesh.vertices[at];
-    Cairo().beginPatch(pattern.get());
-    Cairo().patchMoveTo(pattern.get(), corners[0].point.x, corners[0].point.y);
-    for (unsigned i = 1; i < 3; ++i)
-      Cairo().patchLineTo(pattern.get(), corners[i].point.x, corners[i].point.y);
-    for (unsigned i = 0; i < 4; ++i) {
-      const CGColor& color = corners[i % 3].color;
-      Cairo().setCornerColor(pattern.get(), i, color.red, color.green, color.blue, color.alpha);
-    }
-    Cairo().endPatch(pattern.get());
-  }
-  return pattern;
-}
-
-/// @param toTarget  from the shading's space.
-CairoOwned<cairo_pattern_t> Shaded(const CGShading& shading, const CGAffineTransform& toTarget) {
-  auto pattern = std::visit([](const auto& kind) { return Gradient(kind); }, shading);
   Place(pattern.get(), toTarget);
   return pattern;
 }
@@ -106,6 +85,13 @@ void RasterPaints::SetSource(cairo_t* drawing, const CGColor& color,
 
 void RasterPaints::SetSource(cairo_t* drawing, const CGShading& shading) {
   Cairo().setSource(drawing, Shaded(shading, toPixels_).get());
+}
+
+CairoOwned<cairo_pattern_t> RasterPaints::Shaded(const CGShading& shading,
+                                                 const CGAffineTransform& toTarget) const {
+  if (const auto* const mesh = std::get_if<CGTriangleMesh>(&shading))
+    return MeshPattern(*mesh, toTarget, page_);
+  return Gradient(std::get<CGAxialShading>(shading), toTarget);
 }
 
 CairoOwned<cairo_pattern_t> RasterPaints::PatternOf(const CGPattern& pattern) {

@@ -7,15 +7,17 @@
 #include "platform/quartz/cg_shading.h"
 #include "platform/raster/cairo_library.h"
 #include "platform/raster/raster_image.h"
+#include "platform/raster/raster_mesh.h"
 
 namespace kelvane {
 
 /// What marks are filled with, as Cairo has it.
 class RasterPaints {
  public:
-  /// @param toPixels  from page space. @param images  borrowed.
-  RasterPaints(const CGAffineTransform& toPixels, RasterImages& images)
-      : toPixels_(toPixels), images_(images) {}
+  /// @param toPixels  from page space. @param page  nothing is painted beyond it.
+  /// @param images    borrowed.
+  RasterPaints(const CGAffineTransform& toPixels, const PixelCount& page, RasterImages& images)
+      : toPixels_(toPixels), page_(page), images_(images) {}
 
   /// Makes a colour, or a pattern in its place, the source.
   void SetSource(cairo_t* drawing, const CGColor& color, const CGSharedPattern& pattern);
@@ -32,12 +34,16 @@ class RasterPaints {
                                                   CGPoint halfPixel = {0.5F, 0.5F});
 
  private:
+  /// @param toTarget  from the shading's space to the page's pixels.
+  [[nodiscard]] CairoOwned<cairo_pattern_t> Shaded(const CGShading& shading,
+                                                   const CGAffineTransform& toTarget) const;
   CairoOwned<cairo_pattern_t> PatternOf(const CGPattern& pattern);
   CairoOwned<cairo_pattern_t> Tiling(const CGPattern& pattern);
   void DrawCell(cairo_t* drawing, const CGPattern& pattern, const CGAffineTransform& toTile);
   void DrawCellImages(cairo_t* drawing, const CGPattern& pattern, const CGAffineTransform& toTile);
 
   CGAffineTransform toPixels_;
+  PixelCount page_;
   RasterImages& images_;
   CGSharedPattern lastShared_;  // patterns are used again and again
   CairoOwned<cairo_pattern_t> last_;

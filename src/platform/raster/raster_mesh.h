@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/quartz/cg_geometry.h"
+#include "platform/quartz/cg_shading.h"
+#include "platform/raster/cairo_library.h"
+
+namespace kelvane {
+
+/// How large a picture is.
+struct PixelCount {
+  int width = 0;
+  int height = 0;
+};
+
+/// @param toPixels  from the mesh's space. @param page  nothing is painted beyond it.
+/// @return the triangles as pixels, each of the colour in its middle, clear beside them. It takes
+///         as long as they have pixels on the page, however far they reach.
+CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh,
+                                        const CGAffineTransform& toPixels, const PixelCount& page);
+
+}  // namespace kelvane
