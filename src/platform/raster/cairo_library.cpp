@@ -67,6 +67,7 @@ void GetPatterns(LoadedFunctions& functions, CairoLibrary& cairo) {
   functions.Get(cairo.setPatternMatrix, "cairo_pattern_set_matrix");
   functions.Get(cairo.setExtend, "cairo_pattern_set_extend");
   functions.Get(cairo.setFilter, "cairo_pattern_set_filter");
+  functions.Get(cairo.statusOfPattern, "cairo_pattern_status");
   functions.Get(cairo.destroyPattern, "cairo_pattern_destroy");
 }
 

@@ -64,6 +64,7 @@ struct CairoLibrary {
   decltype(&cairo_pattern_set_matrix) setPatternMatrix = nullptr;
   decltype(&cairo_pattern_set_extend) setExtend = nullptr;
   decltype(&cairo_pattern_set_filter) setFilter = nullptr;
+  decltype(&cairo_pattern_status) statusOfPattern = nullptr;
   decltype(&cairo_pattern_destroy) destroyPattern = nullptr;
 };
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <new>
 #include <optional>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -102,6 +103,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   void PageEnds() override {
     if (!isPainting_) return;
     clips_.End(*this);
+    CheckDrawing();
     isPainting_ = false;
   }
 
@@ -152,6 +154,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     const CGAffineTransform toTarget =
         CGAffineTransformConcat(CGAffineTransformConcat(PixelsToSquare(pixels), matrix), toPixels_);
     const auto pattern = RasterPaints::ImagePattern(pixels, image, toTarget);
+    if (!RasterPaints::Shows(pattern.get())) return;
     const CGBox extent = BoxOf(CGRectApplyAffineTransform({{0, 0}, {1, 1}}, matrix));
     if (image.isMask && State().fillPattern != nullptr) {
       cairo_.setExtend(pattern.get(), CAIRO_EXTEND_NONE);
@@ -193,6 +196,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     const double scale = stroke.throughTransform ? 1 : pixels;
     const double thinnest = stroke.throughTransform ? 0 : 1;
     const double width = std::max(stroke.width * scale, thinnest);
+    if (!(LengthScale(penToPixels) > 0)) return cairo_.newPath(drawing);  // squeezed to nothing
     if (!state.dash.IsSolid()) CutIntoDashes(state, stroke, penToPixels, width / scale);
     // The pen is deformed by the matrix at the time of the stroke; the path is there already.
     cairo_.save(drawing);
@@ -289,11 +293,20 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     cairo_.paint(below.get());
   }
 
+  /// Once it has failed, nothing is drawn any more.
+  void CheckDrawing() const {
+    const cairo_status_t status = cairo_.status(drawing_.get());
+    if (status == CAIRO_STATUS_SUCCESS) return;
+    if (status == CAIRO_STATUS_NO_MEMORY) throw std::bad_alloc();
+    throw std::runtime_error("Cairo cannot draw the picture");
+  }
+
   template <class PaintIt>
   Layer Apart(PaintIt&& paint) {
     cairo_.pushGroup(drawing_.get());
     paint();
     Layer layer = {CairoOwned<cairo_pattern_t>(cairo_.popGroup(drawing_.get())), nullptr};
+    CheckDrawing();
     double x = 0;
     double y = 0;
     cairo_.surfaceOf(layer.pattern.get(), &layer.surface);

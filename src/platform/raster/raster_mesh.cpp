@@ -24,13 +24,9 @@ struct Corner {
   Channels color;
 };
 
-Corner CornerOf(const CGMeshVertex& vertex, const CGAffineTransform& t) {
-  const double x = vertex.point.x;
-  const double y = vertex.point.y;
+Corner CornerOf(const CGMeshVertex& vertex) {
   const CGColor& color = vertex.color;
-  return {t.a * x + t.c * y + t.tx,
-          t.b * x + t.d * y + t.ty,
-          {color.alpha, color.red, color.green, color.blue}};
+  return {vertex.point.x, vertex.point.y, {color.alpha, color.red, color.green, color.blue}};
 }
 
 /// A way along an edge or a row. @param part  0 to 1.
@@ -69,19 +65,17 @@ struct PixelBox {
   [[nodiscard]] bool IsEmpty() const { return left >= right || top >= bottom; }
 };
 
-PixelBox BoxAround(const CGTriangleMesh& mesh, const CGAffineTransform& toPixels,
-                   const PixelCount& page) {
+PixelBox BoxAround(const CGTriangleMesh& mesh, const PixelCount& page) {
   constexpr double kFar = std::numeric_limits<double>::max();
   double left = kFar;
   double top = kFar;
   double right = -kFar;
   double bottom = -kFar;
   for (const CGMeshVertex& vertex : mesh.vertices) {
-    const Corner corner = CornerOf(vertex, toPixels);
-    left = std::min(left, corner.x);
-    top = std::min(top, corner.y);
-    right = std::max(right, corner.x);
-    bottom = std::max(bottom, corner.y);
+    left = std::min<double>(left, vertex.point.x);
+    top = std::min<double>(top, vertex.point.y);
+    right = std::max<double>(right, vertex.point.x);
+    bottom = std::max<double>(bottom, vertex.point.y);
   }
   return {FirstPixel(left, 0, page.width), FirstPixel(top, 0, page.height),
           FirstPixel(right, 0, page.width), FirstPixel(bottom, 0, page.height)};
@@ -164,9 +158,8 @@ class TrianglePainter {
 
 }  // namespace
 
-CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh,
-                                        const CGAffineTransform& toPixels, const PixelCount& page) {
-  PixelBox box = BoxAround(mesh, toPixels, page);
+CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh, const PixelCount& page) {
+  PixelBox box = BoxAround(mesh, page);
   if (box.IsEmpty()) box = {0, 0, 1, 1};
   const CairoOwned<cairo_surface_t> surface(
       Cairo().createImage(CAIRO_FORMAT_ARGB32, box.right - box.left, box.bottom - box.top));
@@ -175,9 +168,8 @@ CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh,
     const PixelRows rows(surface.get());
     TrianglePainter painter(rows, box);
     for (std::size_t at = 0; at + 2 < mesh.vertices.size(); at += 3) {
-      painter.Paint({CornerOf(mesh.vertices[at], toPixels),
-                     CornerOf(mesh.vertices[at + 1], toPixels),
-                     CornerOf(mesh.vertices[at + 2], toPixels)});
+      painter.Paint({CornerOf(mesh.vertices[at]), CornerOf(mesh.vertices[at + 1]),
+                     CornerOf(mesh.vertices[at + 2])});
     }
   }
   CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(surface.get()));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_shading.h"
 #include "platform/raster/cairo_library.h"
 
@@ -12,10 +11,9 @@ struct PixelCount {
   int height = 0;
 };
 
-/// @param toPixels  from the mesh's space. @param page  nothing is painted beyond it.
+/// @param mesh  in pixels. @param page  nothing is painted beyond it.
 /// @return the triangles as pixels, each of the colour in its middle, clear beside them. It takes
 ///         as long as they have pixels on the page, however far they reach.
-CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh,
-                                        const CGAffineTransform& toPixels, const PixelCount& page);
+CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh, const PixelCount& page);
 
 }  // namespace kelvane

@@ -14,20 +14,26 @@ namespace kelvane {
 namespace {
 
 /// @return whole pixels, of which a cell has some, but not more than a page.
-int PixelsIn(double length) {
-  constexpr double kMost = 4096;
-  return static_cast<int>(std::clamp(std::round(length), 1.0, kMost));
+int PixelsIn(double length, double most) {
+  return length > 1 ? static_cast<int>(std::min(std::round(length), most)) : 1;
 }
 
-/// @param toTarget  from the pattern's own space.
+/// @param toTarget  from the pattern's own space. Of what Cairo cannot count, being too fine or too
+///                  far away, nothing shows.
 void Place(cairo_pattern_t* pattern, const CGAffineTransform& toTarget) {
-  const cairo_matrix_t matrix = MatrixOf(CGAffineTransformInvert(toTarget));
+  constexpr CGFloat kFinest = 1 << 14;  // in a pixel
+  constexpr CGFloat kFarthest = 1 << 30;
+  const CGAffineTransform t = CGAffineTransformInvert(toTarget);
+  const bool isCountable =
+      LengthScale(toTarget) > 0 && IsFinite(t) &&
+      std::max({std::abs(t.a), std::abs(t.b), std::abs(t.c), std::abs(t.d)}) < kFinest &&
+      std::max(std::abs(t.tx), std::abs(t.ty)) < kFarthest;
+  const cairo_matrix_t matrix = isCountable ? MatrixOf(t) : cairo_matrix_t{};
   Cairo().setPatternMatrix(pattern, &matrix);
 }
 
-/// @param toTarget  from the shading's space.
-CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading,
-                                     const CGAffineTransform& toTarget) {
+/// @param shading  of the target's pixels.
+CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading) {
   CairoOwned<cairo_pattern_t> pattern(
       Cairo().createLinear(shading.start.x, shading.start.y, shading.end.x, shading.end.y));
   for (const CGGradientStop& stop : shading.stops) {
@@ -35,7 +41,6 @@ CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading,
                     stop.color.alpha);
   }
   Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
-  Place(pattern.get(), toTarget);
   return pattern;
 }
 
@@ -71,6 +76,16 @@ CairoOwned<cairo_pattern_t> RasterPaints::ImagePattern(cairo_surface_t* pixels,
   return pattern;
 }
 
+bool RasterPaints::Shows(cairo_pattern_t* pattern) {
+  return pattern != nullptr && Cairo().statusOfPattern(pattern) == CAIRO_STATUS_SUCCESS;
+}
+
+// A source that cannot be used would end all drawing.
+void RasterPaints::SetSource(cairo_t* drawing, cairo_pattern_t* pattern) {
+  if (Shows(pattern)) return Cairo().setSource(drawing, pattern);
+  Cairo().setColor(drawing, 0, 0, 0, 0);
+}
+
 void RasterPaints::SetSource(cairo_t* drawing, const CGColor& color,
                              const CGSharedPattern& pattern) {
   if (pattern == nullptr) {
@@ -80,18 +95,20 @@ void RasterPaints::SetSource(cairo_t* drawing, const CGColor& color,
     last_ = PatternOf(*pattern);
     lastShared_ = pattern;
   }
-  Cairo().setSource(drawing, last_.get());
+  SetSource(drawing, last_.get());
 }
 
 void RasterPaints::SetSource(cairo_t* drawing, const CGShading& shading) {
-  Cairo().setSource(drawing, Shaded(shading, toPixels_).get());
+  SetSource(drawing, Shaded(shading, toPixels_).get());
 }
 
 CairoOwned<cairo_pattern_t> RasterPaints::Shaded(const CGShading& shading,
                                                  const CGAffineTransform& toTarget) const {
-  if (const auto* const mesh = std::get_if<CGTriangleMesh>(&shading))
-    return MeshPattern(*mesh, toTarget, page_);
-  return Gradient(std::get<CGAxialShading>(shading), toTarget);
+  const auto placed = Mapped(shading, toTarget);
+  if (!placed) return nullptr;
+  if (const auto* const mesh = std::get_if<CGTriangleMesh>(&*placed))
+    return MeshPattern(*mesh, page_);
+  return Gradient(std::get<CGAxialShading>(*placed));
 }
 
 CairoOwned<cairo_pattern_t> RasterPaints::PatternOf(const CGPattern& pattern) {
@@ -105,8 +122,12 @@ CairoOwned<cairo_pattern_t> RasterPaints::Tiling(const CGPattern& pattern) {
   const CGAffineTransform toTarget = CGAffineTransformConcat(pattern.matrix, toPixels_);
   const CGSize size = pattern.TileSize();
   const CGSize step = {size.width + pattern.gap.width, size.height + pattern.gap.height};
-  const int across = PixelsIn(step.width * std::hypot(toTarget.a, toTarget.b));
-  const int down = PixelsIn(step.height * std::hypot(toTarget.c, toTarget.d));
+  // Patterns that take turns are painted each time; in the end, less well.
+  const double most = tilePixelsLeft_ > 0 ? 4096 : 256;
+  const int across = PixelsIn(step.width * std::hypot(toTarget.a, toTarget.b), most);
+  const int down = PixelsIn(step.height * std::hypot(toTarget.c, toTarget.d), most);
+  tilePixelsLeft_ -=
+      std::min(tilePixelsLeft_, static_cast<std::size_t>(across) * static_cast<std::size_t>(down));
   const CGAffineTransform toTile = {
       static_cast<CGFloat>(across) / step.width, 0, 0,
       -static_cast<CGFloat>(down) / step.height, 0, static_cast<CGFloat>(down)};
@@ -162,7 +183,7 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
       place.AddRectangle(
           {static_cast<CGFloat>(column) * cell.width, static_cast<CGFloat>(row) * cell.height},
           cell);
-      Cairo().setSource(drawing, image.get());
+      SetSource(drawing, image.get());
       SetPath(drawing, place, toTile);
       Cairo().fill(drawing);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "platform/quartz/cg_color_space.h"
 #include "platform/quartz/cg_geometry.h"
 #include "platform/quartz/cg_image.h"
@@ -19,6 +21,12 @@ class RasterPaints {
   RasterPaints(const CGAffineTransform& toPixels, const PixelCount& page, RasterImages& images)
       : toPixels_(toPixels), page_(page), images_(images) {}
 
+  /// @return whether a pattern shows anything. Null shows nothing.
+  static bool Shows(cairo_pattern_t* pattern);
+
+  /// Makes a pattern the source, or nothing in place of one that does not show.
+  static void SetSource(cairo_t* drawing, cairo_pattern_t* pattern);
+
   /// Makes a colour, or a pattern in its place, the source.
   void SetSource(cairo_t* drawing, const CGColor& color, const CGSharedPattern& pattern);
 
@@ -34,7 +42,7 @@ class RasterPaints {
                                                   CGPoint halfPixel = {0.5F, 0.5F});
 
  private:
-  /// @param toTarget  from the shading's space to the page's pixels.
+  /// @param toTarget  from the shading's space to the page's pixels. @return null for nothing.
   [[nodiscard]] CairoOwned<cairo_pattern_t> Shaded(const CGShading& shading,
                                                    const CGAffineTransform& toTarget) const;
   CairoOwned<cairo_pattern_t> PatternOf(const CGPattern& pattern);
@@ -45,7 +53,8 @@ class RasterPaints {
   CGAffineTransform toPixels_;
   PixelCount page_;
   RasterImages& images_;
-  CGSharedPattern lastShared_;  // patterns are used again and again
+  std::size_t tilePixelsLeft_ = std::size_t{1} << 27;  // before tiles are made small
+  CGSharedPattern lastShared_;                         // patterns are used again and again
   CairoOwned<cairo_pattern_t> last_;
 };
 

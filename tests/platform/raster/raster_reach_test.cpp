@@ -1,14 +1,17 @@
-// Marks that reach far beyond the page, and dashes that no pixel shows: they take as long as what
-// is seen of them.
+// Marks that reach far beyond the page, and what no pixel shows: they take as long as what is seen
+// of them, and leave all other marks alone.
 
 #include <cmath>
 #include <ctime>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "platform/quartz/cg_context_calls.h"
 #include "support/bitmap.h"
+#include "support/images.h"
 #include "support/slowdown.h"
 
 namespace kelvane::test {
@@ -129,6 +132,103 @@ TEST(DashedLines, AreSolidOnceAPictureHasMoreDashesThanItCouldShow) {
   });
   EXPECT_EQ(picture.At(15, 50), kInked);
 }
+
+CGSharedPattern PatternOf(CGSize cell, const CGAffineTransform& matrix, const CGColor& color) {
+  CGPattern pattern;
+  pattern.cell = cell;
+  pattern.matrix = matrix;
+  CGPath all;
+  all.AddRectangle({0, 0}, cell);
+  pattern.shapes = {{all, color}};
+  return std::make_shared<const CGPattern>(std::move(pattern));
+}
+
+TEST(LargePatterns, TakeNoLongerWhenTheyTakeTurns) {
+  const Raster picture = BitmapInTime([](CGContextRef c) {
+    const CGSharedPattern patterns[] = {PatternOf({5000, 5000}, {}, kBlue),
+                                        PatternOf({5000, 5000}, {}, kRed)};
+    for (int i = 0; i < 2000; ++i) {
+      c->SetFillPattern(patterns[i % 2]);
+      FillRect(c, {{0, 0}, {50, 100}});
+    }
+  });
+  EXPECT_EQ(picture.At(25, 50), kRedPixel);
+}
+
+// What Cairo cannot paint ends all of its drawing.
+
+void FillWith(CGContextRef c, CGSharedPattern pattern) {
+  c->SetFillPattern(std::move(pattern));
+  FillRect(c, kPageBox);
+}
+
+struct Unpaintable {
+  const char* name;
+  void (*draw)(CGContextRef c);
+};
+
+void PrintTo(const Unpaintable& row, std::ostream* out) {
+  *out << row.name;
+}
+
+const Unpaintable kUnpaintable[] = {
+    {"AnImageOfNoWidth",
+     [](CGContextRef c) {
+       CGContextDrawImage(c, {{20, 20}, {1e-37F, 50}}, ImageOf(1, 1, 1, {0}).get());
+     }},
+    {"AnImageSquashed",
+     [](CGContextRef c) {
+       CGContextConcatCTM(c, {1e-30F, 50, 1e-30F, 50, 20, 20});
+       CGContextDrawImage(c, {{0, 0}, {1, 1}}, ImageOf(1, 1, 1, {0}).get());
+     }},
+    {"APatternFarAway",
+     [](CGContextRef c) {
+       FillWith(c, PatternOf({8, 8}, {.8F, .4F, -.4F, .8F, 1e38F, -1e38F}, kBlue));
+     }},
+    {"APatternOfNoHeight",
+     [](CGContextRef c) {
+       FillWith(c, PatternOf({8, 8}, {1, 0, 0, 1e-36F, 0, 0}, kBlue));
+     }},
+    {"APatternOnALine",
+     [](CGContextRef c) {
+       FillWith(c, PatternOf({8, 8}, {1, 1, 1, 1, 0, 0}, kBlue));
+     }},
+    {"AGradientFarAway",
+     [](CGContextRef c) {
+       CGPattern pattern;
+       pattern.shading = CGAxialShading{{0, 0}, {1, 0}, {{0, kBlue}, {1, kRed}}};
+       pattern.matrix = {50, 20, -20, 50, 1e38F, -1e38F};
+       FillWith(c, std::make_shared<const CGPattern>(std::move(pattern)));
+     }},
+    {"AGradientOnALine",
+     [](CGContextRef c) {
+       CGPattern pattern;
+       pattern.shading = CGAxialShading{{0, 0}, {1, 0}, {{0, kBlue}, {1, kRed}}};
+       pattern.matrix = {1, 1, 1, 1, 0, 0};
+       FillWith(c, std::make_shared<const CGPattern>(std::move(pattern)));
+     }},
+    {"AStrokeThroughALine",
+     [](CGContextRef c) {
+       CGContextConcatCTM(c, {1e-30F, 0, 0, 50, 0, 0});
+       DrawDashed(c, {1, 1}, 0, 1);
+     }},
+};
+
+class WhatCannotBePainted : public testing::TestWithParam<Unpaintable> {};
+
+TEST_P(WhatCannotBePainted, LeavesTheMarksBehindIt) {
+  const Raster picture = BitmapOf([](CGContextRef c) {
+    c->SaveGState();
+    GetParam().draw(c);
+    c->RestoreGState();
+    SetFill(c, 1, 0, 0);
+    FillRect(c, {{40, 40}, {20, 20}});
+  });
+  EXPECT_EQ(picture.At(50, 50), kRedPixel);
+}
+
+INSTANTIATE_TEST_SUITE_P(, WhatCannotBePainted, testing::ValuesIn(kUnpaintable),
+                         [](const auto& row) { return row.param.name; });
 
 }  // namespace
 }  // namespace kelvane::test
