@@ -11,10 +11,10 @@
 #include <utility>
 #include <vector>
 
-#include "platform/quartz/cg_clip_writer.h"
 #include "platform/quartz/cg_extent.h"
 #include "platform/raster/cairo_library.h"
 #include "platform/raster/png_writer.h"
+#include "platform/raster/raster_clips.h"
 #include "platform/raster/raster_dashes.h"
 #include "platform/raster/raster_geometry.h"
 #include "platform/raster/raster_image.h"
@@ -53,7 +53,7 @@ std::size_t MostDashes(const CGBitmapDescription& description) {
 }
 
 /// The back end of pixels.
-class CGBitmapContext final : public CGContext, private CGClipOperators {
+class CGBitmapContext final : public CGContext {
  public:
   CGBitmapContext(CGDataConsumerRef consumer, const CGBitmapDescription& description)
       : cairo_(Cairo()),
@@ -98,11 +98,12 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     const CGFloat y = static_cast<CGFloat>(description_.height) / box.size.height;
     toPixels_ = {x, 0, 0, -y, -box.origin.x * x, (box.origin.y + box.size.height) * y};
     paints_.emplace(toPixels_, size, images_);
+    clips_.emplace(drawing_.get(), toPixels_, size);
   }
 
   void PageEnds() override {
     if (!isPainting_) return;
-    clips_.End(*this);
+    clips_->End();
     CheckDrawing();
     isPainting_ = false;
   }
@@ -238,9 +239,9 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   template <class SetSource, class PaintIt>
   void Draw(const CGGraphicsState& state, const CGBox& extent, SetSource&& setSource,
             PaintIt&& paint) {
-    clips_.Bring(Clips(), *this);
+    clips_->Bring(Clips());
     if (state.bitOperation || state.blendMode != kCGBlendModeNormal) PutPaperBelow();
-    if (state.alpha == 1 && !state.bitOperation) {
+    if (state.alpha == 1 && !state.bitOperation && clips_->Mask() == nullptr) {
       setSource();
       cairo_.setOperator(drawing_.get(), kOperators[state.blendMode]);
       paint();
@@ -278,9 +279,21 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
       setSource();
       paint();
     });
+    PaintLayer(layer, state.alpha, kOperators[state.blendMode]);
+  }
+
+  void PaintLayer(const Layer& layer, CGFloat alpha, cairo_operator_t how) {
+    if (clips_->Mask() != nullptr && alpha != 1) {
+      const Layer faded = Apart([&] {
+        cairo_.setSource(drawing_.get(), layer.pattern.get());
+        cairo_.paintWithAlpha(drawing_.get(), alpha);
+      });
+      return PaintLayer(faded, 1, how);
+    }
     cairo_.setSource(drawing_.get(), layer.pattern.get());
-    cairo_.setOperator(drawing_.get(), kOperators[state.blendMode]);
-    cairo_.paintWithAlpha(drawing_.get(), state.alpha);
+    cairo_.setOperator(drawing_.get(), how);
+    if (clips_->Mask() != nullptr) return cairo_.mask(drawing_.get(), clips_->Mask());
+    cairo_.paintWithAlpha(drawing_.get(), alpha);
   }
 
   /// What is mixed with the page finds white paper there.
@@ -328,8 +341,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
       cairo_.paint(drawing_.get());
     });
     CombinePixels(operation, mark, ground);
-    cairo_.setSource(drawing_.get(), mark.pattern.get());
-    cairo_.paint(drawing_.get());
+    PaintLayer(mark, 1, CAIRO_OPERATOR_OVER);
   }
 
   /// Both layers are as large as the clip.
@@ -375,15 +387,6 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
     return outlines;
   }
 
-  void WriteSave() override { cairo_.save(drawing_.get()); }
-  void WriteRestore() override { cairo_.restore(drawing_.get()); }
-  void WriteClip(const CGClip& clip) override {
-    SetPath(drawing_.get(), clip.area, toPixels_);
-    cairo_.setFillRule(drawing_.get(),
-                       clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-    cairo_.clip(drawing_.get());
-  }
-
   void WriteRow(const std::uint32_t* row, std::span<unsigned char> bytes) const {
     const bool hasAlpha = !description_.background;
     unsigned char* to = bytes.data();
@@ -406,7 +409,7 @@ class CGBitmapContext final : public CGContext, private CGClipOperators {
   RasterImages images_;
   std::optional<RasterPaints> paints_;
   std::map<std::pair<CGFontRef, CGGlyph>, CGPath> outlines_;
-  CGClipWriter clips_;
+  std::optional<RasterClips> clips_;
   std::size_t dashesLeft_;
   bool isPainting_ = false;
   bool hasPaper_ = false;

@@ -133,6 +133,62 @@ TEST(DashedLines, AreSolidOnceAPictureHasMoreDashesThanItCouldShow) {
   EXPECT_EQ(picture.At(15, 50), kInked);
 }
 
+// Clips of many parts.
+
+/// A diamond, with so many points on each of its sides.
+void ClipToDiamond(CGContextRef c, int points) {
+  const CGPoint corners[] = {{10, 50}, {50, 10}, {90, 50}, {50, 90}};
+  CGContextMoveToPoint(c, corners[0].x, corners[0].y);
+  for (int side = 0; side < 4; ++side) {
+    const CGPoint from = corners[side];
+    const CGPoint to = corners[(side + 1) % 4];
+    for (int i = 1; i <= points; ++i) {
+      const CGFloat part = static_cast<CGFloat>(i) / static_cast<CGFloat>(points);
+      CGContextAddLineToPoint(c, from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part);
+    }
+  }
+  CGContextClip(c);
+}
+
+void DrawBelowClips(CGContextRef c, int points) {
+  c->SaveGState();
+  ClipToDiamond(c, points);
+  SetFill(c, 1, 0, 0);
+  FillRect(c, {{0, 0}, {60, 100}});
+  CGContextSetAlpha(c, .5F);
+  SetFill(c, 0, 0, 1);
+  FillRect(c, {{30, 0}, {60, 100}});
+  CGContextSetAlpha(c, 1);
+  CGContextConcatCTM(c, {1, 0, 0, 1, 20, 0});
+  ClipToDiamond(c, points);
+  c->SetBitOperation(std::uint8_t{0x5A});
+  FillRect(c, {{0, 0}, {100, 50}});
+  CGContextSetBlendMode(c, kCGBlendModeNormal);
+  CGContextSetBlendMode(c, kCGBlendModeMultiply);
+  SetFill(c, 0, 1, 0);
+  FillRect(c, {{0, 60}, {100, 20}});
+  c->RestoreGState();
+  FillRect(c, {{0, 0}, {5, 5}});
+}
+
+TEST(AClipOfManyParts, CutsAsTheSameOfFewDoes) {
+  const Raster few = BitmapOf([](CGContextRef c) { DrawBelowClips(c, 1); });
+  const Raster many = BitmapOf([](CGContextRef c) { DrawBelowClips(c, 400); });
+  EXPECT_EQ(DifferingPixels(few, many, 6), 0);
+  EXPECT_EQ(DifferingPixels(many, few, 6), 0);
+}
+
+TEST(AClipOfManyParts, IsGoneThroughOnceForAllMarksUnderIt) {
+  const Raster picture = BitmapInTime([](CGContextRef c) {
+    ClipToDiamond(c, 20000);
+    SetFill(c, 1, 0, 0);
+    for (int i = 0; i < 2000; ++i)
+      FillRect(c, {{0, 0}, {100, 100}});
+  });
+  EXPECT_EQ(picture.At(50, 50), kRedPixel);
+  EXPECT_EQ(picture.At(20, 20), kWhitePixel);
+}
+
 CGSharedPattern PatternOf(CGSize cell, const CGAffineTransform& matrix, const CGColor& color) {
   CGPattern pattern;
   pattern.cell = cell;
