@@ -39,8 +39,10 @@ class CutTo {
   CGContext& surface_;
 };
 
+/// A file is not decoded for the sake of a pixel.
 bool IsOnePixel(const Blit& blit) {
-  return blit.part.width == 1 && blit.part.height == 1 && blit.shown == nullptr;
+  return blit.dib.Kind() != Dib::Content::kJpeg && blit.part.width == 1 && blit.part.height == 1 &&
+         blit.shown == nullptr;
 }
 
 CFOwned<const CGImage> Masked(CFOwned<const CGImage> image, const Blit& blit) {

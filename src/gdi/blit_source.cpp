@@ -12,8 +12,15 @@
 namespace kelvane {
 namespace {
 
+/// Bytes of a JPEG file once it is decoded, but for those that its data may well stand for.
+std::uint64_t DecodedSizeOfJpeg(const Dib& dib) {
+  constexpr std::uint64_t kUsual = 48;  // times the file, and more than a photo comes to
+  const std::uint64_t size = 3 * std::uint64_t{dib.Width()} * dib.Height();
+  return size - std::min(size, kUsual * dib.File().size());
+}
+
 /// Bytes that a bitmap takes once it is decoded; none when it goes out as it is.
-std::uint64_t DecodedSize(const Dib& dib) {
+std::uint64_t DecodedSize(const Dib& dib, bool keepsJpeg) {
   const std::uint64_t pixels = std::uint64_t{dib.Width()} * dib.Height();
   switch (dib.Kind()) {
     case Dib::Content::kIndexed:
@@ -22,7 +29,7 @@ std::uint64_t DecodedSize(const Dib& dib) {
     case Dib::Content::kPng:
       return 3 * pixels;
     case Dib::Content::kJpeg:
-      break;
+      return keepsJpeg ? 0 : DecodedSizeOfJpeg(dib);
   }
   return 0;
 }
@@ -39,16 +46,21 @@ TransformD ExactTransform(const XForm& t) {
 
 }  // namespace
 
-std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes,
+std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes, BitmapUse use,
                               std::optional<std::uint32_t> rows) {
   std::vector<DibColor> palette;
   if (bytes.usage != DIB_RGB_COLORS) palette = ColorsOf(*device.state.palette);
   auto dib = Dib::Read(bytes, palette, rows);
   if (!dib) {
     device.shortfalls.Add(Shortfall::kUnreadableBitmap);
-  } else if (device.canvas != nullptr && !device.canvas->AffordPixels(DecodedSize(*dib))) {
+    return std::nullopt;
+  }
+  if (device.canvas == nullptr) return dib;
+  const bool keepsJpeg =
+      use == BitmapUse::kCopied && device.canvas->Surface().Capabilities().holdsJpeg;
+  if (!device.canvas->AffordPixels(DecodedSize(*dib, keepsJpeg))) {
     device.shortfalls.Add(Shortfall::kBitmapTooLarge);
-    dib.reset();
+    return std::nullopt;
   }
   return dib;
 }
@@ -63,7 +75,7 @@ TransformD Destination(const DeviceContext& device, PointL corner, SizeL size) {
 std::optional<Blit> BlitFrom(DeviceContext& device, const SourceBitmap& source,
                              const TransformD& unitToDevice) {
   if (device.canvas == nullptr) return std::nullopt;
-  auto dib = ReadBitmap(device, source.dib);
+  auto dib = ReadBitmap(device, source.dib, BitmapUse::kChanged);
   if (!dib) return std::nullopt;
   const PointD from = Exactly(source.position);
   const RectangleD rectangle = {from.x, from.y, from.x + source.size.cx, from.y + source.size.cy};
@@ -84,7 +96,7 @@ void FinishBlit(const DeviceContext& device, Blit& blit) {
 
 ShownPixels SetPixels(DeviceContext& device, const MaskBitmap& mask, const Blit& blit,
                       PointL source) {
-  const auto dib = ReadBitmap(device, mask.dib);
+  const auto dib = ReadBitmap(device, mask.dib, BitmapUse::kChanged);
   if (!dib || dib->Kind() != Dib::Content::kIndexed || dib->BitCount() != 1) return nullptr;
   // Where the blit's part begins in the mask.
   const auto left = static_cast<std::int64_t>(blit.part.left) - source.x + mask.position.x;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "gdi/blit.h"
@@ -7,10 +8,14 @@
 
 namespace kelvane {
 
+/// What becomes of a bitmap's pixels.
+enum class BitmapUse : std::uint8_t { kCopied, kChanged };
+
+/// @param use   a JPEG file that is copied goes out as it is where the surface holds such files.
 /// @param rows  how many there are, in place of what the header says.
 /// @return the bitmap with the colours of the selected palette where it asks for them; nullopt,
 ///         noted as a shortfall, when it cannot be read or so little data may not be so large.
-std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes,
+std::optional<Dib> ReadBitmap(DeviceContext& device, const DibBytes& bytes, BitmapUse use,
                               std::optional<std::uint32_t> rows = std::nullopt);
 
 /// @return a destination in logical units as what maps the unit square onto the device.

@@ -83,7 +83,8 @@ void StretchDIBits(DeviceContext& device, PointL corner, SizeL size, PointL sour
                    SizeL sourceSize, const DibBytes& dib, TernaryRasterOperation operation) {
   if (WithoutSource(operation)) return StretchBlt(device, corner, size, {}, operation);
   if (device.canvas == nullptr) return;
-  auto bitmap = ReadBitmap(device, dib);
+  const bool isCopied = AreAlike(operation, SRCCOPY);
+  auto bitmap = ReadBitmap(device, dib, isCopied ? BitmapUse::kCopied : BitmapUse::kChanged);
   if (!bitmap) return;
   const double top = bitmap->IsTopDown()
                          ? source.y
@@ -99,7 +100,7 @@ void StretchDIBits(DeviceContext& device, PointL corner, SizeL size, PointL sour
 void SetDIBitsToDevice(DeviceContext& device, PointL corner, SizeL size, PointL source,
                        const ScanLines& lines, const DibBytes& dib) {
   if (device.canvas == nullptr) return;
-  auto bitmap = ReadBitmap(device, dib, lines.count);
+  auto bitmap = ReadBitmap(device, dib, BitmapUse::kCopied, lines.count);
   if (!bitmap) return;
   const PointD place = device.state.mapping.ToDevice().Map(Exactly(corner));
   // Rows from the picture's lower edge, counted from the upper edge of those that are there.
