@@ -1,10 +1,14 @@
 #include "gdi/path_brackets.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "gdi/objects.h"
 #include "gdi/painting.h"
+#include "gdi/surface_stroke.h"
 #include "gdi/widening.h"
 
 namespace kelvane {
@@ -20,6 +24,20 @@ bool MayPaint(DeviceContext& device, const std::shared_ptr<const CGPath>& path) 
   if (!isShared || device.canvas == nullptr) return true;
   if (device.canvas->Afford(path->Reached().elements)) return true;
   device.shortfalls.Add(Shortfall::kDrawnTooOften);
+  return false;
+}
+
+/// A path may cross itself as often as the square of its points, and the records that widen it are
+/// a few bytes each: what widening takes is counted, and what it would have taken.
+bool MayWiden(DeviceContext& device, const CGPath& path, double width) {
+  constexpr std::uint64_t kWorkOfAPart = 8;
+  constexpr std::uint64_t kWorkInVain = 64;  // that is only counted
+  if (device.canvas == nullptr) return true;
+  Canvas& canvas = *device.canvas;
+  if (canvas.MostInVain() == 0) return false;
+  const std::uint64_t work = WorkOfWidening(path, width);
+  if (work <= kMostWorkOfWidening && canvas.Afford(work / kWorkOfAPart)) return true;
+  canvas.CountInVain(std::min(work, kMostWorkOfWidening) / kWorkInVain);
   return false;
 }
 
@@ -95,7 +113,10 @@ bool WidenPath(DeviceContext& device) {
   if (state.path == nullptr) return false;
   const PenStroke stroke = ResolvePen(device);
   if (stroke.isNull || stroke.width == 0 || stroke.dashesAreOnPage) return false;
-  auto outline = Widened(*state.path, stroke, state.miterLimit, state.mapping.ToDevice());
+  const TransformD& toDevice = state.mapping.ToDevice();
+  const double width = stroke.width * StretchOf(toDevice).most;
+  const bool mayWiden = MayWiden(device, *state.path, width);
+  auto outline = mayWiden ? Widened(*state.path, stroke, state.miterLimit, toDevice) : std::nullopt;
   if (!outline) {
     device.shortfalls.Add(Shortfall::kPathTooComplex);
     return false;

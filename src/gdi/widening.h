@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "gdi/geometry.h"
@@ -7,6 +8,14 @@
 #include "platform/quartz/cg_path.h"
 
 namespace kelvane {
+
+/// What Widened is given up for.
+inline constexpr std::uint64_t kMostWorkOfWidening = std::uint64_t{1} << 25;
+
+/// @param path   device units. @param width  of the pen, device units.
+/// @return how long Widened takes for it: the strokes of lines that lie beside each other, and far
+///         more for those that meet. Beyond the most it is not counted on.
+std::uint64_t WorkOfWidening(const CGPath& path, double width);
 
 /// @param path      device units.
 /// @param toDevice  from the logical units in which the pen is round.
