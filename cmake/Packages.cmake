@@ -15,7 +15,14 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libkelvane${KELVANE_ABI})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "fonts-liberation, libcairo2, libtiff6")  # the libraries are loaded, not linked
+# Loaded, not linked, so that nothing else would find them: what text and bitmaps need, and what only PNG and TIFF do.
+set(KELVANE_LOADED_LIBRARIES "libharfbuzz0b (>= 6.0), libharfbuzz-subset0 (>= 6.0), libfontconfig1 (>= 2.14), \
+libfribidi0, libbrotli1, libpng16-16, libgif7")
+set(KELVANE_LIBRARIES_OF_PICTURES "libcairo2, libtiff6")
+# The fonts that stand in for those of Windows.
+set(KELVANE_FONTS "fonts-liberation, fonts-crosextra-carlito, fonts-crosextra-caladea, fonts-dejavu-core, fonts-urw-base35")
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "${KELVANE_LIBRARIES_OF_PICTURES}, ${KELVANE_FONTS}")
+set(CPACK_KELVANE_LOADED_LIBRARIES "${KELVANE_LOADED_LIBRARIES}")
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows metafiles into PDF
 A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
 page, and can report what that lacks. Lines stay vectors, and text stays text

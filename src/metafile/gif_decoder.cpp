@@ -5,9 +5,8 @@
 #include <cstddef>
 #include <memory>
 
-#include <gif_lib.h>
-
 #include "metafile/byte_view.h"
+#include "metafile/gif_library.h"
 
 namespace kelvane {
 inline namespace metafile {

@@ -5,8 +5,7 @@
 #include <csetjmp>
 #include <cstddef>
 
-#include <png.h>
-
+#include "base/png_library.h"
 #include "metafile/byte_view.h"
 
 namespace kelvane {
@@ -44,7 +43,7 @@ void ReadBytes(png_structp png, png_bytep to, png_size_t count) {
 }
 
 [[noreturn]] void FailPng(png_structp png, png_const_charp /*message*/) {
-  png_longjmp(png, 1);
+  longjmp(png_jmpbuf(png), 1);
 }
 
 void IgnorePngWarning(png_structp /*png*/, png_const_charp /*message*/) {}

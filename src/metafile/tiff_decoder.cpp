@@ -92,13 +92,16 @@ struct StoredSize {
   [[nodiscard]] bool HasColumnsForRows() const { return orientation >= ORIENTATION_LEFTTOP; }
 };
 
+struct TiffDestroyer {
+  void operator()(TIFF* tiff) const { TIFFClose(tiff); }
+  void operator()(TIFFOpenOptions* options) const { TIFFOpenOptionsFree(options); }
+};
+
 /// A TIFF file that is open at its first picture.
 class TiffFile {
  public:
   explicit TiffFile(std::span<const unsigned char> file)
-      : bytes_{file}, library_(IsTiff(file) ? LoadTiffLibrary() : nullptr) {
-    if (library_ != nullptr) tiff_ = {Open(), library_->close};
-  }
+      : bytes_{file}, tiff_(IsTiff(file) && kTiffLibrary.IsThere() ? Open() : nullptr) {}
 
   TiffFile(const TiffFile&) = delete;  // the library knows where its bytes are
   TiffFile& operator=(const TiffFile&) = delete;
@@ -107,9 +110,9 @@ class TiffFile {
 
   [[nodiscard]] StoredSize Size() const {
     StoredSize size;
-    library_->getField(tiff_.get(), TIFFTAG_IMAGEWIDTH, &size.width);
-    library_->getField(tiff_.get(), TIFFTAG_IMAGELENGTH, &size.height);
-    library_->getField(tiff_.get(), TIFFTAG_ORIENTATION, &size.orientation);
+    TIFFGetField(tiff_.get(), TIFFTAG_IMAGEWIDTH, &size.width);
+    TIFFGetField(tiff_.get(), TIFFTAG_IMAGELENGTH, &size.height);
+    TIFFGetField(tiff_.get(), TIFFTAG_ORIENTATION, &size.orientation);
     if (size.orientation > ORIENTATION_LEFTBOT) size.orientation = ORIENTATION_TOPLEFT;
     return size;
   }
@@ -119,14 +122,14 @@ class TiffFile {
   [[nodiscard]] std::optional<std::uint64_t> BytesToDecode() const {
     constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max() / 4;
     TIFF* tiff = tiff_.get();
-    const bool isTiled = library_->isTiled(tiff) != 0;
-    const std::uint32_t count = isTiled ? library_->countTiles(tiff) : library_->countStrips(tiff);
-    const std::uint64_t size = isTiled ? library_->tileSize(tiff) : library_->stripSize(tiff);
+    const bool isTiled = TIFFIsTiled(tiff) != 0;
+    const std::uint32_t count = isTiled ? TIFFNumberOfTiles(tiff) : TIFFNumberOfStrips(tiff);
+    const std::uint64_t size = isTiled ? TIFFTileSize64(tiff) : TIFFStripSize64(tiff);
     if (count == 0 || size == 0) return std::nullopt;
     if (count > bytes_.file.size() || size > kMost / count) return kMost;
     std::uint64_t stored = 0;
     for (std::uint32_t i = 0; i < count; ++i)
-      stored += std::min<std::uint64_t>(library_->storedSize(tiff, i), bytes_.file.size());
+      stored += std::min<std::uint64_t>(TIFFGetStrileByteCount(tiff, i), bytes_.file.size());
     return size * count + stored;
   }
 
@@ -134,8 +137,9 @@ class TiffFile {
   [[nodiscard]] std::vector<std::uint32_t> Read(const StoredSize& size) const {
     std::vector<std::uint32_t> pixels(std::size_t{size.width} * size.height);
     constexpr int kGoOnAfterErrors = 0;
-    const bool isRead = library_->readRgba(tiff_.get(), size.width, size.height, pixels.data(),
-                                           size.orientation, kGoOnAfterErrors) != 0;
+    const bool isRead =
+        TIFFReadRGBAImageOriented(tiff_.get(), size.width, size.height, pixels.data(),
+                                  size.orientation, kGoOnAfterErrors) != 0;
     if (!isRead) pixels.clear();
     return pixels;
   }
@@ -144,22 +148,21 @@ class TiffFile {
   [[nodiscard]] TIFF* Open() {
     constexpr std::size_t kLeast = std::size_t{1} << 24;
     constexpr std::size_t kTimesFile = 8;
-    const std::unique_ptr<TIFFOpenOptions, decltype(library_->freeOptions)> options(
-        library_->allocateOptions(), library_->freeOptions);
+    const std::unique_ptr<TIFFOpenOptions, TiffDestroyer> options(TIFFOpenOptionsAlloc());
     if (options == nullptr) return nullptr;
-    library_->setMostMemoryAtOnce(options.get(),
-                                  static_cast<tmsize_t>(kLeast + kTimesFile * bytes_.file.size()));
-    library_->setErrorHandler(options.get(), IgnoreTiffMessage, nullptr);
-    library_->setWarningHandler(options.get(), IgnoreTiffMessage, nullptr);
-    return library_->open("", "r", &bytes_, ReadTiffBytes, WriteNothing, SeekInTiff, KeepOpen,
-                          TiffSize, MapTiff, KeepMapped, options.get());
+    TIFFOpenOptionsSetMaxSingleMemAlloc(
+        options.get(), static_cast<tmsize_t>(kLeast + kTimesFile * bytes_.file.size()));
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), IgnoreTiffMessage, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), IgnoreTiffMessage, nullptr);
+    return TIFFClientOpenExt("", "r", &bytes_, ReadTiffBytes, WriteNothing, SeekInTiff, KeepOpen,
+                             TiffSize, MapTiff, KeepMapped, options.get());
   }
 
   /// The library knows many more kinds of compression. They are no use here, and each is one more
   /// that a hostile file could go through.
   [[nodiscard]] bool IsOfWindows() const {
     std::uint16_t compression = 0;
-    library_->getFieldOrDefault(tiff_.get(), TIFFTAG_COMPRESSION, &compression);
+    TIFFGetFieldDefaulted(tiff_.get(), TIFFTAG_COMPRESSION, &compression);
     constexpr std::array kKnown = {
         COMPRESSION_NONE,      COMPRESSION_CCITTRLE,      COMPRESSION_CCITTFAX3,
         COMPRESSION_CCITTFAX4, COMPRESSION_LZW,           COMPRESSION_JPEG,
@@ -168,8 +171,7 @@ class TiffFile {
   }
 
   TiffBytes bytes_;
-  const TiffLibrary* library_;
-  std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff_{nullptr, nullptr};
+  std::unique_ptr<TIFF, TiffDestroyer> tiff_;
 };
 
 std::array<std::uint8_t, kTiffChannels> RgbaOf(std::uint32_t pixel) {

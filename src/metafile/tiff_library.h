@@ -2,33 +2,30 @@
 
 #include <tiffio.h>
 
+#include "base/late_library.h"
+
 namespace kelvane {
-inline namespace metafile {
 
-/// The functions of libtiff that are used here. It brings a dozen libraries along, and most
-/// programs never meet a TIFF file: so it is loaded with the first of them.
-struct TiffLibrary {
-  decltype(&TIFFOpenOptionsAlloc) allocateOptions = nullptr;
-  decltype(&TIFFOpenOptionsFree) freeOptions = nullptr;
-  decltype(&TIFFOpenOptionsSetMaxSingleMemAlloc) setMostMemoryAtOnce = nullptr;
-  decltype(&TIFFOpenOptionsSetErrorHandlerExtR) setErrorHandler = nullptr;
-  decltype(&TIFFOpenOptionsSetWarningHandlerExtR) setWarningHandler = nullptr;
-  decltype(&TIFFClientOpenExt) open = nullptr;
-  decltype(&TIFFClose) close = nullptr;
-  decltype(&TIFFGetField) getField = nullptr;
-  decltype(&TIFFGetFieldDefaulted) getFieldOrDefault = nullptr;
-  decltype(&TIFFIsTiled) isTiled = nullptr;
-  decltype(&TIFFNumberOfTiles) countTiles = nullptr;
-  decltype(&TIFFNumberOfStrips) countStrips = nullptr;
-  decltype(&TIFFTileSize64) tileSize = nullptr;
-  decltype(&TIFFStripSize64) stripSize = nullptr;
-  decltype(&TIFFGetStrileByteCount) storedSize = nullptr;
-  decltype(&TIFFReadRGBAImageOriented) readRgba = nullptr;
-};
+// libtiff, which brings a dozen libraries along, and most programs never meet a TIFF file: it is
+// loaded with the first of them. The first of its kind that can be told how much memory it may
+// take.
+inline constinit LateLibrary kTiffLibrary("libtiff.so.6");
 
-/// @return the library, which stays loaded; null when it is not installed. Loads it once, for all
-///         threads.
-const TiffLibrary* LoadTiffLibrary();
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFClientOpenExt)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFClose)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFGetField)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFGetFieldDefaulted)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFGetStrileByteCount)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFIsTiled)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFNumberOfStrips)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFNumberOfTiles)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFOpenOptionsAlloc)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFOpenOptionsFree)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFOpenOptionsSetErrorHandlerExtR)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFOpenOptionsSetMaxSingleMemAlloc)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFOpenOptionsSetWarningHandlerExtR)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFReadRGBAImageOriented)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFStripSize64)
+KELVANE_LATE_FUNCTION(kTiffLibrary, TIFFTileSize64)
 
-}  // namespace metafile
 }  // namespace kelvane

@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include <hb-ot.h>
-
 #include "platform/quartz/harfbuzz_owned.h"
 
 namespace kelvane {

@@ -2,9 +2,8 @@
 
 #include <optional>
 
-#include <hb.h>
-
 #include "platform/quartz/cg_font.h"
+#include "platform/quartz/harfbuzz.h"
 
 namespace kelvane {
 

@@ -10,8 +10,9 @@
 #include <tuple>
 #include <utility>
 
-#include <fontconfig/fontconfig.h>
 #include <sys/stat.h>
+
+#include "platform/fonts/fontconfig.h"
 
 namespace kelvane {
 namespace {
@@ -293,9 +294,12 @@ std::vector<InstalledFace> FontconfigCatalog::FacesWith(const char* property,
   if (!config_) return {};
   const Pattern pattern = NewPattern();
   FcPatternAddString(pattern.get(), property, Text(value));
-  const std::unique_ptr<FcObjectSet, ObjectSetDestroyer> objects(
-      FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_WEIGHT, FC_SLANT, FC_WIDTH, FC_FONTFORMAT,
-                       FC_VARIABLE, nullptr));
+  const std::unique_ptr<FcObjectSet, ObjectSetDestroyer> objects(FcObjectSetCreate());
+  if (objects == nullptr) throw std::bad_alloc();
+  for (const char* wanted :
+       {FC_FILE, FC_INDEX, FC_FAMILY, FC_WEIGHT, FC_SLANT, FC_WIDTH, FC_FONTFORMAT, FC_VARIABLE}) {
+    FcObjectSetAdd(objects.get(), wanted);
+  }
   const FontconfigFaces found(FontSet(FcFontList(config_.get(), pattern.get(), objects.get())),
                               preferred_);
   std::vector<InstalledFace> faces;

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <hb.h>
-
 #include "platform/quartz/cg_path.h"
+#include "platform/quartz/harfbuzz.h"
 
 namespace kelvane {
 

@@ -3,9 +3,8 @@
 #include <new>
 #include <numeric>
 
-#include <fribidi.h>
-
 #include "base/unicode.h"
+#include "platform/fonts/fribidi_library.h"
 
 namespace kelvane {
 namespace {

@@ -5,9 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include <hb.h>
-
 #include "platform/fonts/font_registry.h"
+#include "platform/quartz/harfbuzz.h"
 
 namespace kelvane {
 

@@ -5,8 +5,6 @@
 #include <new>
 #include <span>
 
-#include <hb.h>
-
 #include "base/unicode.h"
 #include "platform/quartz/harfbuzz_owned.h"
 

@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include <hb-ot.h>
-
 #include "platform/fonts/font_description.h"
 #include "platform/fonts/glyph_outline.h"
 #include "platform/quartz/cg_standard_font.h"

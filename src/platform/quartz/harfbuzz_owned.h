@@ -2,8 +2,7 @@
 
 #include <memory>
 
-#include <hb-subset.h>
-#include <hb.h>
+#include "platform/quartz/harfbuzz.h"
 
 namespace kelvane {
 

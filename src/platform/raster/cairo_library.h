@@ -4,78 +4,70 @@
 
 #include <cairo.h>
 
+#include "base/late_library.h"
+
 namespace kelvane {
 
-/// The functions of Cairo that are used here. It is loaded with the first picture of pixels that is
-/// made: other outputs do without it.
-struct CairoLibrary {
-  // Surfaces.
-  decltype(&cairo_image_surface_create) createImage = nullptr;
-  decltype(&cairo_image_surface_get_data) dataOf = nullptr;
-  decltype(&cairo_image_surface_get_stride) strideOf = nullptr;
-  decltype(&cairo_image_surface_get_width) widthOf = nullptr;
-  decltype(&cairo_image_surface_get_height) heightOf = nullptr;
-  decltype(&cairo_surface_flush) flush = nullptr;
-  decltype(&cairo_surface_mark_dirty) markDirty = nullptr;
-  decltype(&cairo_surface_status) statusOfSurface = nullptr;
-  decltype(&cairo_surface_destroy) destroySurface = nullptr;
+// Cairo, which other outputs do without: it is loaded with the first picture of pixels.
+inline constinit LateLibrary kCairo("libcairo.so.2");
 
-  // Drawing.
-  decltype(&cairo_create) create = nullptr;
-  decltype(&cairo_destroy) destroy = nullptr;
-  decltype(&cairo_save) save = nullptr;
-  decltype(&cairo_restore) restore = nullptr;
-  decltype(&cairo_transform) transform = nullptr;
-  decltype(&cairo_set_matrix) setMatrix = nullptr;
-  decltype(&cairo_set_operator) setOperator = nullptr;
-  decltype(&cairo_set_source) setSource = nullptr;
-  decltype(&cairo_set_source_rgba) setColor = nullptr;
-  decltype(&cairo_new_path) newPath = nullptr;
-  decltype(&cairo_move_to) moveTo = nullptr;
-  decltype(&cairo_line_to) lineTo = nullptr;
-  decltype(&cairo_curve_to) curveTo = nullptr;
-  decltype(&cairo_close_path) closePath = nullptr;
-  decltype(&cairo_set_antialias) setAntialias = nullptr;
-  decltype(&cairo_set_fill_rule) setFillRule = nullptr;
-  decltype(&cairo_set_line_width) setLineWidth = nullptr;
-  decltype(&cairo_set_line_cap) setLineCap = nullptr;
-  decltype(&cairo_set_line_join) setLineJoin = nullptr;
-  decltype(&cairo_set_miter_limit) setMiterLimit = nullptr;
-  decltype(&cairo_copy_path_flat) copyPathFlat = nullptr;
-  decltype(&cairo_path_destroy) destroyPath = nullptr;
-  decltype(&cairo_fill) fill = nullptr;
-  decltype(&cairo_stroke) stroke = nullptr;
-  decltype(&cairo_clip) clip = nullptr;
-  decltype(&cairo_clip_extents) clipExtents = nullptr;
-  decltype(&cairo_paint) paint = nullptr;
-  decltype(&cairo_paint_with_alpha) paintWithAlpha = nullptr;
-  decltype(&cairo_mask) mask = nullptr;
-  decltype(&cairo_push_group) pushGroup = nullptr;
-  decltype(&cairo_pop_group) popGroup = nullptr;
-  decltype(&cairo_get_group_target) groupTarget = nullptr;
-  decltype(&cairo_surface_get_device_offset) deviceOffset = nullptr;
-  decltype(&cairo_status) status = nullptr;
-
-  // Patterns.
-  decltype(&cairo_pattern_create_for_surface) createSurfacePattern = nullptr;
-  decltype(&cairo_pattern_get_surface) surfaceOf = nullptr;
-  decltype(&cairo_pattern_create_linear) createLinear = nullptr;
-  decltype(&cairo_pattern_add_color_stop_rgba) addStop = nullptr;
-  decltype(&cairo_pattern_set_matrix) setPatternMatrix = nullptr;
-  decltype(&cairo_pattern_set_extend) setExtend = nullptr;
-  decltype(&cairo_pattern_set_filter) setFilter = nullptr;
-  decltype(&cairo_pattern_status) statusOfPattern = nullptr;
-  decltype(&cairo_pattern_destroy) destroyPattern = nullptr;
-};
-
-/// @return the library, which stays loaded. Loads it once, for all threads. Throws
-///         std::runtime_error when it is not installed.
-const CairoLibrary& Cairo();
+KELVANE_LATE_FUNCTION(kCairo, cairo_clip)
+KELVANE_LATE_FUNCTION(kCairo, cairo_clip_extents)
+KELVANE_LATE_FUNCTION(kCairo, cairo_close_path)
+KELVANE_LATE_FUNCTION(kCairo, cairo_copy_path_flat)
+KELVANE_LATE_FUNCTION(kCairo, cairo_create)
+KELVANE_LATE_FUNCTION(kCairo, cairo_curve_to)
+KELVANE_LATE_FUNCTION(kCairo, cairo_destroy)
+KELVANE_LATE_FUNCTION(kCairo, cairo_fill)
+KELVANE_LATE_FUNCTION(kCairo, cairo_get_group_target)
+KELVANE_LATE_FUNCTION(kCairo, cairo_image_surface_create)
+KELVANE_LATE_FUNCTION(kCairo, cairo_image_surface_get_data)
+KELVANE_LATE_FUNCTION(kCairo, cairo_image_surface_get_height)
+KELVANE_LATE_FUNCTION(kCairo, cairo_image_surface_get_stride)
+KELVANE_LATE_FUNCTION(kCairo, cairo_image_surface_get_width)
+KELVANE_LATE_FUNCTION(kCairo, cairo_line_to)
+KELVANE_LATE_FUNCTION(kCairo, cairo_mask)
+KELVANE_LATE_FUNCTION(kCairo, cairo_move_to)
+KELVANE_LATE_FUNCTION(kCairo, cairo_new_path)
+KELVANE_LATE_FUNCTION(kCairo, cairo_paint)
+KELVANE_LATE_FUNCTION(kCairo, cairo_paint_with_alpha)
+KELVANE_LATE_FUNCTION(kCairo, cairo_path_destroy)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_add_color_stop_rgba)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_create_for_surface)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_create_linear)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_destroy)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_get_surface)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_set_extend)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_set_filter)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_set_matrix)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pattern_status)
+KELVANE_LATE_FUNCTION(kCairo, cairo_pop_group)
+KELVANE_LATE_FUNCTION(kCairo, cairo_push_group)
+KELVANE_LATE_FUNCTION(kCairo, cairo_restore)
+KELVANE_LATE_FUNCTION(kCairo, cairo_save)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_antialias)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_fill_rule)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_line_cap)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_line_join)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_line_width)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_matrix)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_miter_limit)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_operator)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_source)
+KELVANE_LATE_FUNCTION(kCairo, cairo_set_source_rgba)
+KELVANE_LATE_FUNCTION(kCairo, cairo_status)
+KELVANE_LATE_FUNCTION(kCairo, cairo_stroke)
+KELVANE_LATE_FUNCTION(kCairo, cairo_surface_destroy)
+KELVANE_LATE_FUNCTION(kCairo, cairo_surface_flush)
+KELVANE_LATE_FUNCTION(kCairo, cairo_surface_get_device_offset)
+KELVANE_LATE_FUNCTION(kCairo, cairo_surface_mark_dirty)
+KELVANE_LATE_FUNCTION(kCairo, cairo_surface_status)
+KELVANE_LATE_FUNCTION(kCairo, cairo_transform)
 
 struct CairoDestroyer {
-  void operator()(cairo_surface_t* surface) const { Cairo().destroySurface(surface); }
-  void operator()(cairo_t* drawing) const { Cairo().destroy(drawing); }
-  void operator()(cairo_pattern_t* pattern) const { Cairo().destroyPattern(pattern); }
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+  void operator()(cairo_t* drawing) const { cairo_destroy(drawing); }
+  void operator()(cairo_pattern_t* pattern) const { cairo_pattern_destroy(pattern); }
 };
 
 /// An object of Cairo, owned.

@@ -56,8 +56,7 @@ std::size_t MostDashes(const CGBitmapDescription& description) {
 class CGBitmapContext final : public CGContext {
  public:
   CGBitmapContext(CGDataConsumerRef consumer, const CGBitmapDescription& description)
-      : cairo_(Cairo()),
-        consumer_(CFShare(consumer)),
+      : consumer_(CFShare(consumer)),
         description_(description),
         dashesLeft_(MostDashes(description)) {}
 
@@ -87,12 +86,12 @@ class CGBitmapContext final : public CGContext {
     if (!isPainting_) return;
     const PixelCount size = {static_cast<int>(description_.width),
                              static_cast<int>(description_.height)};
-    image_.reset(cairo_.createImage(CAIRO_FORMAT_ARGB32, size.width, size.height));
-    if (cairo_.statusOfSurface(image_.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
-    drawing_.reset(cairo_.create(image_.get()));
+    image_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size.width, size.height));
+    if (cairo_surface_status(image_.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+    drawing_.reset(cairo_create(image_.get()));
     if (const auto& color = description_.background) {
-      cairo_.setColor(drawing_.get(), color->red, color->green, color->blue, 1);
-      cairo_.paint(drawing_.get());
+      cairo_set_source_rgba(drawing_.get(), color->red, color->green, color->blue, 1);
+      cairo_paint(drawing_.get());
     }
     const CGFloat x = static_cast<CGFloat>(description_.width) / box.size.width;
     const CGFloat y = static_cast<CGFloat>(description_.height) / box.size.height;
@@ -114,9 +113,9 @@ class CGBitmapContext final : public CGContext {
       Draw(State(), ExtentOf(State(), path, kCGPathFill), State().fillColor, State().fillPattern,
            [&] {
              SetPath(drawing_.get(), path, toPixels_);
-             cairo_.setFillRule(drawing_.get(),
-                                isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-             cairo_.fill(drawing_.get());
+             cairo_set_fill_rule(drawing_.get(),
+                                 isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+             cairo_fill(drawing_.get());
            });
     }
     if (Strokes(mode)) {
@@ -135,8 +134,8 @@ class CGBitmapContext final : public CGContext {
     if (Fills(state.textMode)) {
       Draw(state, ExtentOf(run), state.fillColor, state.fillPattern, [&] {
         SetPath(drawing_.get(), outlines, toPixels_);
-        cairo_.setFillRule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
-        cairo_.fill(drawing_.get());
+        cairo_set_fill_rule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
+        cairo_fill(drawing_.get());
       });
     }
     if (Strokes(state.textMode)) {
@@ -158,12 +157,12 @@ class CGBitmapContext final : public CGContext {
     if (!RasterPaints::Shows(pattern.get())) return;
     const CGBox extent = BoxOf(CGRectApplyAffineTransform({{0, 0}, {1, 1}}, matrix));
     if (image.isMask && State().fillPattern != nullptr) {
-      cairo_.setExtend(pattern.get(), CAIRO_EXTEND_NONE);
+      cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_NONE);
       return Draw(State(), extent, {}, State().fillPattern,
-                  [&] { cairo_.mask(drawing_.get(), pattern.get()); });
+                  [&] { cairo_mask(drawing_.get(), pattern.get()); });
     }
     Draw(
-        State(), extent, [&] { cairo_.setSource(drawing_.get(), pattern.get()); },
+        State(), extent, [&] { cairo_set_source(drawing_.get(), pattern.get()); },
         [&] { FillSquare(CGAffineTransformConcat(matrix, toPixels_)); });
   }
 
@@ -171,7 +170,7 @@ class CGBitmapContext final : public CGContext {
     if (!isPainting_) return;
     Draw(
         State(), ExtentOf(shading, Clips()), [&] { paints_->SetSource(drawing_.get(), shading); },
-        [&] { cairo_.paint(drawing_.get()); });
+        [&] { cairo_paint(drawing_.get()); });
   }
 
   /// An upright image has whole pixels: those of two that meet would let through what lies below.
@@ -181,10 +180,10 @@ class CGBitmapContext final : public CGContext {
     CGPath square;
     square.AddRectangle({0, 0}, {1, 1});
     SetPath(drawing_.get(), square, toTarget);
-    cairo_.setAntialias(drawing_.get(), isUpright ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
-    cairo_.setFillRule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
-    cairo_.fill(drawing_.get());
-    cairo_.setAntialias(drawing_.get(), CAIRO_ANTIALIAS_DEFAULT);
+    cairo_set_antialias(drawing_.get(), isUpright ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
+    cairo_set_fill_rule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
+    cairo_fill(drawing_.get());
+    cairo_set_antialias(drawing_.get(), CAIRO_ANTIALIAS_DEFAULT);
   }
 
   /// Strokes the current path.
@@ -197,20 +196,20 @@ class CGBitmapContext final : public CGContext {
     const double scale = stroke.throughTransform ? 1 : pixels;
     const double thinnest = stroke.throughTransform ? 0 : 1;
     const double width = std::max(stroke.width * scale, thinnest);
-    if (!(LengthScale(penToPixels) > 0)) return cairo_.newPath(drawing);  // squeezed to nothing
+    if (!(LengthScale(penToPixels) > 0)) return cairo_new_path(drawing);  // squeezed to nothing
     if (!state.dash.IsSolid()) CutIntoDashes(state, stroke, penToPixels, width / scale);
     // The pen is deformed by the matrix at the time of the stroke; the path is there already.
-    cairo_.save(drawing);
+    cairo_save(drawing);
     if (stroke.throughTransform) {
       const cairo_matrix_t matrix = MatrixOf(penToPixels);
-      cairo_.transform(drawing, &matrix);
+      cairo_transform(drawing, &matrix);
     }
-    cairo_.setLineWidth(drawing, width);
-    cairo_.setLineCap(drawing, kCaps[state.lineCap]);
-    cairo_.setLineJoin(drawing, kJoins[state.lineJoin]);
-    cairo_.setMiterLimit(drawing, state.miterLimit);
-    cairo_.stroke(drawing);
-    cairo_.restore(drawing);
+    cairo_set_line_width(drawing, width);
+    cairo_set_line_cap(drawing, kCaps[state.lineCap]);
+    cairo_set_line_join(drawing, kJoins[state.lineJoin]);
+    cairo_set_miter_limit(drawing, state.miterLimit);
+    cairo_stroke(drawing);
+    cairo_restore(drawing);
   }
 
   /// @param width  of the pen, in its own lengths.
@@ -243,19 +242,19 @@ class CGBitmapContext final : public CGContext {
     if (state.bitOperation || state.blendMode != kCGBlendModeNormal) PutPaperBelow();
     if (state.alpha == 1 && !state.bitOperation && clips_->Mask() == nullptr) {
       setSource();
-      cairo_.setOperator(drawing_.get(), kOperators[state.blendMode]);
+      cairo_set_operator(drawing_.get(), kOperators[state.blendMode]);
       paint();
-      cairo_.setOperator(drawing_.get(), CAIRO_OPERATOR_OVER);
+      cairo_set_operator(drawing_.get(), CAIRO_OPERATOR_OVER);
       return;
     }
-    cairo_.save(drawing_.get());
+    cairo_save(drawing_.get());
     CutTo(extent);
     if (state.bitOperation) {
       Combine(*state.bitOperation, setSource, paint);
     } else {
       Fade(state, setSource, paint);
     }
-    cairo_.restore(drawing_.get());
+    cairo_restore(drawing_.get());
   }
 
   /// So that layers are no larger than what is painted on them.
@@ -270,7 +269,7 @@ class CGBitmapContext final : public CGContext {
     around.AddRectangle({left, top},
                         {std::ceil(pixels.size.width) + 3, std::ceil(pixels.size.height) + 3});
     SetPath(drawing_.get(), around, {});
-    cairo_.clip(drawing_.get());
+    cairo_clip(drawing_.get());
   }
 
   template <class SetSource, class PaintIt>
@@ -285,30 +284,30 @@ class CGBitmapContext final : public CGContext {
   void PaintLayer(const Layer& layer, CGFloat alpha, cairo_operator_t how) {
     if (clips_->Mask() != nullptr && alpha != 1) {
       const Layer faded = Apart([&] {
-        cairo_.setSource(drawing_.get(), layer.pattern.get());
-        cairo_.paintWithAlpha(drawing_.get(), alpha);
+        cairo_set_source(drawing_.get(), layer.pattern.get());
+        cairo_paint_with_alpha(drawing_.get(), alpha);
       });
       return PaintLayer(faded, 1, how);
     }
-    cairo_.setSource(drawing_.get(), layer.pattern.get());
-    cairo_.setOperator(drawing_.get(), how);
-    if (clips_->Mask() != nullptr) return cairo_.mask(drawing_.get(), clips_->Mask());
-    cairo_.paintWithAlpha(drawing_.get(), alpha);
+    cairo_set_source(drawing_.get(), layer.pattern.get());
+    cairo_set_operator(drawing_.get(), how);
+    if (clips_->Mask() != nullptr) return cairo_mask(drawing_.get(), clips_->Mask());
+    cairo_paint_with_alpha(drawing_.get(), alpha);
   }
 
   /// What is mixed with the page finds white paper there.
   void PutPaperBelow() {
     if (description_.background || hasPaper_) return;
     hasPaper_ = true;
-    const CairoOwned<cairo_t> below(cairo_.create(image_.get()));
-    cairo_.setOperator(below.get(), CAIRO_OPERATOR_DEST_OVER);
-    cairo_.setColor(below.get(), 1, 1, 1, 1);
-    cairo_.paint(below.get());
+    const CairoOwned<cairo_t> below(cairo_create(image_.get()));
+    cairo_set_operator(below.get(), CAIRO_OPERATOR_DEST_OVER);
+    cairo_set_source_rgba(below.get(), 1, 1, 1, 1);
+    cairo_paint(below.get());
   }
 
   /// Once it has failed, nothing is drawn any more.
   void CheckDrawing() const {
-    const cairo_status_t status = cairo_.status(drawing_.get());
+    const cairo_status_t status = cairo_status(drawing_.get());
     if (status == CAIRO_STATUS_SUCCESS) return;
     if (status == CAIRO_STATUS_NO_MEMORY) throw std::bad_alloc();
     throw std::runtime_error("Cairo cannot draw the picture");
@@ -316,14 +315,14 @@ class CGBitmapContext final : public CGContext {
 
   template <class PaintIt>
   Layer Apart(PaintIt&& paint) {
-    cairo_.pushGroup(drawing_.get());
+    cairo_push_group(drawing_.get());
     paint();
-    Layer layer = {CairoOwned<cairo_pattern_t>(cairo_.popGroup(drawing_.get())), nullptr};
+    Layer layer = {CairoOwned<cairo_pattern_t>(cairo_pop_group(drawing_.get())), nullptr};
     CheckDrawing();
     double x = 0;
     double y = 0;
-    cairo_.surfaceOf(layer.pattern.get(), &layer.surface);
-    cairo_.deviceOffset(layer.surface, &x, &y);
+    cairo_pattern_get_surface(layer.pattern.get(), &layer.surface);
+    cairo_surface_get_device_offset(layer.surface, &x, &y);
     layer.left = static_cast<int>(-x);
     layer.top = static_cast<int>(-y);
     return layer;
@@ -338,7 +337,7 @@ class CGBitmapContext final : public CGContext {
     });
     const Layer ground = Apart([&] {
       paints_->SetSource(drawing_.get(), State().fillColor, State().fillPattern);
-      cairo_.paint(drawing_.get());
+      cairo_paint(drawing_.get());
     });
     CombinePixels(operation, mark, ground);
     PaintLayer(mark, 1, CAIRO_OPERATOR_OVER);
@@ -353,7 +352,7 @@ class CGBitmapContext final : public CGContext {
     double top = 0;
     double right = 0;
     double bottom = 0;
-    cairo_.clipExtents(drawing_.get(), &left, &top, &right, &bottom);
+    cairo_clip_extents(drawing_.get(), &left, &top, &right, &bottom);
     for (int y = static_cast<int>(std::floor(top)); y < static_cast<int>(std::ceil(bottom)); ++y) {
       const std::uint32_t* const there = page.Row(static_cast<std::size_t>(y));
       std::uint32_t* const row = marks.Row(static_cast<std::size_t>(y - mark.top));
@@ -400,7 +399,6 @@ class CGBitmapContext final : public CGContext {
     }
   }
 
-  const CairoLibrary& cairo_;
   CFOwned<CGDataConsumer> consumer_;  // null once the picture is written
   CGBitmapDescription description_;
   CairoOwned<cairo_surface_t> image_;  // null before the first page
@@ -425,6 +423,9 @@ CGContextRef CGBitmapContextCreate(CGDataConsumerRef consumer,
                                    const CGBitmapDescription& description) {
   if (consumer == nullptr) return nullptr;
   if (!IsSide(description.width) || !IsSide(description.height)) return nullptr;
+  if (!kCairo.IsThere()) {
+    throw std::runtime_error("PNG needs Cairo, which is not installed (libcairo2)");
+  }
   return new CGBitmapContext(consumer, description);
 }
 

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include <png.h>
+#include "base/png_library.h"
 
 namespace kelvane {
 namespace {
@@ -31,7 +31,7 @@ void WriteBytes(png_structp png, png_bytep bytes, png_size_t count) {
 void DoNothing(png_structp /*png*/) {}
 
 [[noreturn]] void Fail(png_structp png, png_const_charp /*message*/) {
-  png_longjmp(png, 1);
+  longjmp(png_jmpbuf(png), 1);
 }
 
 void Ignore(png_structp /*png*/, png_const_charp /*message*/) {}

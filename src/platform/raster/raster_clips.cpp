@@ -8,12 +8,12 @@
 namespace kelvane {
 
 void RasterClips::WriteSave() {
-  Cairo().save(drawing_);
+  cairo_save(drawing_);
   saved_.push_back({parts_, mask_});
 }
 
 void RasterClips::WriteRestore() {
-  Cairo().restore(drawing_);
+  cairo_restore(drawing_);
   parts_ = saved_.back().parts;
   mask_ = std::move(saved_.back().mask);
   saved_.pop_back();
@@ -32,20 +32,20 @@ void RasterClips::WriteClip(const CGClip& clip) {
 
 void RasterClips::Cut(cairo_t* drawing, const CGClip& clip) const {
   SetPath(drawing, clip.area, toPixels_);
-  Cairo().setFillRule(drawing, clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-  Cairo().clip(drawing);
+  cairo_set_fill_rule(drawing, clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+  cairo_clip(drawing);
 }
 
 /// @return what a clip leaves of the mask that there is.
 std::shared_ptr<cairo_pattern_t> RasterClips::MaskOf(const CGClip& clip) const {
   const CairoOwned<cairo_surface_t> pixels(
-      Cairo().createImage(CAIRO_FORMAT_A8, page_.width, page_.height));
-  if (Cairo().statusOfSurface(pixels.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
-  const CairoOwned<cairo_t> drawing(Cairo().create(pixels.get()));
+      cairo_image_surface_create(CAIRO_FORMAT_A8, page_.width, page_.height));
+  if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+  const CairoOwned<cairo_t> drawing(cairo_create(pixels.get()));
   Cut(drawing.get(), clip);
-  Cairo().setColor(drawing.get(), 0, 0, 0, 1);
-  mask_ == nullptr ? Cairo().paint(drawing.get()) : Cairo().mask(drawing.get(), mask_.get());
-  return {Cairo().createSurfacePattern(pixels.get()), CairoDestroyer()};
+  cairo_set_source_rgba(drawing.get(), 0, 0, 0, 1);
+  mask_ == nullptr ? cairo_paint(drawing.get()) : cairo_mask(drawing.get(), mask_.get());
+  return {cairo_pattern_create_for_surface(pixels.get()), CairoDestroyer()};
 }
 
 }  // namespace kelvane

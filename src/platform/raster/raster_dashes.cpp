@@ -20,7 +20,7 @@ struct Pixel {
 };
 
 struct PathDestroyer {
-  void operator()(cairo_path_t* path) const { Cairo().destroyPath(path); }
+  void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
 };
 using CairoPath = std::unique_ptr<cairo_path_t, PathDestroyer>;
 
@@ -209,8 +209,8 @@ class Dasher {
 
   void Draw(std::vector<Pixel>& piece) {
     for (std::size_t i = 0; i < piece.size(); ++i) {
-      if (i == 0) Cairo().moveTo(drawing_, piece[i].x, piece[i].y);
-      if (i > 0) Cairo().lineTo(drawing_, piece[i].x, piece[i].y);
+      if (i == 0) cairo_move_to(drawing_, piece[i].x, piece[i].y);
+      if (i > 0) cairo_line_to(drawing_, piece[i].x, piece[i].y);
     }
     piece.clear();
   }
@@ -243,11 +243,11 @@ void CutIntoDashes(cairo_t* drawing, const RasterDashes& dashes, double margin, 
     const std::vector<double> again = drawn.lengths;
     drawn.lengths.insert(drawn.lengths.end(), again.begin(), again.end());
   }
-  const CairoPath path(Cairo().copyPathFlat(drawing));
+  const CairoPath path(cairo_copy_path_flat(drawing));
   if (path->status != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
   SeenBox seen{};
-  Cairo().clipExtents(drawing, &seen.left, &seen.top, &seen.right, &seen.bottom);
-  Cairo().newPath(drawing);
+  cairo_clip_extents(drawing, &seen.left, &seen.top, &seen.right, &seen.bottom);
+  cairo_new_path(drawing);
   Dasher dasher(drawing, drawn,
                 {seen.left - margin, seen.top - margin, seen.right + margin, seen.bottom + margin},
                 left);

@@ -12,8 +12,7 @@ inline cairo_matrix_t MatrixOf(const CGAffineTransform& t) {
 
 /// Makes a path the current one. @param toPixels  maps its points.
 inline void SetPath(cairo_t* drawing, const CGPath& path, const CGAffineTransform& toPixels) {
-  const CairoLibrary& cairo = Cairo();
-  cairo.newPath(drawing);
+  cairo_new_path(drawing);
   const auto at = [&toPixels](CGPoint point) {
     return CGPointApplyAffineTransform(point, toPixels);
   };
@@ -21,17 +20,17 @@ inline void SetPath(cairo_t* drawing, const CGPath& path, const CGAffineTransfor
     switch (element) {
       case CGPath::Element::kMove: {
         const CGPoint to = at(points[0]);
-        return cairo.moveTo(drawing, to.x, to.y);
+        return cairo_move_to(drawing, to.x, to.y);
       }
       case CGPath::Element::kLine: {
         const CGPoint to = at(points[0]);
-        return cairo.lineTo(drawing, to.x, to.y);
+        return cairo_line_to(drawing, to.x, to.y);
       }
       case CGPath::Element::kCurve: {
         const CGPoint one = at(points[0]);
         const CGPoint two = at(points[1]);
         const CGPoint to = at(points[2]);
-        return cairo.curveTo(drawing, one.x, one.y, two.x, two.y, to.x, to.y);
+        return cairo_curve_to(drawing, one.x, one.y, two.x, two.y, to.x, to.y);
       }
       case CGPath::Element::kRectangle: {
         const CGPoint corner = points[0];
@@ -39,13 +38,13 @@ inline void SetPath(cairo_t* drawing, const CGPath& path, const CGAffineTransfor
         const CGPoint corners[] = {at(corner), at({corner.x + size.x, corner.y}),
                                    at({corner.x + size.x, corner.y + size.y}),
                                    at({corner.x, corner.y + size.y})};
-        cairo.moveTo(drawing, corners[0].x, corners[0].y);
+        cairo_move_to(drawing, corners[0].x, corners[0].y);
         for (int i = 1; i < 4; ++i)
-          cairo.lineTo(drawing, corners[i].x, corners[i].y);
-        return cairo.closePath(drawing);
+          cairo_line_to(drawing, corners[i].x, corners[i].y);
+        return cairo_close_path(drawing);
       }
       case CGPath::Element::kClose:
-        return cairo.closePath(drawing);
+        return cairo_close_path(drawing);
     }
   });
 }

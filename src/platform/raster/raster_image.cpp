@@ -93,9 +93,9 @@ CairoOwned<cairo_surface_t> Make(const CGImage& image, const CGColor& paint) {
   std::optional<PicturePart> mask;
   if (image.mask != nullptr) mask.emplace(*image.mask, size);
   if (!colors.IsWhole() || (mask && !mask->IsWhole())) return nullptr;
-  CairoOwned<cairo_surface_t> surface(Cairo().createImage(
+  CairoOwned<cairo_surface_t> surface(cairo_image_surface_create(
       CAIRO_FORMAT_ARGB32, static_cast<int>(size.width), static_cast<int>(size.height)));
-  if (Cairo().statusOfSurface(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
   const PixelRows pixels(surface.get());
   const std::uint32_t painted = OpaquePixel(paint);
   for (std::size_t y = 0; y < size.height; ++y) {
@@ -123,8 +123,8 @@ cairo_surface_t* RasterImages::PixelsOf(const CGImage& image, const CGColor& pai
 }
 
 CGAffineTransform PixelsToSquare(cairo_surface_t* pixels) {
-  const auto width = static_cast<CGFloat>(Cairo().widthOf(pixels));
-  const auto height = static_cast<CGFloat>(Cairo().heightOf(pixels));
+  const auto width = static_cast<CGFloat>(cairo_image_surface_get_width(pixels));
+  const auto height = static_cast<CGFloat>(cairo_image_surface_get_height(pixels));
   return {1 / width, 0, 0, -1 / height, 0, 1};
 }
 

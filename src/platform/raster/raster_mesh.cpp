@@ -162,8 +162,8 @@ CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh, const PixelC
   PixelBox box = BoxAround(mesh, page);
   if (box.IsEmpty()) box = {0, 0, 1, 1};
   const CairoOwned<cairo_surface_t> surface(
-      Cairo().createImage(CAIRO_FORMAT_ARGB32, box.right - box.left, box.bottom - box.top));
-  if (Cairo().statusOfSurface(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, box.right - box.left, box.bottom - box.top));
+  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
   {
     const PixelRows rows(surface.get());
     TrianglePainter painter(rows, box);
@@ -172,10 +172,10 @@ CairoOwned<cairo_pattern_t> MeshPattern(const CGTriangleMesh& mesh, const PixelC
                      CornerOf(mesh.vertices[at + 2])});
     }
   }
-  CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(surface.get()));
+  CairoOwned<cairo_pattern_t> pattern(cairo_pattern_create_for_surface(surface.get()));
   const cairo_matrix_t toSurface = {1, 0, 0, 1, -double{1} * box.left, -double{1} * box.top};
-  Cairo().setPatternMatrix(pattern.get(), &toSurface);
-  Cairo().setFilter(pattern.get(), CAIRO_FILTER_NEAREST);
+  cairo_pattern_set_matrix(pattern.get(), &toSurface);
+  cairo_pattern_set_filter(pattern.get(), CAIRO_FILTER_NEAREST);
   return pattern;
 }
 

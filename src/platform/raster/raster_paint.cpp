@@ -29,18 +29,18 @@ void Place(cairo_pattern_t* pattern, const CGAffineTransform& toTarget) {
       std::max({std::abs(t.a), std::abs(t.b), std::abs(t.c), std::abs(t.d)}) < kFinest &&
       std::max(std::abs(t.tx), std::abs(t.ty)) < kFarthest;
   const cairo_matrix_t matrix = isCountable ? MatrixOf(t) : cairo_matrix_t{};
-  Cairo().setPatternMatrix(pattern, &matrix);
+  cairo_pattern_set_matrix(pattern, &matrix);
 }
 
 /// @param shading  of the target's pixels.
 CairoOwned<cairo_pattern_t> Gradient(const CGAxialShading& shading) {
   CairoOwned<cairo_pattern_t> pattern(
-      Cairo().createLinear(shading.start.x, shading.start.y, shading.end.x, shading.end.y));
+      cairo_pattern_create_linear(shading.start.x, shading.start.y, shading.end.x, shading.end.y));
   for (const CGGradientStop& stop : shading.stops) {
-    Cairo().addStop(pattern.get(), stop.location, stop.color.red, stop.color.green, stop.color.blue,
-                    stop.color.alpha);
+    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
+                                      stop.color.green, stop.color.blue, stop.color.alpha);
   }
-  Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
+  cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
   return pattern;
 }
 
@@ -62,34 +62,34 @@ CairoOwned<cairo_pattern_t> RasterPaints::ImagePattern(cairo_surface_t* pixels,
   // those of the image to have their colours there.
   constexpr CGAffineTransform kFromCorner = {1, 0, 0, 1, -0.5F, -0.5F};
   const CGAffineTransform toMiddle = {1, 0, 0, 1, halfPixel.x, halfPixel.y};
-  CairoOwned<cairo_pattern_t> pattern(Cairo().createSurfacePattern(pixels));
+  CairoOwned<cairo_pattern_t> pattern(cairo_pattern_create_for_surface(pixels));
   constexpr double kAsLarge = 0.999;  // but for rounding
   const bool isEnlarged = LengthScale(toTarget) >= kAsLarge;
   const bool isSmooth = isEnlarged && image.interpolate;
   const CGAffineTransform cornersToMiddles =
       CGAffineTransformConcat(CGAffineTransformConcat(kFromCorner, toTarget), toMiddle);
   Place(pattern.get(), isSmooth ? cornersToMiddles : toTarget);
-  Cairo().setExtend(pattern.get(), CAIRO_EXTEND_PAD);
-  Cairo().setFilter(pattern.get(), isSmooth     ? CAIRO_FILTER_BILINEAR
-                                   : isEnlarged ? CAIRO_FILTER_NEAREST
-                                                : CAIRO_FILTER_GOOD);  // by area
+  cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+  cairo_pattern_set_filter(pattern.get(), isSmooth     ? CAIRO_FILTER_BILINEAR
+                                          : isEnlarged ? CAIRO_FILTER_NEAREST
+                                                       : CAIRO_FILTER_GOOD);  // by area
   return pattern;
 }
 
 bool RasterPaints::Shows(cairo_pattern_t* pattern) {
-  return pattern != nullptr && Cairo().statusOfPattern(pattern) == CAIRO_STATUS_SUCCESS;
+  return pattern != nullptr && cairo_pattern_status(pattern) == CAIRO_STATUS_SUCCESS;
 }
 
 // A source that cannot be used would end all drawing.
 void RasterPaints::SetSource(cairo_t* drawing, cairo_pattern_t* pattern) {
-  if (Shows(pattern)) return Cairo().setSource(drawing, pattern);
-  Cairo().setColor(drawing, 0, 0, 0, 0);
+  if (Shows(pattern)) return cairo_set_source(drawing, pattern);
+  cairo_set_source_rgba(drawing, 0, 0, 0, 0);
 }
 
 void RasterPaints::SetSource(cairo_t* drawing, const CGColor& color,
                              const CGSharedPattern& pattern) {
   if (pattern == nullptr) {
-    return Cairo().setColor(drawing, color.red, color.green, color.blue, 1);
+    return cairo_set_source_rgba(drawing, color.red, color.green, color.blue, 1);
   }
   if (pattern != lastShared_) {
     last_ = PatternOf(*pattern);
@@ -131,14 +131,15 @@ CairoOwned<cairo_pattern_t> RasterPaints::Tiling(const CGPattern& pattern) {
   const CGAffineTransform toTile = {
       static_cast<CGFloat>(across) / step.width, 0, 0,
       -static_cast<CGFloat>(down) / step.height, 0, static_cast<CGFloat>(down)};
-  const CairoOwned<cairo_surface_t> tile(Cairo().createImage(CAIRO_FORMAT_ARGB32, across, down));
-  if (Cairo().statusOfSurface(tile.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
-  const CairoOwned<cairo_t> drawing(Cairo().create(tile.get()));
+  const CairoOwned<cairo_surface_t> tile(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, across, down));
+  if (cairo_surface_status(tile.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
+  const CairoOwned<cairo_t> drawing(cairo_create(tile.get()));
   DrawCell(drawing.get(), pattern, toTile);
-  CairoOwned<cairo_pattern_t> tiles(Cairo().createSurfacePattern(tile.get()));
-  Cairo().setExtend(tiles.get(), CAIRO_EXTEND_REPEAT);
+  CairoOwned<cairo_pattern_t> tiles(cairo_pattern_create_for_surface(tile.get()));
+  cairo_pattern_set_extend(tiles.get(), CAIRO_EXTEND_REPEAT);
   const bool isUpright = toTarget.b == 0 && toTarget.c == 0;
-  Cairo().setFilter(tiles.get(), isUpright ? CAIRO_FILTER_NEAREST : CAIRO_FILTER_BILINEAR);
+  cairo_pattern_set_filter(tiles.get(), isUpright ? CAIRO_FILTER_NEAREST : CAIRO_FILTER_BILINEAR);
   Place(tiles.get(), CGAffineTransformConcat(CGAffineTransformInvert(toTile), toTarget));
   return tiles;
 }
@@ -149,13 +150,13 @@ void RasterPaints::DrawCell(cairo_t* drawing, const CGPattern& pattern,
   CGPath edge;
   edge.AddRectangle({0, 0}, pattern.TileSize());
   SetPath(drawing, edge, toTile);
-  Cairo().clip(drawing);
+  cairo_clip(drawing);
   if (pattern.image != nullptr) DrawCellImages(drawing, pattern, toTile);
   for (const CGPatternShape& shape : pattern.shapes) {
-    Cairo().setColor(drawing, shape.color.red, shape.color.green, shape.color.blue,
-                     shape.color.alpha);
+    cairo_set_source_rgba(drawing, shape.color.red, shape.color.green, shape.color.blue,
+                          shape.color.alpha);
     SetPath(drawing, shape.path, toTile);
-    Cairo().fill(drawing);
+    cairo_fill(drawing);
   }
 }
 
@@ -167,7 +168,7 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
   const CGAffineTransform toCell =
       CGAffineTransformConcat(PixelsToSquare(pixels), {cell.width, 0, 0, cell.height, 0, 0});
   const CGPoint halfPixel = HalfPixelIn(toTile, CGAffineTransformConcat(pattern.matrix, toPixels_));
-  Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_NONE);
+  cairo_set_antialias(drawing, CAIRO_ANTIALIAS_NONE);
   for (int row = 0; row < pattern.Rows(); ++row) {
     for (int column = 0; column < pattern.Columns(); ++column) {
       const CGAffineTransform mirrored = {column == 0 ? 1.0F : -1.0F,
@@ -185,10 +186,10 @@ void RasterPaints::DrawCellImages(cairo_t* drawing, const CGPattern& pattern,
           cell);
       SetSource(drawing, image.get());
       SetPath(drawing, place, toTile);
-      Cairo().fill(drawing);
+      cairo_fill(drawing);
     }
   }
-  Cairo().setAntialias(drawing, CAIRO_ANTIALIAS_DEFAULT);
+  cairo_set_antialias(drawing, CAIRO_ANTIALIAS_DEFAULT);
 }
 
 }  // namespace kelvane

@@ -51,11 +51,12 @@ constexpr std::uint32_t Unfaded(std::uint32_t pixel) {
 class PixelRows {
  public:
   explicit PixelRows(cairo_surface_t* surface)
-      : surface_(surface), bytesPerRow_(static_cast<std::size_t>(Cairo().strideOf(surface))) {
-    Cairo().flush(surface);
-    data_ = Cairo().dataOf(surface);
+      : surface_(surface),
+        bytesPerRow_(static_cast<std::size_t>(cairo_image_surface_get_stride(surface))) {
+    cairo_surface_flush(surface);
+    data_ = cairo_image_surface_get_data(surface);
   }
-  ~PixelRows() { Cairo().markDirty(surface_); }
+  ~PixelRows() { cairo_surface_mark_dirty(surface_); }
   PixelRows(const PixelRows&) = delete;
   PixelRows& operator=(const PixelRows&) = delete;
 

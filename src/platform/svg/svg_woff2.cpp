@@ -7,10 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include <brotli/encode.h>
-
 #include "platform/quartz/cg_font_subset.h"
 #include "platform/quartz/harfbuzz_owned.h"
+#include "platform/svg/brotli.h"
 
 namespace kelvane {
 namespace {

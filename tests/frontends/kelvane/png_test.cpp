@@ -15,7 +15,6 @@ namespace kelvane::test {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 class KelvanePng : public KelvaneTool {
  protected:
@@ -75,20 +74,6 @@ TEST_F(KelvanePng, IsRefusedBeforeItTakesTooMuchMemory) {
   EXPECT_EQ(wide.status, 4);
   EXPECT_THAT(wide.errors, HasSubstr("more than 32767 pixels a side, or 2^28 in all"));
   EXPECT_LT(wide.processorSeconds, 1);
-}
-
-/// @return the libraries that the tool loads to make a file of its name.
-std::string LibrariesFor(const TemporaryFolder& folder, const std::string& output) {
-  return test::Run(
-             {"env", "-C", folder.Path(), "LD_DEBUG=files", KelvanePath(), "-o", output, "a.emf"})
-      .output;
-}
-
-TEST_F(KelvanePng, IsAllThatLoadsCairo) {
-  EXPECT_THAT(LibrariesFor(folder_, "a.pdf"), HasSubstr("libqpdf"));
-  EXPECT_THAT(LibrariesFor(folder_, "a.pdf"), Not(HasSubstr("libcairo")));
-  EXPECT_THAT(LibrariesFor(folder_, "a.svg"), Not(HasSubstr("libcairo")));
-  EXPECT_THAT(LibrariesFor(folder_, "b.png"), HasSubstr("libcairo"));
 }
 
 }  // namespace
