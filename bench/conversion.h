@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "frontends/conversion.h"
@@ -18,6 +19,14 @@ inline CFOwned<CFData> Convert(const std::vector<unsigned char>& metafile) {
 /// @return the document that it makes by the conversion that follows Windows.
 inline CFOwned<CFData> ConvertAsWindows(const std::vector<unsigned char>& metafile) {
   return ConvertPicture(metafile, {}).document;
+}
+
+/// The same, in a format of its own: "svg", "png".
+inline CFOwned<CFData> ConvertAsWindowsTo(std::string_view format,
+                                          const std::vector<unsigned char>& metafile) {
+  ConversionOptions options;
+  options.format = format;
+  return ConvertPicture(metafile, options).document;
 }
 
 }  // namespace kelvane::bench

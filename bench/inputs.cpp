@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "support/metafile.h"
+#include "support/plus_records.h"
+#include "support/windows_metafile.h"
 
 namespace kelvane::bench {
 namespace {
@@ -90,13 +92,14 @@ Metafile Lines(std::size_t bytes) {
   });
 }
 
+constexpr std::u16string_view kWords[] = {u"Intake", u"Filter 2", u"Pump", u"Valve (open)",
+                                          u"Tank 17"};
+
 std::vector<unsigned char> Boxes(std::size_t bytes, bool labelled) {
   constexpr std::uint32_t kPen = 1;
   constexpr std::uint32_t kBrush = 2;
   constexpr std::uint32_t kFont = 3;
   constexpr std::int32_t kColumns = 12;
-  constexpr std::u16string_view kWords[] = {u"Intake", u"Filter 2", u"Pump", u"Valve (open)",
-                                            u"Tank 17"};
   Metafile metafile;
   metafile.Bounds(0, 0, 1000, 1400).CreatePen(kPen, 1, test::Rgb(40, 40, 40)).SelectObject(kPen);
   metafile.CreateFont(kFont, {.face = u"Arial"}).SelectObject(kFont).SetBkMode(test::kTransparent);
@@ -132,6 +135,50 @@ std::vector<Input> AllInputs() {
 
 std::vector<unsigned char> PointLists(std::size_t bytes) {
   return Polylines(bytes).Build();
+}
+
+std::vector<unsigned char> PointListsOfEmfPlus(std::size_t bytes) {
+  constexpr std::uint32_t kDrawLines = 0x400D;
+  constexpr std::uint32_t kSolid = 0;  // of brushes
+  constexpr std::uint32_t kBlack = 0xFF000000;
+  constexpr std::uint32_t kSlot = 0;
+  test::PlusRecords records;
+  records.Header();
+  records.Object(
+      test::kPlusPen, kSlot,
+      test::Bytes().U32(0).U32(0).U32(0).F32(1).U32(test::kPlusVersion).U32(kSolid).U32(kBlack));
+  for (std::size_t i = 0; i < bytes / kPolySize; ++i) {
+    test::Bytes lists;
+    lists.U32(kPointsInARecord);
+    for (const At point : PointsFrom(i * kPointsInARecord))
+      lists.I16(point.x).I16(point.y);
+    records.Record(kDrawLines, test::kPlusSmall | kSlot, lists);
+  }
+  Metafile metafile;
+  metafile.Bounds(0, 0, 32000, 32000);
+  records.AddTo(metafile);
+  return metafile.Build();
+}
+
+std::vector<unsigned char> PointListsOfWmf(std::size_t bytes) {
+  constexpr std::uint16_t kPolyline = 0x0325;
+  test::WindowsMetafile metafile;
+  metafile.Placeable(0, 0, 32000, 32000, 2540);
+  for (std::size_t i = 0; i < bytes / kPolySize; ++i) {
+    test::Bytes lists;
+    lists.U16(kPointsInARecord);
+    for (const At point : PointsFrom(i * kPointsInARecord))
+      lists.I16(point.x).I16(point.y);
+    metafile.Record(kPolyline, lists);
+  }
+  return metafile.Build();
+}
+
+std::u32string CharactersOfLabels() {
+  std::u32string characters;
+  for (const std::u16string_view word : kWords)
+    characters.append(word.begin(), word.end());
+  return characters;
 }
 
 std::vector<unsigned char> Diagram(std::size_t bytes) {

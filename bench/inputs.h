@@ -24,12 +24,19 @@ std::vector<unsigned char> Drawing(std::size_t bytes);
 /// Point lists of 301 points each, and nothing else.
 std::vector<unsigned char> PointLists(std::size_t bytes);
 
+/// The same lists in the other formats: as many points in as many bytes.
+std::vector<unsigned char> PointListsOfEmfPlus(std::size_t bytes);
+std::vector<unsigned char> PointListsOfWmf(std::size_t bytes);
+
 /// A diagram as programs write it, object by object: boxes in brushes of their own, joined by
 /// lines.
 std::vector<unsigned char> Diagram(std::size_t bytes);
 
 /// The same, each box with a label in one face.
 std::vector<unsigned char> LabelledDiagram(std::size_t bytes);
+
+/// @return the characters of all its labels.
+std::u32string CharactersOfLabels();
 
 /// Short strings in three faces in turn, each unit with its advance.
 std::vector<unsigned char> Labels(std::size_t strings);

@@ -25,8 +25,11 @@ std::vector<Finding> Memory(const std::string& self);
 /// @param flag  what it is to convert, and how.
 void PrintPeak(std::string_view flag);
 
-/// Conversion of small files in memory, against an empty page.
+/// Conversion of small files in memory, against what the libraries alone take for their pages.
 std::vector<Finding> SmallFiles();
+
+/// Each format that is read, into each that is made, against deflate alone.
+std::vector<Finding> FormatsAndOutputs();
 
 /// The conversion that follows Windows against the classic one, of the same vectors in memory.
 std::vector<Finding> AgainstClassicConversion();
@@ -35,9 +38,12 @@ std::vector<Finding> AgainstClassicConversion();
 /// @param scenes  folder of metafiles, of which those count whose names say that they are dual.
 std::vector<Finding> Halves(const std::string& scenes);
 
-/// The tool as a process, against the start of comparable tools.
-/// @param converter  its path.
-std::vector<Finding> Processes(const std::string& converter);
+/// The tools as processes, against the start of comparable ones; many files in one against one
+/// each.
+/// @param converter  the path of the classic one. @param tool  that of the other.
+/// @param empty      that of a program that does nothing but start with the PDF library.
+std::vector<Finding> Processes(const std::string& converter, const std::string& tool,
+                               const std::string& empty);
 
 /// Bytes of PDF against what an optimiser makes of the same file.
 /// @param metafiles  folder of metafiles to convert; left as it is.

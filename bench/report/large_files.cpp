@@ -5,15 +5,10 @@
 #include <string>
 #include <vector>
 
-#include <libdeflate.h>
-#include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-
-#include "base/deflater.h"
 #include "classic/document/emf_file.h"
 #include "conversion.h"
 #include "inputs.h"
+#include "report/deflate_alone.h"
 #include "report/goals.h"
 #include "support/metafile.h"
 
@@ -23,37 +18,14 @@ namespace {
 constexpr int kLargeFileRuns = 7;
 constexpr std::size_t kMegabyte = 1'000'000;
 
-/// The streams of the page's content, inflated.
-std::vector<std::string> ContentOf(const CFData& document) {
-  QPDF pdf;
-  pdf.processMemoryFile("document", reinterpret_cast<const char*>(document.bytes.data()),
-                        document.bytes.size());
-  QPDFObjectHandle page = pdf.getAllPages().at(0);
-  QPDFObjectHandle contents = page.getKey("/Contents");
-  const std::vector<QPDFObjectHandle> streams =
-      contents.isArray() ? contents.getArrayAsVector() : std::vector{contents};
-  std::vector<std::string> pieces;
-  for (QPDFObjectHandle stream : streams) {
-    const auto data = stream.getStreamData();
-    pieces.emplace_back(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
-  }
-  return pieces;
-}
-
 /// @param convert  takes a metafile and gives its document.
 template <class Conversion>
 Finding AgainstDeflate(const std::string& what, const std::vector<unsigned char>& metafile,
                        Conversion convert) {
-  const std::vector<std::string> content = ContentOf(*convert(metafile));
-  std::vector<unsigned char> room(content.front().size() * 2);
-  libdeflate_compressor* compressor = libdeflate_alloc_compressor(Deflater::kQuick);
-  const auto deflate = [&] {
-    for (const std::string& piece : content)
-      libdeflate_zlib_compress(compressor, piece.data(), piece.size(), room.data(), room.size());
-  };
-  const Series ratio = SideBySide([&] { convert(metafile); }, deflate, kLargeFileRuns);
-  libdeflate_free_compressor(compressor);
-  return {what + " : deflating its content alone", ratio, kLargeFileRuns, 2};
+  DeflateAlone alone(ContentOf(*convert(metafile)));
+  return {what + " : deflating its content alone",
+          SideBySide([&] { convert(metafile); }, [&] { alone.Deflate(); }, kLargeFileRuns),
+          kLargeFileRuns, 2};
 }
 
 /// Keeps a result from being optimised away.

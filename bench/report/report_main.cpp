@@ -1,4 +1,4 @@
-// What docs/performance.md promises, measured side by side: performance_report CONVERTER METAFILES
+// What docs/performance.md promises, measured side by side: performance_report PROGRAMS METAFILES
 // SCENES [REPORT.md]. The table goes to standard output, or replaces the one in the report.
 
 #include <cstdio>
@@ -13,7 +13,7 @@
 namespace kelvane::bench {
 namespace {
 
-std::string MeasureAll(const std::string& self, const std::string& converter,
+std::string MeasureAll(const std::string& self, const std::string& programs,
                        const std::string& metafiles, const std::string& scenes) {
   std::vector<Finding> all;
   const auto add = [&all](const std::vector<Finding>& findings) {
@@ -23,10 +23,12 @@ std::string MeasureAll(const std::string& self, const std::string& converter,
   add(SmallFiles());
   add(AgainstClassicConversion());
   add(Halves(scenes));
-  add(Processes(converter));
+  add(Processes(programs + "/kelvaneConverter", programs + "/kelvane",
+                programs + "/bench/empty_program"));
   add(Threads());
   add(FileSizes(metafiles));
   add(LargeFiles());
+  add(FormatsAndOutputs());
   add(Bitmaps());
   add(Memory(self));
   return Table(all);
@@ -52,7 +54,7 @@ int Main(const std::vector<std::string>& arguments) {
     return 0;
   }
   if (arguments.size() < 4) {
-    std::fputs("Usage: performance_report CONVERTER METAFILES SCENES [REPORT.md]\n", stderr);
+    std::fputs("Usage: performance_report PROGRAMS METAFILES SCENES [REPORT.md]\n", stderr);
     return 1;
   }
   const std::string table = MeasureAll(arguments[0], arguments[1], arguments[2], arguments[3]);
