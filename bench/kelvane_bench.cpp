@@ -30,6 +30,13 @@ void ConvertInput(benchmark::State& state, const Input& input) {
   CountBytes(state, input);
 }
 
+void PlayInput(benchmark::State& state, const Input& input) {
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(ConvertAsWindows(input.bytes)->bytes.data());
+  }
+  CountBytes(state, input);
+}
+
 void RegisterAll() {
   const auto add = [](const char* action, auto function, const Input& input) {
     benchmark::RegisterBenchmark((action + input.name).c_str(), function, input)
@@ -38,8 +45,10 @@ void RegisterAll() {
   for (const Input& input : AllInputs()) {
     add("parse/", Parse, input);
     add("convert/", ConvertInput, input);
+    add("play/", PlayInput, input);
   }
   add("convert/", ConvertInput, EmptyPage());
+  add("play/", PlayInput, EmptyPage());
 }
 
 }  // namespace
