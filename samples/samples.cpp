@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "drawing_samples.h"
+#include "report_sample.h"
 #include "state_samples.h"
 #include "text_samples.h"
 
@@ -18,7 +19,8 @@ std::vector<Sample> AllSamples() {
           {"nested", Nested()},
           {"bitmaps", Bitmaps()},
           {"text", Text()},
-          {"scripts", Scripts()}};
+          {"scripts", Scripts()},
+          {"report", Report()}};
 }
 
 }  // namespace kelvane::samples

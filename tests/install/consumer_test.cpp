@@ -13,6 +13,7 @@ namespace kelvane::test {
 namespace {
 
 const std::string kSample = SourcePath("samples/shapes.emf");
+const std::string kReport = SourcePath("samples/report.emf");
 
 std::string DocumentOfTheSample() {
   const std::string bytes = ReadFile(kSample);
@@ -36,6 +37,27 @@ TEST(ConsumerInC, ConvertsWhenBuiltAsTheReadmeSays) {
                 ReadmeLine("cc "));
   ASSERT_EQ(built.status, 0) << built.output;
   EXPECT_EQ(RunInShell(tree, folder / "program" + (" " + kSample)).output, DocumentOfTheSample());
+}
+
+/// The README's program in C.
+std::string ReadmeProgram() {
+  const std::string readme = ReadFile(SourcePath("README.md"));
+  const std::string opening = "\n```c\n";
+  const std::size_t begin = readme.find(opening) + opening.size();
+  return readme.substr(begin, readme.find("\n```\n", begin) + 1 - begin);
+}
+
+TEST(ConsumerInC, MakesWhatTheReadmeSays) {
+  const InstalledTree tree;
+  const TemporaryFolder folder;
+  WriteFile(folder / "program.c", ReadmeProgram());
+  const ProcessResult made = RunInShell(
+      tree, "set -e; cd " + folder.Path().string() +
+                "; cc() { $CC $CFLAGS -std=c99 -Wall -Wextra -Wpedantic -Werror \"$@\"; }\n" +
+                ReadmeLine("cc ") + "\n./program < " + kReport + " > a.svg 2> a.json");
+  ASSERT_EQ(made.status, 0) << made.output;
+  EXPECT_TRUE(ReadFile(folder / "a.svg").ends_with("</svg>\n"));
+  EXPECT_NE(ReadFile(folder / "a.json").find("\"left_out\":[]"), std::string::npos);
 }
 
 TEST(ConsumerInC, LearnsTheVersionFromPkgConfig) {

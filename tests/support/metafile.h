@@ -65,6 +65,8 @@ struct FontAttributes {
   std::int32_t width = 0;       // logical units
   std::int32_t escapement = 0;  // tenths of a degree
   std::uint8_t italic = 0;
+  std::int32_t weight = 400;
+  std::int32_t orientation = 0;  // of the letters, tenths of a degree
 };
 
 /// Text alignment and background mode, as records store them.

@@ -31,7 +31,8 @@ Metafile& Metafile::CreateFont(std::uint32_t index, const FontAttributes& font) 
   constexpr std::size_t kFaceNameUnits = 32;
   constexpr std::size_t kRest = 228;  // full name, style and what follows them
   Bytes body;
-  body.I32(font.height).I32(font.width).I32(font.escapement).I32(0).I32(400);
+  body.I32(font.height).I32(font.width).I32(font.escapement);
+  body.I32(font.orientation).I32(font.weight);
   body.U8(font.italic).Zeros(7).Utf16(font.face);
   body.Zeros(2 * (kFaceNameUnits - font.face.size()) + kRest);
   return CreateObject(EMR_EXTCREATEFONTINDIRECTW, index, body);

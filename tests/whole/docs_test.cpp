@@ -22,19 +22,16 @@ namespace fs = std::filesystem;
 
 const std::string kRoot = test::SourcePath("") + "/";
 
-TEST(Readme, ShowsTheExamplesThatAreCompiled) {
-  for (const char* const name : {"readme_example.c", "readme_report_example.c"}) {
-    const std::string example = test::ReadFile(kRoot + "tests/frontends/" + name);
-    EXPECT_NE(test::ReadFile(kRoot + "README.md").find("```c\n" + example + "```\n"),
-              std::string::npos)
-        << name;
-  }
+TEST(ClassicPage, ShowsTheExampleThatIsCompiled) {
+  const std::string example = test::ReadFile(kRoot + "tests/frontends/classic_example.c");
+  EXPECT_NE(test::ReadFile(kRoot + "docs/classic.md").find("```c\n" + example + "```\n"),
+            std::string::npos);
 }
 
 TEST(Readme, NamesASampleThatIsThere) {
-  EXPECT_NE(test::ReadFile(kRoot + "README.md").find("./dev convert samples/shapes.emf"),
+  EXPECT_NE(test::ReadFile(kRoot + "README.md").find("./dev convert samples/report.emf"),
             std::string::npos);
-  EXPECT_FALSE(test::ReadFile(kRoot + "samples/shapes.emf").empty());
+  EXPECT_FALSE(test::ReadFile(kRoot + "samples/report.emf").empty());
 }
 
 /// All that the first group of a pattern matches in a text.

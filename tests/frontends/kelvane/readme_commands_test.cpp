@@ -15,7 +15,12 @@ namespace {
 
 class ReadmeCommands : public KelvaneTool {
  protected:
-  void SetUp() override { Write("drawing.emf", FileOfALine()); }
+  void SetUp() override {
+    Write("drawing.emf", FileOfALine());
+    std::filesystem::create_directory(folder_ / "figures");
+    Write("figures/one.emf", FileOfALine());
+    Write("figures/two.emf", FileOfALine());
+  }
 };
 
 TEST_F(ReadmeCommands, OfTheToolWork) {
@@ -28,7 +33,7 @@ TEST_F(ReadmeCommands, OfTheToolWork) {
                                             "-c", "PATH=" + tools + ":$PATH; " + i->str(1)});
     EXPECT_EQ(result.status, 0) << i->str(1) << "\n" << result.output;
   }
-  EXPECT_EQ(count, 8U);
+  EXPECT_EQ(count, 9U);
 }
 
 }  // namespace
