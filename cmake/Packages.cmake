@@ -23,32 +23,31 @@ set(KELVANE_LIBRARIES_OF_PICTURES "libcairo2, libtiff6")
 set(KELVANE_FONTS "fonts-liberation, fonts-crosextra-carlito, fonts-crosextra-caladea, fonts-dejavu-core, fonts-urw-base35")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS "${KELVANE_LIBRARIES_OF_PICTURES}, ${KELVANE_FONTS}")
 set(CPACK_KELVANE_LOADED_LIBRARIES "${KELVANE_LOADED_LIBRARIES}")
-set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows metafiles into PDF
-A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
-page, and can report what that lacks. Lines stay vectors, and text stays text
-that can be searched and copied. Input is not trusted: whatever it is, there is
-a document or an error.
+set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "library that turns Windows metafiles into PDF, SVG and PNG
+A call turns a metafile (EMF, EMF+ or WMF) in memory into a document that looks
+as Windows shows it, and reports what that lacks. Lines stay vectors, and text
+stays text that can be searched and copied. Input is not trusted: whatever it
+is, there is a document or an error.
 
 This package contains the shared library.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libkelvane-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Windows metafiles to PDF - development files
-A call turns a metafile (EMF or WMF), in memory or in a file, into a PDF of one
-page.
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Windows metafiles to PDF, SVG and PNG - development files
+A call turns a metafile (EMF, EMF+ or WMF) in memory into a document that looks
+as Windows shows it.
 
 This package contains the header, which is C, and what pkg-config and CMake
 need to build programs that use the library.")
 
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_NAME kelvane)
 set(CPACK_DEBIAN_CONVERTER_PACKAGE_SECTION graphics)
-set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows metafiles into one-page PDFs
+set(CPACK_COMPONENT_CONVERTER_DESCRIPTION "turn Windows metafiles into PDF, SVG and PNG
 The tool kelvane makes pages that look as Windows shows a metafile (EMF, EMF+,
-WMF), of many files at once, and reports what it left out. The tool
-kelvaneConverter draws text and bitmaps, too, but simplifies lines and shapes.
-Lines stay vectors, and text stays text that can be searched and copied. Both
-are made for build pipelines, TeX and document servers, and for files nobody
-vouches for.")
+WMF), of many files at once, and reports what it left out. Lines stay vectors,
+and text stays text that can be searched and copied. The tool kelvaneConverter
+makes simpler pages, and only PDF. Both are made for build pipelines, TeX and
+document servers, and for files nobody vouches for.")
 
 set(CPACK_KELVANE_ABI ${KELVANE_ABI})
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/../packaging/finish_staging.cmake)
