@@ -9,15 +9,15 @@ namespace {
 
 using File = std::vector<unsigned char>;
 
-constexpr std::uint32_t kExtSelectClipRgn = 75;
-constexpr std::uint32_t kWidenPath = 66;
-constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr std::uint32_t kSelectClipRegion = 75;
+constexpr std::uint32_t kWiden = 66;
+constexpr float kNoNumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float kEndless = std::numeric_limits<float>::infinity();
 
-constexpr const char* kNoSize = "a record claims less than";
+constexpr const char* kSaysNoSize = "a record claims less than";
 
 Metafile NoClip(Metafile harm) {
-  return harm.Record(kExtSelectClipRgn, Bytes().U32(0).U32(kRegionCopy));
+  return harm.Record(kSelectClipRegion, Bytes().U32(0).U32(kRegionCopy));
 }
 
 // Floats, wherever a record has them.
@@ -59,12 +59,12 @@ File OnPage(std::int32_t right, std::uint32_t frameRight) {
 
 std::vector<Attack> Numbers() {
   return {
-      {"no_numbers", [] { return NumbersOf(kNaN); }},
-      {"infinities", [] { return NumbersOf(kInfinity); }},
+      {"no_numbers", [] { return NumbersOf(kNoNumber); }},
+      {"infinities", [] { return NumbersOf(kEndless); }},
       {"the_greatest_numbers", [] { return NumbersOf(std::numeric_limits<float>::max()); }},
       {"the_least_numbers", [] { return NumbersOf(std::numeric_limits<float>::denorm_min()); }},
-      {"no_numbers_in_emfplus", [] { return NumbersOfEmfPlus(kNaN); }},
-      {"infinities_in_emfplus", [] { return NumbersOfEmfPlus(kInfinity); }},
+      {"no_numbers_in_emfplus", [] { return NumbersOfEmfPlus(kNoNumber); }},
+      {"infinities_in_emfplus", [] { return NumbersOfEmfPlus(kEndless); }},
       {"the_greatest_numbers_in_emfplus",
        [] { return NumbersOfEmfPlus(std::numeric_limits<float>::max()); }},
       {"a_page_of_a_billion_units", [] { return OnPage(1000000000, 0); }, "", Outcome::kTooLarge},
@@ -92,7 +92,7 @@ Metafile CrossedRegions() {
       if (round % 2 != 0) region.Rectangle(0, 2 * i, 2000, 2 * i + 1);
     }
     constexpr std::uint32_t kXor = 3;
-    harm.Record(kExtSelectClipRgn,
+    harm.Record(kSelectClipRegion,
                 Bytes().U32(16032).U32(round == 0 ? kRegionCopy : kXor).Append(region.Data()));
     harm.Rectangle({1, 1, 50, 50});
   }
@@ -106,7 +106,7 @@ Metafile WidenedPaths() {
       {{1, 1}, {90, 2}, {3, 80}, {90, 90}});
   harm.EndPath();
   for (int i = 0; i < 1000; ++i)
-    harm.Record(kWidenPath);
+    harm.Record(kWiden);
   return harm.StrokePath();
 }
 
@@ -117,7 +117,7 @@ Metafile WidenedTangle() {
     points.push_back({i * 7919 % 97, i * 104729 % 101});
   Metafile harm;
   harm.CreatePen(1, 2, 0).SelectObject(1).BeginPath().Polyline(points).EndPath();
-  return harm.Record(kWidenPath).StrokePath();
+  return harm.Record(kWiden).StrokePath();
 }
 
 /// Clips of curves, each against all before it, with a mark under each.
@@ -192,12 +192,12 @@ std::vector<Attack> Loops() {
        [] {
          return Metafile().Rectangle({1, 1, 9, 9}).RecordOfSize(EMR_RECTANGLE, 0).Build();
        },
-       kNoSize, Outcome::kCut},
+       kSaysNoSize, Outcome::kCut},
       {"a_windows_record_of_no_size",
        [] {
          return HundredUnits().Record(0x041B, {9, 9, 1, 1}).RecordOfSize(0x041B, 0).Build();
        },
-       kNoSize, Outcome::kCut},
+       kSaysNoSize, Outcome::kCut},
       {"records_of_emfplus_of_no_size",
        [] {
          Bytes data = Bytes().U32(0x2B464D45);

@@ -16,7 +16,7 @@ constexpr std::uint32_t kRunLengths = 1;
 constexpr std::uint32_t kJpegInside = 4;
 constexpr std::uint32_t kPngInside = 5;
 
-constexpr const char* kTooLarge = "its bitmap is far larger than its data";
+constexpr const char* kFarTooLarge = "its bitmap is far larger than its data";
 constexpr const char* kNoPicture = "its bitmap cannot be read";
 
 File Drawn(const BitmapFields& fields, const Bytes& pixels, std::uint32_t type = kStretchDibits) {
@@ -46,7 +46,7 @@ std::vector<Attack> Geometry() {
                        .colorsUsed = 1},
                       Bytes().U32(0).Each({255, 0, 0, 1}));
        },
-       kTooLarge},
+       kFarTooLarge},
       {"runs_that_step_out_of_the_bitmap",
        [] {
          Bytes runs = Bytes().U32(0);
@@ -125,26 +125,26 @@ std::vector<Attack> ImageFiles() {
        [] {
          return DrawnImageOf(PngFile({kSide, kSide}, File(100)));
        },
-       kTooLarge},
+       kFarTooLarge},
       {"a_jpeg_that_promises_too_much", [] { return DrawnImageOf(JpegOf(kSide)); }},
-      {"a_gif_that_promises_too_much", [] { return DrawnImageOf(GifOf(kSide)); }, kTooLarge},
+      {"a_gif_that_promises_too_much", [] { return DrawnImageOf(GifOf(kSide)); }, kFarTooLarge},
       {"a_tiff_that_promises_too_much",
        [] { return DrawnImageOf(TiffFile({.width = kSide, .height = kSide}, File(100))); },
-       kTooLarge},
+       kFarTooLarge},
       {"a_tiff_of_tiles_that_promises_too_much",
        [] {
          return DrawnImageOf(
              TiffFile({.width = 16, .height = 16, .tileSide = 0x7FFFFFF0}, File(100)));
        },
        kNoPicture},
-      {"a_png_that_expands", [] { return DrawnImageOf(PngBomb()); }, kTooLarge},
-      {"a_tiff_that_expands", [] { return DrawnImageOf(TiffBomb()); }, kTooLarge},
+      {"a_png_that_expands", [] { return DrawnImageOf(PngBomb()); }, kFarTooLarge},
+      {"a_tiff_that_expands", [] { return DrawnImageOf(TiffBomb()); }, kFarTooLarge},
       {"a_png_in_a_bitmap_that_promises_too_much",
        [] {
          return Drawn({.width = kSide, .height = kSide, .bitCount = 0, .compression = kPngInside},
                       Bytes().Append(PngFile({kSide, kSide}, File(100))));
        },
-       kTooLarge},
+       kFarTooLarge},
       {"a_jpeg_in_a_bitmap_that_promises_too_much",
        [] {
          return Drawn({.width = kSide, .height = kSide, .bitCount = 0, .compression = kJpegInside},
@@ -163,7 +163,7 @@ std::vector<Attack> ImageFiles() {
                   Bytes().Append(JpegOf(kSide))}});
          return Followed(harm);
        },
-       kTooLarge},
+       kFarTooLarge},
       {"a_bmp_in_a_bmp",
        [=] {
          const File inner = BmpOf(inside, BmpOf(inside, File(64)));
@@ -178,7 +178,7 @@ std::vector<Attack> ImageFiles() {
          fields.compression = kPngInside;
          return DrawnImageOf(BmpOf(fields, PngFile({kSide, kSide}, File(100))));
        },
-       kTooLarge},
+       kFarTooLarge},
   };
 }
 
