@@ -1,5 +1,7 @@
 #include "limits/emfplus_families.h"
 
+#include <string>
+
 #include "support/plus_records.h"
 
 namespace kelvane::test {
@@ -128,6 +130,39 @@ File PlusStrings(std::size_t size) {
   const std::u16string line = u"The quick brown fox jumps over the lazy dog";
   return Filled(WithFont(), size, 128, [&](PlusRecords& records, std::size_t i) {
     records.Record(0x401C, kPlusColor | 1, StringOf(line, i));
+  });
+}
+
+// Dashes next to nothing along lines across many pages.
+File PlusShortDashes(std::size_t size) {
+  constexpr std::uint32_t kStyleAndDashes = 0x20 | 0x100;
+  Bytes pen = Bytes().U32(0).U32(kStyleAndDashes).U32(0).F32(3).U32(5).U32(2).F32(1e-7F).F32(1e-7F);
+  pen.U32(kPlusVersion).U32(0).U32(kColor);
+  return Filled(PlusRecords().Object(kPlusPen, 1, pen), size, 24,
+                [](PlusRecords& records, std::size_t i) {
+                  records.Record(0x400D, kPlusSmall | 1,
+                                 Bytes().U32(2).Point(-32000, Scattered(i)).Point(32000, 9));
+                });
+}
+
+// Metafiles as images, each drawn once.
+File PlusMetafiles(std::size_t size) {
+  const File inner = Metafile().Polyline({{1, 2}, {30, 40}}).Build();
+  const auto innerSize = Number(inner.size());
+  return Filled({}, size, 28 + inner.size() + 44, [&](PlusRecords& records, std::size_t i) {
+    records.Object(kPlusImage, 1, Bytes().U32(2).U32(3).U32(innerSize).Append(inner));
+    Bytes fields = Bytes().U32(0xFFFFFFFF).U32(2).F32(0).F32(0).F32(9).F32(9);
+    records.Record(0x401A, kPlusSmall | 1, fields.Point(Scattered(i), 0).Point(9, 9));
+  });
+}
+
+// A font of another name each, used once.
+File PlusFonts(std::size_t size) {
+  return Filled({}, size, 12 + 24 + 8 + 12 + 36, [](PlusRecords& records, std::size_t i) {
+    const std::string digits = std::to_string(1000 + i);
+    const std::u16string face(digits.begin(), digits.end());
+    const Bytes font = Bytes().F32(12).U32(2).U32(0).U32(0).U32(Number(face.size())).Utf16(face);
+    records.Object(kPlusFont, 1, font).Record(0x401C, kPlusColor | 1, StringOf(u"a", i));
   });
 }
 

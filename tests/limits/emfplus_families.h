@@ -14,5 +14,8 @@ File PlusRegion(std::size_t size);
 File PlusPathGradient(std::size_t size);
 File PlusString(std::size_t size);
 File PlusStrings(std::size_t size);
+File PlusShortDashes(std::size_t size);
+File PlusMetafiles(std::size_t size);
+File PlusFonts(std::size_t size);
 
 }  // namespace kelvane::test

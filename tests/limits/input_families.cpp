@@ -1,8 +1,10 @@
 #include "limits/input_families.h"
 
+#include "limits/clip_families.h"
 #include "limits/emfplus_families.h"
 #include "limits/family_parts.h"
 #include "limits/picture_families.h"
+#include "limits/wmf_families.h"
 #include "support/metafile.h"
 
 namespace kelvane::test {
@@ -352,6 +354,22 @@ const std::vector<InputFamily>& InputFamilies() {
       {"plus_path_gradient", true, PlusPathGradient},
       {"plus_string", true, PlusString},
       {"plus_strings", true, PlusStrings},
+      {"plus_short_dashes", true, PlusShortDashes},
+      {"plus_metafiles", true, PlusMetafiles},
+      {"plus_fonts", true, PlusFonts},
+      {"offset_clips", true, OffsetClips},
+      {"xor_clips", true, XorClips},
+      {"a_clip_of_a_path", true, AClipOfAPath},
+      {"widened_paths", true, WidenedPaths},
+      {"a_widened_path", true, AWidenedPath},
+      {"wmf_polygons", true, WmfPolygons},
+      {"wmf_texts", true, WmfTexts},
+      {"wmf_fonts", true, WmfFonts},
+      {"wmf_regions", true, WmfRegions},
+      {"wmf_clips", true, WmfClips},
+      {"wmf_bitmaps", false, WmfBitmaps},
+      {"printed_pages", true, PrintedPages},
+      {"other_forms", true, OtherForms},
       {"overlapping_points", false, OverlappingPoints},
       {"barely_overlapping_points", false, BarelyOverlappingPoints},
       {"overlapping_texts", false, Overlapping<EMR_EXTTEXTOUTW>},
