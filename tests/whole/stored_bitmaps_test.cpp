@@ -263,22 +263,22 @@ std::vector<StoredPicture> StoredPictures() {
 }
 
 /// How a picture is drawn, a place of its own for each way.
-struct Drawing {
+struct DrawnBitmap {
   std::uint32_t type;
   bool isMirroredX = false;
   bool isMirroredY = false;
 };
 
-constexpr Drawing kDrawings[] = {{kStretchDibits},
-                                 {kStretchDibits, true},
-                                 {kStretchDibits, false, true},
-                                 {kStretchDibits, true, true},
-                                 {kSetDibitsToDevice},
-                                 {kBitBlt},
-                                 {kStretchBlt},
-                                 {kStretchBlt, true},
-                                 {kStretchBlt, false, true},
-                                 {kStretchBlt, true, true}};
+constexpr DrawnBitmap kDrawings[] = {{kStretchDibits},
+                                     {kStretchDibits, true},
+                                     {kStretchDibits, false, true},
+                                     {kStretchDibits, true, true},
+                                     {kSetDibitsToDevice},
+                                     {kBitBlt},
+                                     {kStretchBlt},
+                                     {kStretchBlt, true},
+                                     {kStretchBlt, false, true},
+                                     {kStretchBlt, true, true}};
 
 constexpr bool TakesFiles(std::uint32_t type) {
   return type == kStretchDibits || type == kSetDibitsToDevice;
@@ -294,7 +294,7 @@ Metafile Drawn(const StoredPicture& picture) {
   const At size = {picture.width, picture.height};
   Metafile metafile;
   for (std::size_t i = 0; i < std::size(kDrawings); ++i) {
-    const Drawing& drawing = kDrawings[i];
+    const DrawnBitmap& drawing = kDrawings[i];
     if (picture.isFile && !TakesFiles(drawing.type)) continue;
     Blit blit = {.destination = PlaceOf(i), .size = size, .sourceSize = size};
     if (drawing.isMirroredX) blit.destination.x += size.x;
@@ -334,7 +334,7 @@ TEST_P(AStoredPicture, IsOnThePagePixelByPixel) {
     return page.At((place.x + x) * kScale + kScale / 2, (place.y + y) * kScale + kScale / 2);
   };
   for (std::size_t i = 0; i < std::size(kDrawings); ++i) {
-    const Drawing& drawing = kDrawings[i];
+    const DrawnBitmap& drawing = kDrawings[i];
     if (picture.isFile && !TakesFiles(drawing.type)) continue;
     for (std::int32_t y = 0; y < picture.height; ++y) {
       for (std::int32_t x = 0; x < picture.width; ++x) {
