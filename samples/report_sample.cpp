@@ -66,7 +66,7 @@ void Write(Metafile& page, At at, std::u16string_view text, std::uint32_t font =
   page.SelectObject(font).TextOut(at, text, spacing);
 }
 
-void AddFonts(Metafile& page) {
+void AddReportFonts(Metafile& page) {
   page.CreateFont(kTitleFont, {.face = u"Arial", .height = -kTitleSize, .weight = 700});
   page.CreateFont(kLabelFont, {.face = u"Arial", .height = -kLabelSize});
   page.CreateFont(kTurnedFont,
@@ -156,7 +156,7 @@ void AddLegend(Metafile& page) {
 
 Metafile Report() {
   Metafile page = Page();
-  AddFonts(page);
+  AddReportFonts(page);
   page.SetTextAlign(test::kTextCenter | test::kTextTop);
   Write(page, {240, 14}, u"Harvest by year and crop", kTitleFont);
   AddDashedLines(page);

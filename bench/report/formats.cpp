@@ -13,15 +13,15 @@ namespace {
 
 using Metafile = std::vector<unsigned char>;
 
-constexpr int kRuns = 7;
+constexpr int kFormatRuns = 7;
 constexpr std::size_t kSize = 10'000'000;
 
 Finding AgainstDeflate(const std::string& what, const Metafile& metafile, std::string_view format,
                        DeflateAlone alone) {
-  return {
-      what,
-      SideBySide([&] { ConvertAsWindowsTo(format, metafile); }, [&] { alone.Deflate(); }, kRuns),
-      kRuns, 2};
+  return {what,
+          SideBySide([&] { ConvertAsWindowsTo(format, metafile); }, [&] { alone.Deflate(); },
+                     kFormatRuns),
+          kFormatRuns, 2};
 }
 
 Finding ToPdf(const std::string& name, const Metafile& metafile) {
@@ -41,9 +41,10 @@ Finding ToSvg(const Metafile& metafile) {
 Finding ToPng() {
   const Metafile photo = Photo(2000, 1500);
   PngDataAlone alone(BytesOf(*ConvertAsWindowsTo("png", photo)));
-  return {"a photo of 2,000 by 1,500 pixels to PNG : deflating the rows of the PNG alone",
-          SideBySide([&] { ConvertAsWindowsTo("png", photo); }, [&] { alone.Deflate(); }, kRuns),
-          kRuns, 2};
+  return {
+      "a photo of 2,000 by 1,500 pixels to PNG : deflating the rows of the PNG alone",
+      SideBySide([&] { ConvertAsWindowsTo("png", photo); }, [&] { alone.Deflate(); }, kFormatRuns),
+      kFormatRuns, 2};
 }
 
 }  // namespace

@@ -36,12 +36,12 @@ class Objects {
     }
   }
 
-  [[nodiscard]] QPDFObjectHandle At(QPDFObjectHandle original) const {
+  [[nodiscard]] QPDFObjectHandle At(const QPDFObjectHandle& original) const {
     return made_.at(original.getObjGen());
   }
 
  private:
-  QPDFObjectHandle Any(QPDFObjectHandle original) {
+  QPDFObjectHandle Any(const QPDFObjectHandle& original) {
     return original.isIndirect() ? At(original) : Direct(original);
   }
 

@@ -85,7 +85,9 @@ template <class Result, class... Arguments>
 auto PointerTo(Result (*function)(Arguments..., ...)) -> Result (*)(Arguments..., ...);
 
 // In a namespace, a function of C under its own name, which hides the one that would be linked.
+// NOLINTBEGIN(bugprone-macro-parentheses): these are names
 #define KELVANE_LATE_FUNCTION(library, function) \
   inline constexpr LateFunction<library, #function, decltype(PointerTo(::function))> function{};
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace kelvane

@@ -21,8 +21,8 @@ int PixelsIn(double length, double most) {
 /// @param toTarget  from the pattern's own space. Of what Cairo cannot count, being too fine or too
 ///                  far away, nothing shows.
 void Place(cairo_pattern_t* pattern, const CGAffineTransform& toTarget) {
-  constexpr CGFloat kFinest = 1 << 14;  // in a pixel
-  constexpr CGFloat kFarthest = 1 << 30;
+  constexpr CGFloat kFinest = 0x1p14F;  // in a pixel
+  constexpr CGFloat kFarthest = 0x1p30F;
   const CGAffineTransform t = CGAffineTransformInvert(toTarget);
   const bool isCountable =
       LengthScale(toTarget) > 0 && IsFinite(t) &&
