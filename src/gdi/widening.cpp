@@ -41,6 +41,11 @@ cl::JoinType JoinTypeOf(const PenStroke& stroke) {
   }
 }
 
+cl::cInt Fixed(double coordinate) {
+  if (std::isnan(coordinate)) return 0;
+  return std::llround(std::clamp(coordinate, -kFarthest, kFarthest) * kScale);
+}
+
 /// A line and how far its stroke reaches.
 struct Reach {
   double left;
@@ -90,9 +95,9 @@ std::optional<CGPath> Widened(const CGPath& path, const PenStroke& stroke, doubl
   const TransformD penToDevice = {
       toDevice.m11 / unit, toDevice.m12 / unit, toDevice.m21 / unit, toDevice.m22 / unit, 0, 0};
   const auto deviceToPen = penToDevice.Inverse();
-  if (!deviceToPen || !path.IsFinite()) return std::nullopt;
+  const double radius = std::min(stroke.width * unit / 2, kFarthest);
+  if (!deviceToPen || !path.IsFinite() || std::isnan(radius)) return std::nullopt;
 
-  const double radius = stroke.width * unit / 2;
   cl::ClipperOffset offset(miterLimit, std::max(kTolerance, radius / kFinest) * kScale);
   std::size_t count = 0;
   for (const FlatLine& line : FlatLinesOf(path, kTolerance)) {
@@ -101,8 +106,7 @@ std::optional<CGPath> Widened(const CGPath& path, const PenStroke& stroke, doubl
     cl::Path fixed;
     for (const PointD& point : line.points) {
       const PointD inPen = deviceToPen->Map(point);
-      fixed.emplace_back(std::llround(std::clamp(inPen.x, -kFarthest, kFarthest) * kScale),
-                         std::llround(std::clamp(inPen.y, -kFarthest, kFarthest) * kScale));
+      fixed.emplace_back(Fixed(inPen.x), Fixed(inPen.y));
     }
     offset.AddPath(fixed, JoinTypeOf(stroke), EndTypeOf(stroke, line.isClosed));
   }

@@ -51,6 +51,15 @@ double WidenedArea(const CGPath& path, std::uint32_t style) {
   return AreaOf(Widened(path, StrokeOf(GeometricPen(style, 4)), 10, kIdentity).value());
 }
 
+TEST(Widened, IsAsWideAsAnyPageWhereThePenIsWiderThanThat) {
+  constexpr double kWiderThanAnyPage = 1e6;
+  constexpr TransformD kHuge = {1e17, 0, 0, 1e17, 0, 0};
+  const auto outline =
+      Widened(Line({10, 0}), StrokeOf(GeometricPen(PS_ENDCAP_FLAT, 4)), 10, kHuge);
+  ASSERT_TRUE(outline.has_value());
+  EXPECT_GT(AreaOf(*outline), kWiderThanAnyPage);
+}
+
 // A line of 10 units, and 2 more at each end.
 TEST(Widened, HasTheCapsOfThePen) {
   EXPECT_NEAR(WidenedArea(Line({10, 0}), PS_ENDCAP_FLAT), 40, kNear);
