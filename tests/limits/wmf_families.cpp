@@ -22,7 +22,7 @@ Bytes TextAt(std::size_t i) {
   return Bytes().U16(5).Each({'H', 'e', 'l', 'l', 'o', 0}).I16(Scattered(i)).I16(Scattered(i + 1));
 }
 
-File Lines(std::size_t count) {
+File FileOfLines(std::size_t count) {
   Metafile metafile;
   for (std::size_t i = 0; i < count; ++i)
     metafile.Polyline({{Scattered(i), 1}, {3, Scattered(i + 1)}});
@@ -79,7 +79,7 @@ File WmfBitmaps(std::size_t size) {
 
 // A page of a hundred lines each.
 File PrintedPages(std::size_t size) {
-  const File page = Lines(100);
+  const File page = FileOfLines(100);
   PrintJob job;
   for (std::size_t i = 0; (i + 1) * page.size() < size; ++i)
     job.Page(page);
@@ -90,7 +90,7 @@ File PrintedPages(std::size_t size) {
 File OtherForms(std::size_t size) {
   constexpr std::uint32_t kPublic = 0x43494447;
   constexpr std::uint32_t kManyForms = 0x40000004;
-  const File form = Lines(10);
+  const File form = FileOfLines(10);
   const auto formSize = static_cast<std::uint32_t>(form.size());
   return Repeated(size, 72 + form.size(), [&](Metafile& metafile, std::size_t) {
     Bytes data = Bytes().U32(kPublic).U32(kManyForms).Rectangle(0, 0, 99, 99).U32(1);

@@ -9,25 +9,62 @@ namespace kelvane {
 
 void RasterClips::WriteSave() {
   cairo_save(drawing_);
-  saved_.push_back({parts_, mask_});
+  const Level& outer = levels_.back();
+  levels_.push_back({outer.parts, {}, outer.isMasked, outer.mask});
 }
 
 void RasterClips::WriteRestore() {
   cairo_restore(drawing_);
-  parts_ = saved_.back().parts;
-  mask_ = std::move(saved_.back().mask);
-  saved_.pop_back();
+  levels_.pop_back();
 }
 
 void RasterClips::WriteClip(const CGClip& clip) {
   constexpr std::size_t kMostParts = 512;
-  const std::size_t parts = parts_ + clip.area.Reached().elements;
-  if (parts > kMostParts) {
-    mask_ = MaskOf(clip);
-    return;
+  Level& level = levels_.back();
+  const std::size_t parts = level.parts + clip.area.Reached().elements;
+  if (parts <= kMostParts) {
+    level.parts = parts;
+    return Cut(drawing_, clip);
   }
-  parts_ = parts;
-  Cut(drawing_, clip);
+  level.cuts.push_back(clip);
+  level.isMasked = true;
+  level.mask.reset();
+}
+
+cairo_pattern_t* RasterClips::Mask() {
+  if (!levels_.back().isMasked) return nullptr;
+  std::size_t first = levels_.size();
+  while (first > 0 && levels_[first - 1].isMasked && levels_[first - 1].mask == nullptr)
+    --first;
+  for (; first < levels_.size(); ++first)
+    MakeMask(first);
+  return levels_.back().mask.get();
+}
+
+void RasterClips::MakeMask(std::size_t level) {
+  SharedMask mask = level > 0 ? levels_[level - 1].mask : nullptr;
+  for (const CGClip& cut : levels_[level].cuts)
+    mask = MaskOf(cut, mask);
+  levels_[level].mask = std::move(mask);
+  ForgetSome(level);
+}
+
+// Masks are as large as the page, and clips may be as deep as a file is long. Those forgotten are
+// made again from the next one below, so what is left lies ever farther apart.
+void RasterClips::ForgetSome(std::size_t end) {
+  constexpr std::size_t kMostMasks = 16;
+  std::size_t count = 0;
+  for (std::size_t i = 1; i <= end; ++i)
+    if (levels_[i].mask != levels_[i - 1].mask) ++count;
+  if (count <= kMostMasks) return;
+  bool isKept = true;
+  SharedMask last;
+  for (std::size_t i = 0; i < end; ++i) {
+    if (levels_[i].mask == nullptr) continue;
+    if (levels_[i].mask != last) isKept = !isKept;
+    last = levels_[i].mask;
+    if (!isKept) levels_[i].mask.reset();
+  }
 }
 
 void RasterClips::Cut(cairo_t* drawing, const CGClip& clip) const {
@@ -36,15 +73,15 @@ void RasterClips::Cut(cairo_t* drawing, const CGClip& clip) const {
   cairo_clip(drawing);
 }
 
-/// @return what a clip leaves of the mask that there is.
-std::shared_ptr<cairo_pattern_t> RasterClips::MaskOf(const CGClip& clip) const {
+/// @return what a clip leaves of a mask, or of everything.
+RasterClips::SharedMask RasterClips::MaskOf(const CGClip& clip, const SharedMask& below) const {
   const CairoOwned<cairo_surface_t> pixels(
       cairo_image_surface_create(CAIRO_FORMAT_A8, page_.width, page_.height));
   if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
   const CairoOwned<cairo_t> drawing(cairo_create(pixels.get()));
   Cut(drawing.get(), clip);
   cairo_set_source_rgba(drawing.get(), 0, 0, 0, 1);
-  mask_ == nullptr ? cairo_paint(drawing.get()) : cairo_mask(drawing.get(), mask_.get());
+  below == nullptr ? cairo_paint(drawing.get()) : cairo_mask(drawing.get(), below.get());
   return {cairo_pattern_create_for_surface(pixels.get()), CairoDestroyer()};
 }
 

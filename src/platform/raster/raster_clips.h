@@ -23,27 +23,32 @@ class RasterClips final : private CGClipOperators {
   void End() { writer_.End(*this); }
 
   /// @return what marks are to be painted through, besides what Cairo cuts off; null for nothing.
-  [[nodiscard]] cairo_pattern_t* Mask() const { return mask_.get(); }
+  [[nodiscard]] cairo_pattern_t* Mask();
 
  private:
-  struct Saved {
-    std::size_t parts;
-    std::shared_ptr<cairo_pattern_t> mask;
+  using SharedMask = std::shared_ptr<cairo_pattern_t>;
+
+  /// What there is between a save and the next.
+  struct Level {
+    std::size_t parts = 0;      // of the clips that Cairo goes through
+    std::vector<CGClip> cuts;   // those that are in the mask, and not in the level below
+    bool isMasked = false;      // by these, or below
+    SharedMask mask = nullptr;  // null also where it was forgotten
   };
 
   void WriteSave() override;
   void WriteRestore() override;
   void WriteClip(const CGClip& clip) override;
   void Cut(cairo_t* drawing, const CGClip& clip) const;
-  [[nodiscard]] std::shared_ptr<cairo_pattern_t> MaskOf(const CGClip& clip) const;
+  [[nodiscard]] SharedMask MaskOf(const CGClip& clip, const SharedMask& below) const;
+  void MakeMask(std::size_t level);
+  void ForgetSome(std::size_t end);
 
   cairo_t* drawing_;
   CGAffineTransform toPixels_;
   PixelCount page_;
   CGClipWriter writer_;
-  std::size_t parts_ = 0;  // of the clips that Cairo goes through
-  std::shared_ptr<cairo_pattern_t> mask_;
-  std::vector<Saved> saved_;
+  std::vector<Level> levels_ = std::vector<Level>(1);
 };
 
 }  // namespace kelvane
