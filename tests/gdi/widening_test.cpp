@@ -54,8 +54,7 @@ double WidenedArea(const CGPath& path, std::uint32_t style) {
 TEST(Widened, IsAsWideAsAnyPageWhereThePenIsWiderThanThat) {
   constexpr double kWiderThanAnyPage = 1e6;
   constexpr TransformD kHuge = {1e17, 0, 0, 1e17, 0, 0};
-  const auto outline =
-      Widened(Line({10, 0}), StrokeOf(GeometricPen(PS_ENDCAP_FLAT, 4)), 10, kHuge);
+  const auto outline = Widened(Line({10, 0}), StrokeOf(GeometricPen(PS_ENDCAP_FLAT, 4)), 10, kHuge);
   ASSERT_TRUE(outline.has_value());
   EXPECT_GT(AreaOf(*outline), kWiderThanAnyPage);
 }

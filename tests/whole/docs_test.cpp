@@ -64,7 +64,8 @@ TEST(Readme, LinksToEveryPageOfTheDocumentsThatStandsOnItsOwn) {
   for (const auto& entry : fs::directory_iterator(kRoot + "docs")) {
     const std::string name = entry.path().filename().string();
     if (!name.ends_with(".md")) continue;
-    if (name == "performance-tried.md" || name == "classic-records.md") continue;  // parts of others
+    if (name == "performance-tried.md" || name == "classic-records.md")
+      continue;  // parts of others
     EXPECT_NE(readme.find("](docs/" + name + ")"), std::string::npos) << name;
   }
 }
