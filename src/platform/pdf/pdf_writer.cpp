@@ -1,6 +1,7 @@
 #include "platform/pdf/pdf_writer.h"
 
 #include <array>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -98,24 +99,44 @@ QPDFObjectHandle PdfWriter::AddEncodedStream(QPDFObjectHandle dictionary, const 
   const auto bytesOf = [](Buffer& buffer) {
     return std::string_view(reinterpret_cast<const char*>(buffer.getBuffer()), buffer.getSize());
   };
-  const std::string layout = dictionary.unparse() + filter;
-  const std::size_t hash = std::hash<std::string_view>{}(bytesOf(*data));
+  const std::string& layout = *layouts_.insert(dictionary.unparse() + filter).first;
+  // Either may be alike in all of thousands: patterns differ in their colours, or in their image.
+  const std::hash<std::string_view> hashOf;
+  const std::size_t hash = 31 * hashOf(bytesOf(*data)) + hashOf(layout);
   const auto [first, last] = streams_.equal_range(hash);
   for (auto known = first; known != last; ++known) {
-    if (known->second.layout == layout && bytesOf(*known->second.data) == bytesOf(*data)) {
+    if (known->second.layout == &layout && bytesOf(*known->second.data) == bytesOf(*data)) {
       return known->second.stream;
     }
   }
   auto stream = pdf_.newStream();
+  ShareEntries(dictionary);
   stream.replaceDict(dictionary);
   Fill(stream, data, filter);
-  streams_.emplace(hash, StoredStream{layout, data, stream});
+  streams_.emplace(hash, StoredStream{&layout, data, stream});
   return stream;
+}
+
+void PdfWriter::ShareEntries(QPDFObjectHandle dictionary) {
+  constexpr std::size_t kMostEntries = 4096;
+  for (const std::string& key : dictionary.getKeys()) {
+    QPDFObjectHandle value = dictionary.getKey(key);
+    if (value.isIndirect()) continue;
+    const std::string text = value.unparse();
+    if (const auto known = entries_.find(text); known != entries_.end()) {
+      dictionary.replaceKey(key, known->second);
+    } else if (entries_.size() < kMostEntries) {
+      entries_.emplace(text, value);
+    }
+  }
 }
 
 QPDFObjectHandle PdfWriter::AddSharedObject(QPDFObjectHandle object) {
   const auto [entry, isNew] = objects_.try_emplace(object.unparse());
-  if (isNew) entry->second = AddObject(object);
+  if (isNew) {
+    if (object.isDictionary()) ShareEntries(object);
+    entry->second = AddObject(object);
+  }
   return entry->second;
 }
 

@@ -4,6 +4,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -81,7 +82,7 @@ class PdfWriter {
 
  private:
   struct StoredStream {
-    std::string layout;  // its dictionary without the data's own entries, its filter
+    const std::string* layout;  // of `layouts_`
     std::shared_ptr<Buffer> data;
     QPDFObjectHandle stream;
   };
@@ -89,14 +90,21 @@ class PdfWriter {
   using DocumentPage = std::pair<unsigned long long, std::size_t>;  // the document's number, index
 
   [[nodiscard]] std::shared_ptr<Buffer> Deflate(std::span<const unsigned char> data);
+
+  /// Lets the entries of a dictionary that are no objects of their own be the same objects as equal
+  /// ones of others: each number of an array would take a hundred bytes in every one of them.
+  void ShareEntries(QPDFObjectHandle dictionary);
+
   void Fill(QPDFObjectHandle stream, const std::shared_ptr<Buffer>& data, const char* filter);
   [[nodiscard]] QPDFObjectHandle CopyOf(const CGPDFPage& page);
 
   QPDF pdf_;
   Deflater deflater_;
   std::size_t storedBytes_ = 0;                                 // of all streams
-  std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of `data`
+  std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of all of it
+  std::set<std::string> layouts_;  // of streams: dictionaries without the data's entries, filters
   std::map<std::string, QPDFObjectHandle> objects_;             // shared; as they are written
+  std::map<std::string, QPDFObjectHandle> entries_;             // the same, of dictionaries
   std::map<DocumentPage, QPDFObjectHandle> forms_;
   std::map<CGCompositing, QPDFObjectHandle> graphicsStates_;
   std::map<CGFontRef, std::size_t> fontIndexes_;
