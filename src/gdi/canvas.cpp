@@ -115,10 +115,21 @@ std::optional<RgbColor> Canvas::GroundUnder(const std::array<PointD, 4>& corners
                   ChannelFromPage(color->blue)};
 }
 
-bool Canvas::Afford(std::uint64_t parts) {
-  const bool isAfforded = allowance_->repeats.Take(parts);
+bool Canvas::Take(Steps& allowed, std::uint64_t count) {
+  const bool isAfforded = allowed.Take(count);
   hasRunOut_ = hasRunOut_ || !isAfforded;
   return isAfforded;
+}
+
+bool Canvas::Afford(std::uint64_t parts) {
+  return Take(allowance_->repeats, parts);
+}
+
+// A pattern takes up to 7 KB of a PDF being made, with its image. Gradients and textures of their
+// own come in records of about as many bytes.
+bool Canvas::AffordPattern() {
+  constexpr std::uint64_t kBytesForAPattern = 160;
+  return Take(allowance_->patterns, kBytesForAPattern);
 }
 
 void Canvas::CountInVain(std::uint64_t points) {

@@ -76,12 +76,16 @@ class Canvas {
   bool Afford(std::uint64_t parts);
   void AllowFor(std::size_t fileSize) {
     allowance_->repeats.Add(fileSize);
+    allowance_->patterns.Add(fileSize);
     allowance_->pixels.Add(8 * std::uint64_t{fileSize});
   }
 
   /// Makes this the canvas of a picture within another's, which may be drawn again and again: both
   /// take from what the other one can afford.
   void ShareAllowanceOf(const Canvas& outer) { allowance_ = outer.allowance_; }
+
+  /// One more pattern of a brush of EMF+, which an output keeps.
+  bool AffordPattern();
 
   /// What bitmaps decode to: a few bytes of one that is compressed can stand for any size.
   [[nodiscard]] bool AffordPixels(std::uint64_t bytes) { return allowance_->pixels.Take(bytes); }
@@ -122,8 +126,9 @@ class Canvas {
 
   struct Allowance {
     Steps repeats{1U << 22};
-    Steps pixels{1U << 24};  // bytes
-    Steps inVain{1U << 22};  // points
+    Steps patterns{1U << 20};  // bytes of the file
+    Steps pixels{1U << 24};    // bytes
+    Steps inVain{1U << 22};    // points
   };
 
   struct WrittenCut {
@@ -131,6 +136,7 @@ class Canvas {
     bool hidesAll;  // it, or one around it
   };
 
+  bool Take(Steps& allowed, std::uint64_t count);
   void PutOnPage(CGPath& path) const;
   void WriteCut(const std::shared_ptr<const ClipCut>& cut);
   CGSharedPattern CellOf(const BrushPaint& paint, RasterStep::Color color);

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <tuple>
+#include <unordered_set>
 #include <vector>
 
 #include "gdi/canvas.h"
@@ -55,6 +56,8 @@ struct Graphics {
   // What was made, see ImageFrom and HatchPaint; null for an image that cannot be.
   std::map<ImageKey, KnownImage> images;
   std::map<HatchKey, CGSharedPattern> hatches;
+
+  std::unordered_set<std::size_t> patterns;  // hashes of the others, see UnlessTooMany
 
   /// What clipping may still take, as in a device context.
   std::shared_ptr<Steps> clipSteps = std::make_shared<Steps>(1U << 23);

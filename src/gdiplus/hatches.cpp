@@ -138,7 +138,6 @@ std::uint32_t NumberOf(Argb color) {
 }  // namespace
 
 std::optional<Paint> HatchPaint(Graphics& graphics, const EmfPlusHatchBrush& brush) {
-  constexpr auto kCost = std::uint64_t{kSide} * kSide;
   if (brush.style >= kEmfPlusHatchStyles) return std::nullopt;
   if (brush.foreground.alpha == 0 && brush.background.alpha == 0) return std::nullopt;
   // Where all is equally translucent, all is opaque, and brought onto the page with that alpha.
@@ -151,7 +150,7 @@ std::optional<Paint> HatchPaint(Graphics& graphics, const EmfPlusHatchBrush& bru
   CGSharedPattern& cell =
       graphics.hatches[{drawn.style, NumberOf(drawn.foreground), NumberOf(drawn.background)}];
   if (cell == nullptr) {
-    if (!graphics.canvas->Afford(kCost)) {
+    if (!graphics.canvas->AffordPattern()) {
       graphics.shortfalls.Add(Shortfall::kDrawnTooOften);
       return std::nullopt;
     }

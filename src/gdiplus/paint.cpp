@@ -4,6 +4,7 @@
 
 #include "gdiplus/hatches.h"
 #include "gdiplus/linear_gradients.h"
+#include "gdiplus/new_patterns.h"
 #include "gdiplus/page_colors.h"
 #include "gdiplus/path_gradients.h"
 #include "gdiplus/textures.h"
@@ -23,13 +24,13 @@ struct PaintMaker {
     return HatchPaint(graphics, brush);
   }
   std::optional<Paint> operator()(const EmfPlusTextureBrush& brush) const {
-    return TexturePaint(graphics, brush, bounds);
+    return UnlessTooMany(graphics, TexturePaint(graphics, brush, bounds));
   }
   std::optional<Paint> operator()(const EmfPlusLinearGradientBrush& brush) const {
-    return LinearGradientPaint(graphics, brush, bounds);
+    return UnlessTooMany(graphics, LinearGradientPaint(graphics, brush, bounds));
   }
   std::optional<Paint> operator()(const EmfPlusPathGradientBrush& brush) const {
-    return PathGradientPaint(graphics, brush, bounds);
+    return UnlessTooMany(graphics, PathGradientPaint(graphics, brush, bounds));
   }
 };
 
