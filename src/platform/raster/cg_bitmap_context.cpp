@@ -15,12 +15,13 @@
 #include "platform/raster/cairo_library.h"
 #include "platform/raster/png_writer.h"
 #include "platform/raster/raster_clips.h"
-#include "platform/raster/raster_dashes.h"
+#include "platform/raster/raster_fill.h"
 #include "platform/raster/raster_geometry.h"
 #include "platform/raster/raster_image.h"
 #include "platform/raster/raster_operation.h"
 #include "platform/raster/raster_paint.h"
 #include "platform/raster/raster_pixel.h"
+#include "platform/raster/raster_stroke.h"
 
 namespace kelvane {
 namespace {
@@ -32,11 +33,6 @@ constexpr std::array<cairo_operator_t, kCGBlendModes> kOperators = {
     CAIRO_OPERATOR_HARD_LIGHT,    CAIRO_OPERATOR_DIFFERENCE,     CAIRO_OPERATOR_EXCLUSION,
     CAIRO_OPERATOR_HSL_HUE,       CAIRO_OPERATOR_HSL_SATURATION, CAIRO_OPERATOR_HSL_COLOR,
     CAIRO_OPERATOR_HSL_LUMINOSITY};
-
-constexpr std::array<cairo_line_cap_t, 3> kCaps = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND,
-                                                   CAIRO_LINE_CAP_SQUARE};
-constexpr std::array<cairo_line_join_t, 3> kJoins = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND,
-                                                     CAIRO_LINE_JOIN_BEVEL};
 
 /// A group that was painted apart, and where it lies among the page's pixels.
 struct Layer {
@@ -111,19 +107,11 @@ class CGBitmapContext final : public CGContext {
     if (Fills(mode)) {
       const bool isEvenOdd = mode == kCGPathEOFill || mode == kCGPathEOFillStroke;
       Draw(State(), ExtentOf(State(), path, kCGPathFill), State().fillColor, State().fillPattern,
-           [&] {
-             SetPath(drawing_.get(), path, toPixels_);
-             cairo_set_fill_rule(drawing_.get(),
-                                 isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-             cairo_fill(drawing_.get());
-           });
+           [&] { FillPath(drawing_.get(), path, toPixels_, isEvenOdd); });
     }
     if (Strokes(mode)) {
       Draw(State(), ExtentOf(State(), path, kCGPathStroke), State().strokeColor,
-           State().strokePattern, [&] {
-             SetPath(drawing_.get(), path, toPixels_);
-             StrokeAs(StrokeGeometry(State()), State());
-           });
+           State().strokePattern, [&] { Stroke(path, StrokeGeometry(State()), State()); });
     }
   }
 
@@ -132,17 +120,13 @@ class CGBitmapContext final : public CGContext {
     const CGPath outlines = OutlinesOf(run);
     if (!outlines.HasSegments()) return;
     if (Fills(state.textMode)) {
-      Draw(state, ExtentOf(run), state.fillColor, state.fillPattern, [&] {
-        SetPath(drawing_.get(), outlines, toPixels_);
-        cairo_set_fill_rule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
-        cairo_fill(drawing_.get());
-      });
+      Draw(state, ExtentOf(run), state.fillColor, state.fillPattern,
+           [&] { FillPath(drawing_.get(), outlines, toPixels_, false); });
     }
     if (Strokes(state.textMode)) {
       Draw(state, Grown(ExtentOf(run), StrokeMargin(state)), state.strokeColor, state.strokePattern,
            [&] {
-             SetPath(drawing_.get(), outlines, toPixels_);
-             StrokeAs({TextStrokeWidth(state), 1, false}, state);
+             Stroke(outlines, {TextStrokeWidth(state), 1, false}, state);
            });
     }
   }
@@ -173,6 +157,10 @@ class CGBitmapContext final : public CGContext {
         [&] { cairo_paint(drawing_.get()); });
   }
 
+  void Stroke(const CGPath& path, const CGStrokeGeometry& stroke, const CGGraphicsState& state) {
+    StrokePath(drawing_.get(), path, toPixels_, stroke, state, dashesLeft_);
+  }
+
   /// An upright image has whole pixels: those of two that meet would let through what lies below.
   void FillSquare(const CGAffineTransform& toTarget) {
     const bool isUpright =
@@ -184,44 +172,6 @@ class CGBitmapContext final : public CGContext {
     cairo_set_fill_rule(drawing_.get(), CAIRO_FILL_RULE_WINDING);
     cairo_fill(drawing_.get());
     cairo_set_antialias(drawing_.get(), CAIRO_ANTIALIAS_DEFAULT);
-  }
-
-  /// Strokes the current path.
-  void StrokeAs(const CGStrokeGeometry& stroke, const CGGraphicsState& state) {
-    cairo_t* const drawing = drawing_.get();
-    const auto pixels = static_cast<CGFloat>(LengthScale(toPixels_));
-    const CGAffineTransform penToPixels = stroke.throughTransform
-                                              ? CGAffineTransformConcat(stroke.transform, toPixels_)
-                                              : CGAffineTransform{pixels, 0, 0, pixels, 0, 0};
-    const double scale = stroke.throughTransform ? 1 : pixels;
-    const double thinnest = stroke.throughTransform ? 0 : 1;
-    const double width = std::max(stroke.width * scale, thinnest);
-    if (!(LengthScale(penToPixels) > 0)) return cairo_new_path(drawing);  // squeezed to nothing
-    if (!state.dash.IsSolid()) CutIntoDashes(state, stroke, penToPixels, width / scale);
-    // The pen is deformed by the matrix at the time of the stroke; the path is there already.
-    cairo_save(drawing);
-    if (stroke.throughTransform) {
-      const cairo_matrix_t matrix = MatrixOf(penToPixels);
-      cairo_transform(drawing, &matrix);
-    }
-    cairo_set_line_width(drawing, width);
-    cairo_set_line_cap(drawing, kCaps[state.lineCap]);
-    cairo_set_line_join(drawing, kJoins[state.lineJoin]);
-    cairo_set_miter_limit(drawing, state.miterLimit);
-    cairo_stroke(drawing);
-    cairo_restore(drawing);
-  }
-
-  /// @param width  of the pen, in its own lengths.
-  void CutIntoDashes(const CGGraphicsState& state, const CGStrokeGeometry& stroke,
-                     const CGAffineTransform& penToPixels, double width) {
-    RasterDashes dashes = {{}, state.dash.phase * stroke.scale, penToPixels};
-    for (const CGFloat length : state.dash.lengths)
-      dashes.lengths.push_back(double{length} * stroke.scale);
-    const double longest = std::max(std::hypot(penToPixels.a, penToPixels.b),
-                                    std::hypot(penToPixels.c, penToPixels.d));
-    kelvane::CutIntoDashes(drawing_.get(), dashes,
-                           width * longest * std::max<double>(state.miterLimit, 1), dashesLeft_);
   }
 
   template <class PaintIt>

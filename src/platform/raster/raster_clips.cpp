@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "platform/raster/raster_fill.h"
 #include "platform/raster/raster_geometry.h"
 
 namespace kelvane {
@@ -24,7 +25,7 @@ void RasterClips::WriteClip(const CGClip& clip) {
   const std::size_t parts = level.parts + clip.area.Reached().elements;
   if (parts <= kMostParts) {
     level.parts = parts;
-    return Cut(drawing_, clip);
+    return Cut(clip);
   }
   level.cuts.push_back(clip);
   level.isMasked = true;
@@ -67,10 +68,11 @@ void RasterClips::ForgetSome(std::size_t end) {
   }
 }
 
-void RasterClips::Cut(cairo_t* drawing, const CGClip& clip) const {
-  SetPath(drawing, clip.area, toPixels_);
-  cairo_set_fill_rule(drawing, clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
-  cairo_clip(drawing);
+void RasterClips::Cut(const CGClip& clip) const {
+  SetPath(drawing_, clip.area, toPixels_);
+  cairo_set_fill_rule(drawing_,
+                      clip.isEvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+  cairo_clip(drawing_);
 }
 
 /// @return what a clip leaves of a mask, or of everything.
@@ -79,9 +81,9 @@ RasterClips::SharedMask RasterClips::MaskOf(const CGClip& clip, const SharedMask
       cairo_image_surface_create(CAIRO_FORMAT_A8, page_.width, page_.height));
   if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
   const CairoOwned<cairo_t> drawing(cairo_create(pixels.get()));
-  Cut(drawing.get(), clip);
   cairo_set_source_rgba(drawing.get(), 0, 0, 0, 1);
-  below == nullptr ? cairo_paint(drawing.get()) : cairo_mask(drawing.get(), below.get());
+  if (below != nullptr) cairo_set_source(drawing.get(), below.get());
+  FillPath(drawing.get(), clip.area, toPixels_, clip.isEvenOdd);
   return {cairo_pattern_create_for_surface(pixels.get()), CairoDestroyer()};
 }
 

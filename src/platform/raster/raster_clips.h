@@ -39,7 +39,7 @@ class RasterClips final : private CGClipOperators {
   void WriteSave() override;
   void WriteRestore() override;
   void WriteClip(const CGClip& clip) override;
-  void Cut(cairo_t* drawing, const CGClip& clip) const;
+  void Cut(const CGClip& clip) const;
   [[nodiscard]] SharedMask MaskOf(const CGClip& clip, const SharedMask& below) const;
   void MakeMask(std::size_t level);
   void ForgetSome(std::size_t end);

@@ -3,34 +3,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <memory>
-#include <new>
 #include <numeric>
 #include <span>
 #include <utility>
+#include <vector>
+
+#include "platform/raster/raster_geometry.h"
 
 namespace kelvane {
 namespace {
-
-struct Pixel {
-  double x;
-  double y;
-
-  friend bool operator==(const Pixel&, const Pixel&) = default;
-};
-
-struct PathDestroyer {
-  void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
-};
-using CairoPath = std::unique_ptr<cairo_path_t, PathDestroyer>;
-
-/// What can be seen, pixels.
-struct SeenBox {
-  double left;
-  double top;
-  double right;
-  double bottom;
-};
 
 /// A part of a line, 0 to 1.
 struct Part {
@@ -49,7 +30,7 @@ struct Part {
   }
 };
 
-Part PartWithin(const SeenBox& box, Pixel a, Pixel b) {
+Part PartWithin(const RasterBox& box, RasterPoint a, RasterPoint b) {
   Part part;
   part.Cut(a.x - box.left, b.x - box.left);
   part.Cut(box.right - a.x, box.right - b.x);
@@ -98,22 +79,22 @@ class DashPlace {
 class Dasher {
  public:
   /// @param left  how many dashes and gaps there may still be.
-  Dasher(cairo_t* drawing, const RasterDashes& dashes, const SeenBox& seen, std::size_t& left)
-      : drawing_(drawing),
+  Dasher(const RasterDashes& dashes, const RasterBox& seen, std::size_t& left, RasterFigures& drawn)
+      : drawn_(drawn),
         dashes_(dashes),
         seen_(seen),
         left_(left),
         inverse_(CGAffineTransformInvert(dashes.toPixels)),
         place_(dashes) {}
 
-  void Move(Pixel to) {
+  void Move(RasterPoint to) {
     EndFigure();
     start_ = at_ = to;
     place_ = DashPlace(dashes_);
     isFirst_ = place_.IsDash();
   }
 
-  void Line(Pixel to) {
+  void Line(RasterPoint to) {
     const double length = Length(to);
     if (length == 0) return AddPoint();
     const Part seen = PartWithin(seen_, at_, to);
@@ -143,7 +124,7 @@ class Dasher {
   }
 
  private:
-  [[nodiscard]] double Length(Pixel to) const {
+  [[nodiscard]] double Length(RasterPoint to) const {
     const double x = to.x - at_.x;
     const double y = to.y - at_.y;
     return std::hypot(inverse_.a * x + inverse_.c * y, inverse_.b * x + inverse_.d * y);
@@ -160,9 +141,9 @@ class Dasher {
     place_.Go(length);
   }
 
-  void DrawSeen(Pixel to, double length, const Part& seen) {
+  void DrawSeen(RasterPoint to, double length, const Part& seen) {
     const auto at = [&](double part) {
-      return Pixel{at_.x + part * (to.x - at_.x), at_.y + part * (to.y - at_.y)};
+      return RasterPoint{at_.x + part * (to.x - at_.x), at_.y + part * (to.y - at_.y)};
     };
     const double end = seen.to * length;
     double done = seen.from * length;
@@ -179,7 +160,7 @@ class Dasher {
   }
 
   /// From a dash to a gap, or back.
-  void Change(Pixel at) {
+  void Change(RasterPoint at) {
     if (place_.IsDash()) {
       piece_.push_back(at);
       EndPiece();
@@ -190,7 +171,7 @@ class Dasher {
   }
 
   /// Where a pen is squeezed so much that no dash can be seen, a line is solid.
-  [[nodiscard]] bool AreTooShort(Pixel to, double length) const {
+  [[nodiscard]] bool AreTooShort(RasterPoint to, double length) const {
     constexpr double kShortest = 1.0 / 16;  // pixels
     const double pixels = std::hypot(to.x - at_.x, to.y - at_.y);
     const double mean = std::accumulate(dashes_.lengths.begin(), dashes_.lengths.end(), 0.0) /
@@ -207,30 +188,29 @@ class Dasher {
     }
   }
 
-  void Draw(std::vector<Pixel>& piece) {
-    for (std::size_t i = 0; i < piece.size(); ++i) {
-      if (i == 0) cairo_move_to(drawing_, piece[i].x, piece[i].y);
-      if (i > 0) cairo_line_to(drawing_, piece[i].x, piece[i].y);
-    }
+  void Draw(std::vector<RasterPoint>& piece) {
+    if (!piece.empty()) drawn_.Add(piece);
     piece.clear();
   }
 
-  cairo_t* drawing_;
+  RasterFigures& drawn_;
   const RasterDashes& dashes_;
-  SeenBox seen_;
+  RasterBox seen_;
   std::size_t& left_;
   CGAffineTransform inverse_;
   DashPlace place_;
-  Pixel start_ = {0, 0};
-  Pixel at_ = {0, 0};
-  std::vector<Pixel> piece_;  // of the dash at hand
-  std::vector<Pixel> first_;  // of the dash that a figure begins with, which may go on at its end
-  bool isFirst_ = false;      // whether the dash at hand is that one
+  RasterPoint start_ = {0, 0};
+  RasterPoint at_ = {0, 0};
+  std::vector<RasterPoint> piece_;  // of the dash at hand
+  std::vector<RasterPoint>
+      first_;             // of the dash that a figure begins with, which may go on at its end
+  bool isFirst_ = false;  // whether the dash at hand is that one
 };
 
 }  // namespace
 
-void CutIntoDashes(cairo_t* drawing, const RasterDashes& dashes, double margin, std::size_t& left) {
+RasterFigures CutIntoDashes(const CGPath& path, const CGAffineTransform& toPixels,
+                            const RasterDashes& dashes, const RasterBox& seen, std::size_t& left) {
   constexpr double kShortestMean = 0.5;  // pixels
   const double mean = std::accumulate(dashes.lengths.begin(), dashes.lengths.end(), 0.0) /
                       static_cast<double>(dashes.lengths.size());
@@ -243,29 +223,11 @@ void CutIntoDashes(cairo_t* drawing, const RasterDashes& dashes, double margin, 
     const std::vector<double> again = drawn.lengths;
     drawn.lengths.insert(drawn.lengths.end(), again.begin(), again.end());
   }
-  const CairoPath path(cairo_copy_path_flat(drawing));
-  if (path->status != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
-  SeenBox seen{};
-  cairo_clip_extents(drawing, &seen.left, &seen.top, &seen.right, &seen.bottom);
-  cairo_new_path(drawing);
-  Dasher dasher(drawing, drawn,
-                {seen.left - margin, seen.top - margin, seen.right + margin, seen.bottom + margin},
-                left);
-  const std::span data(path->data, static_cast<std::size_t>(path->num_data));
-  for (std::size_t i = 0; i < data.size(); i += static_cast<std::size_t>(data[i].header.length)) {
-    switch (data[i].header.type) {
-      case CAIRO_PATH_MOVE_TO:
-        dasher.Move({data[i + 1].point.x, data[i + 1].point.y});
-        break;
-      case CAIRO_PATH_LINE_TO:
-        dasher.Line({data[i + 1].point.x, data[i + 1].point.y});
-        break;
-      default:  // curves are lines here
-        dasher.Close();
-        break;
-    }
-  }
+  RasterFigures cut;
+  Dasher dasher(drawn, seen, left, cut);
+  GiveLines(path, toPixels, dasher);
   dasher.EndFigure();
+  return cut;
 }
 
 }  // namespace kelvane

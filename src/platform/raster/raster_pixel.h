@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "platform/quartz/cg_color_space.h"
 #include "platform/raster/cairo_library.h"
@@ -62,6 +63,12 @@ class PixelRows {
 
   [[nodiscard]] std::uint32_t* Row(std::size_t y) const {
     return reinterpret_cast<std::uint32_t*>(data_ + y * bytesPerRow_);
+  }
+
+  /// @return a row of a mask.
+  [[nodiscard]] std::span<std::uint8_t> Bytes(std::size_t y) const {
+    return {data_ + y * bytesPerRow_,
+            static_cast<std::size_t>(cairo_image_surface_get_width(surface_))};
   }
 
  private:
