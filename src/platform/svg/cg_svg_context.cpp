@@ -38,6 +38,9 @@ bool LeavesAll(const CGClip& clip, const CGRect& page) {
   return elements == 1 && isRectangle && Intersection(BoxOf(clip.area), whole) == whole;
 }
 
+// Elements are kept in pieces, so that a long document is not copied again and again as it grows.
+constexpr std::size_t kPieceSize = std::size_t{1} << 18;
+
 /// The SVG back end. An element has all that it is painted with; clips are groups around elements.
 class CGSVGContext final : public CGContext, private CGClipOperators {
  public:
@@ -48,17 +51,14 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
     EndPage();
     const auto consumer = std::move(consumer_);
     if (!consumer) return;
-    const auto write = [&consumer](std::string_view text) {
+    EndPiece();
+    const std::string opening = Opening();
+    std::size_t size = 0;
+    ForEachPiece(opening, [&size](std::string_view text) { size += text.size(); });
+    consumer->Expect(size);
+    ForEachPiece(opening, [&consumer](std::string_view text) {
       consumer->Write({reinterpret_cast<const unsigned char*>(text.data()), text.size()});
-    };
-    write(Opening());
-    if (!definitions_.IsEmpty()) {
-      write("<defs>");
-      definitions_.ForEachPiece(write);
-      write("</defs>");
-    }
-    write(body_);
-    write("</svg>\n");
+    });
     consumer->Commit();
   }
 
@@ -78,7 +78,6 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
   void PageEnds() override {
     if (!isRecording_) return;
     clips_.End(*this);
-    if (isBlended_) body_.insert(0, WholePage("#fff"));
     isRecording_ = false;
   }
 
@@ -146,11 +145,32 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
     });
   }
 
+  /// Calls `write(text)` for the document, piece by piece.
+  template <class Write>
+  void ForEachPiece(std::string_view opening, const Write& write) {
+    write(opening);
+    if (!definitions_.IsEmpty()) {
+      write("<defs>");
+      definitions_.ForEachPiece(write);
+      write("</defs>");
+    }
+    if (isBlended_) write(WholePage("#fff"));
+    for (const std::string& piece : pieces_)
+      write(piece);
+    write("</svg>\n");
+  }
+
+  void EndPiece() {
+    body_.shrink_to_fit();
+    pieces_.push_back(std::exchange(body_, {}));
+  }
+
   /// Draws a mark among the clips that cut it. A group with a clip keeps to itself what is in it,
   /// so one that is mixed with the page stands in groups of its own.
   template <class DrawMark>
   void Draw(DrawMark&& draw) {
     if (!isRecording_) return;
+    if (body_.size() > kPieceSize) EndPiece();
     if (State().blendMode == kCGBlendModeNormal) {
       clips_.Bring(Clips(), *this);
       return draw();
@@ -252,7 +272,8 @@ class CGSVGContext final : public CGContext, private CGClipOperators {
   SvgImages images_;
   SvgFonts fonts_;
   std::optional<SvgPaints> paints_;
-  std::string body_;
+  std::vector<std::string> pieces_;  // of the elements
+  std::string body_;                 // the last one, which grows
   CGClipWriter clips_;
   std::vector<int> groups_;  // open ones, for each save
   bool isBlended_ = false;
