@@ -156,6 +156,40 @@ File PlusMetafiles(std::size_t size) {
   });
 }
 
+// A hatch of other colours each.
+File PlusHatches(std::size_t size) {
+  return Filled({}, size, 32 + 28, [](PlusRecords& records, std::size_t i) {
+    constexpr std::uint32_t kHatched = 1;
+    const auto style = Number(i % 53);
+    const Bytes brush = Bytes().U32(kHatched).U32(style).U32(kColor + Number(i)).U32(kColor);
+    records.Object(kPlusBrush, 1, brush).FillWithBrush(1, {0, 0}, {90, 90});
+  });
+}
+
+// A texture of one pixel each, of another colour.
+File PlusTextures(std::size_t size) {
+  return Filled({}, size, 60 + 28, [](PlusRecords& records, std::size_t i) {
+    constexpr std::uint32_t kTextured = 2;
+    constexpr std::uint32_t kBitmap = 1;
+    constexpr std::uint32_t kRgb32 = 0x00022009;
+    Bytes brush = Bytes().U32(kTextured).U32(0).U32(0).U32(kPlusVersion).U32(kBitmap);
+    brush.U32(1).U32(1).U32(4).U32(kRgb32).U32(0).U32(Number(i));
+    records.Object(kPlusBrush, 1, brush).FillWithBrush(1, {0, 0}, {90, 90});
+  });
+}
+
+// One gradient, each time elsewhere.
+File PlusGradients(std::size_t size) {
+  constexpr std::uint32_t kLinear = 4;
+  Bytes brush = Bytes().U32(kLinear).U32(0).U32(0).F32(0).F32(0).F32(90).F32(90);
+  brush.U32(kColor).U32(0xFFFFFFFF).U32(kColor).U32(0xFFFFFFFF);
+  const PlusRecords first = PlusRecords().Object(kPlusBrush, 1, brush);
+  return Filled(first, size, 20 + 28, [](PlusRecords& records, std::size_t i) {
+    records.Record(0x402D, 0, Bytes().F32(static_cast<float>(i % 7) - 3).F32(0.01F));
+    records.FillWithBrush(1, {0, 0}, {90, 90});
+  });
+}
+
 // A font of another name each, used once.
 File PlusFonts(std::size_t size) {
   return Filled({}, size, 12 + 24 + 8 + 12 + 36, [](PlusRecords& records, std::size_t i) {

@@ -16,6 +16,9 @@ File PlusString(std::size_t size);
 File PlusStrings(std::size_t size);
 File PlusShortDashes(std::size_t size);
 File PlusMetafiles(std::size_t size);
+File PlusHatches(std::size_t size);
+File PlusGradients(std::size_t size);
+File PlusTextures(std::size_t size);
 File PlusFonts(std::size_t size);
 
 }  // namespace kelvane::test

@@ -25,6 +25,14 @@ inline std::int32_t Scattered(std::size_t number) {
   return static_cast<std::int32_t>(Number(number) * 2654435761U >> 22);  // below 1024
 }
 
+inline Bytes Bitmap(std::int32_t width, std::int32_t height, std::size_t bytes) {
+  Bytes bitmap;
+  bitmap.BitmapHeader({.width = width, .height = height});
+  for (std::size_t i = 0; i * 4 < bytes; ++i)
+    bitmap.U32(Number(i) * 2654435761U);
+  return bitmap;
+}
+
 /// Repeats what `add` adds, `bytes` of it at a time.
 template <class Add>
 File Repeated(std::size_t size, std::size_t bytes, const Add& add) {

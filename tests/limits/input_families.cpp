@@ -1,5 +1,6 @@
 #include "limits/input_families.h"
 
+#include "limits/brush_families.h"
 #include "limits/clip_families.h"
 #include "limits/emfplus_families.h"
 #include "limits/family_parts.h"
@@ -17,14 +18,6 @@ Points ScatteredPoints(std::size_t count) {
   for (std::size_t i = 0; i < count; ++i)
     points.push_back({Scattered(i), Scattered(3 * i + 1)});
   return points;
-}
-
-Bytes Bitmap(std::int32_t width, std::int32_t height, std::size_t bytes) {
-  Bytes bitmap;
-  bitmap.BitmapHeader({.width = width, .height = height});
-  for (std::size_t i = 0; i * 4 < bytes; ++i)
-    bitmap.U32(Number(i) * 2654435761U);
-  return bitmap;
 }
 
 // Records.
@@ -114,27 +107,15 @@ File ShortDashes(std::size_t size) {
   });
 }
 
-// Marks with the bitmap of one brush, which has half of the bytes, at an origin each.
-File BrushOrigins(std::size_t size) {
-  constexpr std::uint32_t kFixedSize = 32;
-  const std::size_t rows = size / 2 / 192;
-  const Bytes pixels = Bitmap(64, Signed(rows), 192 * rows);
-  Metafile metafile;
-  metafile.Bounds(0, 0, 1024, 1024);
-  Bytes brush = Bytes().U32(1).U32(0).U32(kFixedSize).U32(40).U32(kFixedSize + 40);
-  brush.U32(Number(192 * rows)).Append(pixels.Data());
-  metafile.Record(EMR_CREATEDIBPATTERNBRUSHPT, brush).SelectObject(1);
-  for (std::size_t i = 0; i < size / 2 / (16 + 24); ++i) {
-    metafile.Record(EMR_SETBRUSHORGEX, Bytes().PointL(Signed(i), Signed(i)));
-    metafile.Rectangle({1, 2, 3, 4});
-  }
-  return metafile.Build();
-}
-
 // Points.
 
 File ManyPoints(std::size_t size) {
   return Metafile().Bounds(0, 0, 1024, 1024).Polyline(ScatteredPoints(size / 4)).Build();
+}
+
+// A figure whose lines cross all others.
+File ManyCrossings(std::size_t size) {
+  return Metafile().Bounds(0, 0, 1024, 1024).Polygon(ScatteredPoints(size / 4)).Build();
 }
 
 File ManyCurves(std::size_t size) {
@@ -320,7 +301,9 @@ const std::vector<InputFamily>& InputFamilies() {
       {"a_clip_of_rectangles", true, AClipOfRectangles},
       {"short_dashes", true, ShortDashes},
       {"brush_origins", false, BrushOrigins},
+      {"hatched_brushes", true, HatchedBrushes, true},
       {"many_points", true, ManyPoints},
+      {"many_crossings", true, ManyCrossings},
       {"many_curves", true, ManyCurves},
       {"many_figures", true, ManyFigures},
       {"an_open_path", true, AnOpenPath},
@@ -356,6 +339,9 @@ const std::vector<InputFamily>& InputFamilies() {
       {"plus_strings", true, PlusStrings},
       {"plus_short_dashes", true, PlusShortDashes},
       {"plus_metafiles", true, PlusMetafiles},
+      {"plus_hatches", true, PlusHatches, true},
+      {"plus_gradients", true, PlusGradients, true},
+      {"plus_textures", false, PlusTextures, true},
       {"plus_fonts", true, PlusFonts},
       {"offset_clips", true, OffsetClips},
       {"xor_clips", true, XorClips},

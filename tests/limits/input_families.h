@@ -11,6 +11,7 @@ struct InputFamily {
   std::string name;
   bool isPlain;                                          // well-formed, and without bitmaps
   std::vector<unsigned char> (*make)(std::size_t size);  // of about so many bytes
+  bool hasNewPatterns = false;                           // one for each few bytes, as a rule
 };
 
 /// A family for each thing that there can be much of in a file.
