@@ -1,5 +1,5 @@
 /*
- * kelvane: Windows Enhanced Metafiles to PDF.
+ * kelvane: Windows metafiles (EMF, EMF+, WMF) to PDF, SVG and PNG.
  *
  * There are two conversions. kelvane_convert makes a page that looks as Windows shows the metafile,
  * and a report on what is missing from it. KELVANE and ReadFromFile make the page of the classic
@@ -48,7 +48,7 @@ typedef struct KelvaneData* CFMutableDataRef;
 typedef enum kelvane_status {
   KELVANE_DONE = 0,       /* there is a document, or the option is set */
   KELVANE_REFUSED = 1,    /* there is no such option, or it cannot have such a value */
-  KELVANE_NO_PICTURE = 2, /* the input is no metafile, or of a kind that is not supported yet */
+  KELVANE_NO_PICTURE = 2, /* the input is no metafile, is damaged at its beginning, or is too large */
   KELVANE_INCOMPLETE = 3, /* the option "strict" is set, and the document lacks something */
   KELVANE_NO_DOCUMENT = 4 /* the document cannot be made: memory has run out, for example */
 } kelvane_status;
@@ -99,8 +99,8 @@ KELVANE_EXPORT const char* kelvane_options_message(const kelvane_options* option
 
 /*
  * Converts a metafile in memory.
- * bytes: the metafile; may be NULL when length is 0. length: their number; 2 GiB or more is
- * refused. options: only read; NULL for none set. Returns a result, the caller's, for
+ * bytes: the metafile; may be NULL when length is 0. length: their number; 2 GiB or more end
+ * in KELVANE_NO_PICTURE. options: only read; NULL for none set. Returns a result, the caller's, for
  * kelvane_result_free whatever its status; NULL only when memory runs out.
  */
 KELVANE_EXPORT kelvane_result* kelvane_convert(const void* bytes, size_t length,
@@ -121,9 +121,11 @@ KELVANE_EXPORT const void* kelvane_result_data(const kelvane_result* result, siz
 
 /*
  * Returns the report, borrowed from the result: a JSON object on one line, zero-terminated, UTF-8.
- * "left_out", "only_nearly" and "damaged" list what the page lacks, "remarks" what else there is to
- * say, "fonts" the fonts "asked" for and "used"; with them are the page's size in points, the
- * number of records and the time taken.
+ * "status", the "bytes" of the input and "milliseconds" are always there, "message" where
+ * kelvane_result_message has one. With a document there are its "format", its "page" in points,
+ * "pages" if it has more than one, and "records", their number; "left_out", "only_nearly" and
+ * "damaged" list what the page lacks, "remarks" what else there is to say, and "fonts" the fonts
+ * "asked" for and "used".
  * result: not NULL.
  */
 KELVANE_EXPORT const char* kelvane_result_report(const kelvane_result* result);

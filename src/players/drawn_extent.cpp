@@ -18,7 +18,7 @@ void DrawnExtent::Add(const CGBox& box) {
 }
 
 void DrawnExtent::PathPainted(const CGPath& path, CGPathDrawingMode mode) {
-  Add(ExtentOf(State(), path, mode));
+  Add(Grown(BoxOf(path), Strokes(mode) ? StrokeMargin(State()) : 0));
 }
 
 void DrawnExtent::ImageDrawn(const CGImage& /*image*/, const CGAffineTransform& matrix) {

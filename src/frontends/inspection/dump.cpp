@@ -6,6 +6,7 @@
 #include "frontends/inspection/record_printers.h"
 #include "frontends/inspection/wmf_printers.h"
 #include "metafile/container/metafile_container.h"
+#include "metafile/emf/emf_header.h"
 #include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emf/emf_record_type.h"
 #include "metafile/wmf/wmf_header.h"
@@ -88,13 +89,16 @@ void DumpWmf(std::span<const unsigned char> file, std::size_t start, std::ostrea
   }
 }
 
-void DumpMetafile(std::span<const unsigned char> file, std::ostream& out, FieldWriter& fields) {
+/// @return whether it is one.
+bool DumpMetafile(std::span<const unsigned char> file, std::ostream& out, FieldWriter& fields) {
   if (const auto header = ReadWmfHeader(file)) {
     DumpWmfHeader(*header, fields);
     DumpWmf(file, header->records, out, fields);
-  } else {
-    DumpEmf(file, out, fields);
+    return true;
   }
+  if (!ReadEmfHeader(file)) return false;
+  DumpEmf(file, out, fields);
+  return true;
 }
 
 void DumpSpool(std::span<const unsigned char> file, const SpoolHeader& header, std::ostream& out,
@@ -119,15 +123,13 @@ void DumpSpool(std::span<const unsigned char> file, const SpoolHeader& header, s
 
 }  // namespace
 
-void Dump(std::span<const unsigned char> file, std::ostream& out) {
+bool Dump(std::span<const unsigned char> file, std::ostream& out) {
   FieldWriter fields(out);
   const MetafileContainer container = OpenContainer(file);
-  if (container.spool) {
-    DumpSpool(container.content, *container.spool, out, fields);
-  } else {
-    DumpMetafile(container.content, out, fields);
-  }
+  if (!container.spool && !DumpMetafile(container.content, out, fields)) return false;
+  if (container.spool) DumpSpool(container.content, *container.spool, out, fields);
   fields.Flush();
+  return true;
 }
 
 }  // namespace kelvane

@@ -16,6 +16,7 @@ namespace kelvane {
 /// last line says where the records end, when that is elsewhere than in an EMR_EOF or META_EOF at
 /// the end of the file. How values are written, FieldWriter says.
 /// @param file  any bytes. @param out  gets a piece at a time, and no more once it fails.
-void Dump(std::span<const unsigned char> file, std::ostream& out);
+/// @return whether the file is a metafile; of what is none nothing is written.
+bool Dump(std::span<const unsigned char> file, std::ostream& out);
 
 }  // namespace kelvane

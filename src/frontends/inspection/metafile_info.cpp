@@ -5,6 +5,7 @@
 
 #include "metafile/emf/emf_comment_records.h"
 #include "metafile/emf/emf_font_records.h"
+#include "metafile/emf/emf_record_iterator.h"
 #include "metafile/emfplus/emfplus_record.h"
 
 namespace kelvane {
@@ -48,17 +49,14 @@ class Inspector {
 }  // namespace
 
 std::optional<MetafileInfo> Inspect(std::span<const unsigned char> file) {
-  EmfRecordIterator records(file);
-  auto record = records.Next();
-  if (!record || record->type != EMR_HEADER) return std::nullopt;
+  const auto header = ReadEmfHeader(file);
+  if (!header) return std::nullopt;
   MetafileInfo info;
-  ByteView header = record->bytes;
-  info.header = DecodeEmfHeader(header);
-  if (header.IsShort() || info.header.signature != kEmfSignature) return std::nullopt;
-
+  info.header = *header;
   info.bytes = file.size();
   Inspector inspector(info);
-  for (; record; record = records.Next())
+  EmfRecordIterator records(file);
+  while (auto record = records.Next())
     inspector.Add(*record);
   info.end = records.End().value();
   info.endOffset = records.Offset();

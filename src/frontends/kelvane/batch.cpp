@@ -42,7 +42,7 @@ class Desk {
  private:
   void PassOn(const WorkItem& item, const FileOutcome& outcome) {
     status_ = std::max(status_, outcome.status);
-    converted_ += IsConverted(outcome) ? 1 : 0;
+    converted_ += outcome.HasDocument() ? 1 : 0;
     incomplete_ += outcome.missing > 0 ? 1 : 0;
     const std::string message = MessageOn(outcome);
     const std::string name = item.input == "-" ? "standard input" : item.input;
@@ -53,10 +53,6 @@ class Desk {
         report_->Write({reinterpret_cast<const unsigned char*>(line.data()), line.size()});
       });
     }
-  }
-
-  static bool IsConverted(const FileOutcome& outcome) {
-    return outcome.status == KELVANE_DONE || outcome.status == KELVANE_INCOMPLETE;
   }
 
   /// A page that lacks something is spoken of where nothing else would tell of it.

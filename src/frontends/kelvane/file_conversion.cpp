@@ -40,10 +40,6 @@ void WriteDocument(const kelvane_result* result, const std::string& path, FileOu
   }
 }
 
-bool HasDocument(const FileOutcome& outcome) {
-  return outcome.status == KELVANE_DONE || outcome.status == KELVANE_INCOMPLETE;
-}
-
 /// What the report says, as JSON. @return an object even where nothing could be converted.
 Json Convert(const WorkItem& item, const kelvane_options* options, FileOutcome& outcome) {
   std::vector<unsigned char> file;
@@ -56,7 +52,7 @@ Json Convert(const WorkItem& item, const kelvane_options* options, FileOutcome& 
   const Result result(kelvane_convert(file.data(), file.size(), options));
   if (!result) throw std::bad_alloc();
   Fail(outcome, kelvane_result_status(result.get()), kelvane_result_message(result.get()));
-  if (HasDocument(outcome)) WriteDocument(result.get(), item.output, outcome);
+  if (outcome.HasDocument()) WriteDocument(result.get(), item.output, outcome);
   return Json::parse(kelvane_result_report(result.get()));
 }
 
@@ -70,7 +66,7 @@ std::size_t CountOf(const Json& report, const char* list) {
 /// What the tool knows besides goes before what the library says.
 std::string Line(const WorkItem& item, const FileOutcome& outcome, const Json& report) {
   Json line = {{"file", item.input}, {"status", outcome.status}};
-  if (HasDocument(outcome)) line["document"] = item.output;
+  if (outcome.HasDocument()) line["document"] = item.output;
   if (!outcome.message.empty()) line["message"] = outcome.message;
   for (const auto& [key, value] : report.items()) {
     if (!line.contains(key)) line[key] = value;
@@ -89,7 +85,7 @@ FileOutcome ConvertFile(const WorkItem& item, const kelvane_options* options) {
   } catch (const std::bad_alloc&) {
     Fail(outcome, KELVANE_NO_DOCUMENT, "memory has run out");
   }
-  if (HasDocument(outcome)) {
+  if (outcome.HasDocument()) {
     outcome.missing = CountOf(report, "left_out") + CountOf(report, "damaged");
   }
   outcome.report = Line(item, outcome, report);

@@ -15,6 +15,10 @@ struct FileOutcome {
   std::string message;      // why that is not 0
   std::string report;       // JSON on one line
   std::size_t missing = 0;  // records that are left out of the document, or damaged
+
+  [[nodiscard]] bool HasDocument() const {
+    return status == KELVANE_DONE || status == KELVANE_INCOMPLETE;
+  }
 };
 
 /// Reads, converts and writes a file. Throws nothing but std::bad_alloc.

@@ -2,8 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <kelvane/kelvane.h>
@@ -23,6 +25,13 @@ int Complain(const std::string& words, int status) {
   return status;
 }
 
+/// @return whether the file is a metafile.
+bool PrintInfo(std::span<const unsigned char> file, std::string_view name) {
+  const auto info = InfoOf(file, name);
+  if (info) std::cout << *info;
+  return info.has_value();
+}
+
 int Print(std::string_view word, const std::string& path) {
   const std::string name = path == "-" ? "standard input" : path;
   std::vector<unsigned char> file;
@@ -31,12 +40,8 @@ int Print(std::string_view word, const std::string& path) {
   } catch (const std::runtime_error& error) {
     return Complain(name + ": cannot be read: " + error.what(), KELVANE_NO_PICTURE);
   }
-  const auto info = InfoOf(file, name);
-  if (!info) return Complain(name + ": it is no metafile (EMF or WMF)", KELVANE_NO_PICTURE);
-  if (word == kInfo) {
-    std::cout << *info;
-  } else {
-    Dump(file, std::cout);
+  if (!(word == kInfo ? PrintInfo(file, name) : Dump(file, std::cout))) {
+    return Complain(name + ": it is no metafile (EMF or WMF)", KELVANE_NO_PICTURE);
   }
   if (std::cout.flush()) return KELVANE_DONE;
   return Complain("cannot write standard output", KELVANE_NO_DOCUMENT);

@@ -31,10 +31,14 @@ int Complain(std::string_view words, int status) {
 /// The format that the name of the output ends in; nothing for any other ending.
 std::optional<std::string> FormatInTheName(const kelvane::CommandLine& line) {
   const std::string ending = std::filesystem::path(line.output.value_or("")).extension();
-  for (const char* const format : {"pdf", "svg", "png"}) {
-    if (ending == std::string(".") + format) return format;
+  if (ending.empty()) return std::nullopt;
+  const Options options(kelvane_options_new());
+  if (!options) throw std::bad_alloc();
+  std::string format = ending.substr(1);
+  if (kelvane_options_set(options.get(), "format", format.c_str()) != KELVANE_DONE) {
+    return std::nullopt;
   }
-  return std::nullopt;
+  return format;
 }
 
 /// @return the format to make, which is among the options then.

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "metafile/emf/emf_record_iterator.h"
+#include "metafile/emf/emf_record_type.h"
+
 namespace kelvane {
 inline namespace metafile {
 namespace {
@@ -86,6 +89,14 @@ EmfHeader DecodeEmfHeader(ByteView& bytes) {
         Agree(micrometers.cy, header.millimeters.cy))
       header.micrometers = micrometers;
   }
+  return header;
+}
+
+std::optional<EmfHeader> ReadEmfHeader(std::span<const unsigned char> file) {
+  auto record = EmfRecordIterator(file).Next();
+  if (!record || record->type != EMR_HEADER) return std::nullopt;
+  const EmfHeader header = DecodeEmfHeader(record->bytes);
+  if (record->bytes.IsShort() || header.signature != kEmfSignature) return std::nullopt;
   return header;
 }
 

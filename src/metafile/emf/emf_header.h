@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <span>
 
 #include "metafile/byte_view.h"
 #include "metafile/gdi_objects.h"
@@ -40,6 +42,10 @@ struct EmfHeader {
 /// @param bytes  the record behind type and size. Short only when the first 88 bytes are not there;
 ///               a description or extension that lies elsewhere is as good as none.
 EmfHeader DecodeEmfHeader(ByteView& bytes);
+
+/// @param file  borrowed; the header's description views it.
+/// @return the header of a metafile; nullopt when the bytes are none.
+std::optional<EmfHeader> ReadEmfHeader(std::span<const unsigned char> file);
 
 }  // namespace metafile
 }  // namespace kelvane

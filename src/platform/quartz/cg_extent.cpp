@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <numbers>
 #include <variant>
 
 namespace kelvane {
@@ -65,8 +66,9 @@ double StrokeMargin(const CGGraphicsState& state) {
   return state.lineWidth / 2.0 * std::max(std::hypot(t.a, t.b), std::hypot(t.c, t.d));
 }
 
-CGBox ExtentOf(const CGGraphicsState& state, const CGPath& path, CGPathDrawingMode mode) {
-  return Grown(BoxOf(path), Strokes(mode) ? StrokeMargin(state) : 0);
+double StrokeReach(const CGGraphicsState& state) {
+  const double miter = state.lineJoin == kCGLineJoinMiter ? state.miterLimit : 1;
+  return StrokeMargin(state) * std::max(miter, std::numbers::sqrt2);
 }
 
 CGBox ExtentOf(const CGGlyphRun& run) {
@@ -75,7 +77,8 @@ CGBox ExtentOf(const CGGlyphRun& run) {
     const CGPoint origin = CGPointApplyAffineTransform(glyph.origin, run.matrix);
     Include(box, origin.x, origin.y);
   }
-  return Grown(box, run.size);
+  const CGAffineTransform& t = run.matrix;
+  return Grown(box, run.size * std::max(std::hypot(t.a, t.b), std::hypot(t.c, t.d)));
 }
 
 CGBox ExtentOf(const CGShading& shading, std::span<const CGClip> clips) {

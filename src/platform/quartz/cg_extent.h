@@ -37,9 +37,12 @@ CGBox BoxOf(std::span<const CGClip> clips);
 
 // How far finished marks reach, page space.
 
-/// @return how far a stroke goes beyond its path; its miters may go farther.
+/// @return how far a stroke goes beyond the sides of its path.
 double StrokeMargin(const CGGraphicsState& state);
-CGBox ExtentOf(const CGGraphicsState& state, const CGPath& path, CGPathDrawingMode mode);
+
+/// @return how far a stroke goes beyond its path, with its miters and ends.
+double StrokeReach(const CGGraphicsState& state);
+
 CGBox ExtentOf(const CGGlyphRun& run);
 
 /// A line of colour has no end but the clip's, and without a clip none at all.

@@ -73,11 +73,11 @@ bool Covers(const CGGraphicsState& state, CGPathDrawingMode mode) {
 
 void CGGround::PathPainted(const CGGraphicsState& state, std::span<const CGClip> clips,
                            const CGPath& path, CGPathDrawingMode mode) {
-  CGBox box = ExtentOf(state, path, mode);
+  CGBox box = BoxOf(path);
   const bool isRectangle = IsRectangle(path);
   if (Strokes(mode)) {
-    // Miters reach no farther than the margin only where the path is an upright rectangle.
-    box = Grown(box, kHair + (isRectangle ? 0 : StrokeMargin(state) * state.miterLimit));
+    // The miters of an upright rectangle reach no farther than its sides.
+    box = Grown(box, kHair + (isRectangle ? StrokeMargin(state) : StrokeReach(state)));
   }
   Disturb(box);
   if (!isRectangle || !Covers(state, mode)) return;

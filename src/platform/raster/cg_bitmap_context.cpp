@@ -106,11 +106,11 @@ class CGBitmapContext final : public CGContext {
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
     if (Fills(mode)) {
       const bool isEvenOdd = mode == kCGPathEOFill || mode == kCGPathEOFillStroke;
-      Draw(State(), ExtentOf(State(), path, kCGPathFill), State().fillColor, State().fillPattern,
+      Draw(State(), BoxOf(path), State().fillColor, State().fillPattern,
            [&] { FillPath(drawing_.get(), path, toPixels_, isEvenOdd); });
     }
     if (Strokes(mode)) {
-      Draw(State(), ExtentOf(State(), path, kCGPathStroke), State().strokeColor,
+      Draw(State(), Grown(BoxOf(path), StrokeReach(State())), State().strokeColor,
            State().strokePattern, [&] { Stroke(path, StrokeGeometry(State()), State()); });
     }
   }
@@ -124,7 +124,7 @@ class CGBitmapContext final : public CGContext {
            [&] { FillPath(drawing_.get(), outlines, toPixels_, false); });
     }
     if (Strokes(state.textMode)) {
-      Draw(state, Grown(ExtentOf(run), StrokeMargin(state)), state.strokeColor, state.strokePattern,
+      Draw(state, Grown(ExtentOf(run), StrokeReach(state)), state.strokeColor, state.strokePattern,
            [&] {
              Stroke(outlines, {TextStrokeWidth(state), 1, false}, state);
            });

@@ -118,8 +118,9 @@ cairo_surface_t* RasterImages::PixelsOf(const CGImage& image, const CGColor& pai
     kept_.clear();
     pixels_ = 0;
   }
-  pixels_ += size;
-  return kept_.emplace(key, Make(image, paint)).first->second.get();
+  const auto& made = kept_.emplace(key, Make(image, paint)).first->second;
+  if (made != nullptr) pixels_ += size;
+  return made.get();
 }
 
 CGAffineTransform PixelsToSquare(cairo_surface_t* pixels) {

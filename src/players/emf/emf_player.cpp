@@ -61,14 +61,6 @@ std::size_t PlayRecords(std::span<const unsigned char> file, EmfPlayback& playba
 
 }  // namespace
 
-std::optional<EmfHeader> ReadEmfHeader(std::span<const unsigned char> file) {
-  auto record = EmfRecordIterator(file).Next();
-  if (!record || record->type != EMR_HEADER) return std::nullopt;
-  const EmfHeader header = DecodeEmfHeader(record->bytes);
-  if (record->bytes.IsShort() || header.signature != kEmfSignature) return std::nullopt;
-  return header;
-}
-
 PictureGeometry GeometryOf(const EmfHeader& header) {
   return {StoredFrom(header.bounds),
           StoredFrom(header.frame),

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <span>
 
 #include "metafile/emf/emf_header.h"
@@ -9,10 +8,6 @@
 #include "players/stage.h"
 
 namespace kelvane {
-
-/// @param file  borrowed; the header's description views it.
-/// @return the header of a metafile; nullopt when the bytes are none.
-std::optional<EmfHeader> ReadEmfHeader(std::span<const unsigned char> file);
 
 /// @return what a header says about where its picture lies.
 PictureGeometry GeometryOf(const EmfHeader& header);

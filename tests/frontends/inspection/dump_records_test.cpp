@@ -8,6 +8,7 @@
 
 #include "dumped.h"
 #include "frontends/inspection/record_printers.h"
+#include "metafile/emf/emf_header.h"
 #include "record_samples.h"
 
 namespace kelvane::test {
@@ -17,18 +18,23 @@ Samples AllSamples() {
   return Joined({DrawingSamples(), StateSamples()});
 }
 
-/// A record alone, as the first of a file.
-std::vector<unsigned char> FileOf(EmfRecordType type, const Bytes& body) {
-  const auto size = static_cast<std::uint32_t>(8 + body.Size());
-  return Bytes().U32(type).U32(size).Append(body.Data()).Data();
+/// @return the line of a record behind the header of a file, without its offset.
+std::string LineOf(EmfRecordType type, const Bytes& body) {
+  constexpr std::uint32_t kHeaderSize = 88;
+  Bytes file;
+  file.U32(EMR_HEADER).U32(kHeaderSize).Append(std::vector<unsigned char>(32));
+  file.U32(kEmfSignature).Append(std::vector<unsigned char>(kHeaderSize - 44));
+  file.U32(type).U32(static_cast<std::uint32_t>(8 + body.Size())).Append(body.Data());
+  const std::string line = Dumped(file.Data()).at(1);
+  return line.substr(line.find(' ') + 1);
 }
 
 TEST(DumpedRecord, HasTheFieldsOfItsType) {
   for (const Sample& sample : AllSamples()) {
     for (const EmfRecordType type : sample.types) {
-      const auto file = FileOf(type, sample.body);
-      EXPECT_EQ(Dumped(file).front(), "0 " + std::string(RecordName(type)) +
-                                          " Size=" + std::to_string(file.size()) + sample.fields);
+      const std::string size = std::to_string(8 + sample.body.Size());
+      EXPECT_EQ(LineOf(type, sample.body),
+                std::string(RecordName(type)) + " Size=" + size + sample.fields);
     }
   }
 }
@@ -37,8 +43,7 @@ TEST(DumpedRecord, SaysWhenItHasNoneOfItsFields) {
   for (const Sample& sample : AllSamples()) {
     if (sample.body.Size() == 0) continue;
     for (const EmfRecordType type : sample.types)
-      EXPECT_NE(Dumped(FileOf(type, {})).front().find(" Damaged="), std::string::npos)
-          << RecordName(type);
+      EXPECT_NE(LineOf(type, {}).find(" Damaged="), std::string::npos) << RecordName(type);
   }
 }
 

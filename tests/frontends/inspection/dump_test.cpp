@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <sstream>
 #include <streambuf>
 
 #include <gtest/gtest.h>
@@ -74,10 +75,12 @@ TEST(Dump, SaysWhatLiesBehindTheEnd) {
   EXPECT_EQ(Dumped(file).back(), std::to_string(size) + " END Bytes=3");
 }
 
-TEST(Dump, OfNothingSaysThatThereIsNothing) {
-  const auto lines = Dumped({});
-  ASSERT_EQ(lines.size(), 1U);
-  EXPECT_EQ(lines.front(), R"(0 END Bytes=0 Damaged="the file ends without an EMR_EOF")");
+TEST(Dump, IsRefusedOfWhatIsNoMetafile) {
+  std::stringstream out;
+  EXPECT_FALSE(Dump({}, out));
+  EXPECT_FALSE(Dump(Bytes().U32(EMR_EOF).U32(8).Data(), out));
+  EXPECT_EQ(out.str(), "");
+  EXPECT_TRUE(Dump(FileOfALine(), out));
 }
 
 TEST(Dump, NamesStockObjectsAndNumbersOthers) {
