@@ -23,7 +23,7 @@ struct ConversionOptions {
   bool outlinesText = false;  // whether text becomes shapes
   bool embedsFonts = true;    // whether an SVG carries the faces of its text
   EmfPlusChoice emfPlus = EmfPlusChoice::kAuto;
-  std::optional<double> dotsPerInch;  // of a PNG, where neither its width nor its height is given
+  double dotsPerInch = 96;  // of a PNG, where neither its width nor its height is given
   std::optional<CGColor> background = CGColor{1, 1, 1, 1};  // of a PNG; none: clear
   bool strict = false;  // whether a document that lacks something counts as a failure
 };

@@ -20,12 +20,11 @@ struct PixelSize {
 
 /// @param page  points.
 PixelSize PixelsOf(const ConversionOptions& options, CGSize page) {
-  constexpr double kUsualDots = 96;
   const PageSizeWish& wish = options.size;
   if (wish.width && wish.height) return {*wish.width, *wish.height};
   if (wish.width) return {*wish.width, *wish.width * page.height / page.width};
   if (wish.height) return {*wish.height * page.width / page.height, *wish.height};
-  const double scale = options.dotsPerInch.value_or(kUsualDots) / kPointsAnInch;
+  const double scale = options.dotsPerInch / kPointsAnInch;
   return {page.width * scale, page.height * scale};
 }
 

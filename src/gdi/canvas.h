@@ -113,8 +113,7 @@ class Canvas {
   /// @param origin  of the pattern, device units.
   CGSharedPattern PatternOf(const BrushPaint& paint, PointL origin, RasterStep::Color color);
 
-  /// @param cell    a unit a pixel of a brush, not null. @param origin  of the pattern, device
-  /// units.
+  /// @param cell  a unit a pixel of a brush, not null. @param origin  of the pattern, device units.
   /// @return it as it lies on the page, the same one each time.
   CGSharedPattern Placed(const CGSharedPattern& cell, PointL origin);
 

@@ -126,7 +126,10 @@ class Scenes(unittest.TestCase):
 
     def test_every_floor_is_that_of_a_scene_that_is_judged(self) -> None:
         judged = {subject.name for subject in subjects.scenes()}
-        self.assertLessEqual(floors.read(subjects.SCENES / "floors-pdf.tsv").keys(), judged)
+        for form in ("pdf", "svg", "png"):
+            known = floors.read(subjects.SCENES / f"floors-{form}.tsv")
+            self.assertTrue(known, form)
+            self.assertLessEqual(known.keys(), judged)
 
 
 if __name__ == "__main__":

@@ -97,6 +97,10 @@ TEST(ConversionOptions, StandAsTheListSaysBeforeAnyIsSet) {
   options.page = PageChoice::kBounds;
   options.size.scale = 7;
   options.outlinesText = true;
+  options.embedsFonts = false;
+  options.emfPlus = EmfPlusChoice::kNever;
+  options.dotsPerInch = 7;
+  options.background.reset();
   options.strict = true;
   for (const ConversionOption& option : ListedOptions()) {
     if (*option.standard == '\0') continue;  // there is none, or the picture decides
@@ -106,6 +110,10 @@ TEST(ConversionOptions, StandAsTheListSaysBeforeAnyIsSet) {
   EXPECT_EQ(options.page, before.page);
   EXPECT_EQ(options.size.scale, before.size.scale);
   EXPECT_EQ(options.outlinesText, before.outlinesText);
+  EXPECT_EQ(options.embedsFonts, before.embedsFonts);
+  EXPECT_EQ(options.emfPlus, before.emfPlus);
+  EXPECT_EQ(options.dotsPerInch, before.dotsPerInch);
+  EXPECT_EQ(options.background, before.background);
   EXPECT_EQ(options.strict, before.strict);
 }
 

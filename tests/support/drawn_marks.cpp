@@ -130,6 +130,15 @@ const DrawnMark kPaths[] = {
        Star(c, kCGPathFill);
        FillRect(c, {{0, 40}, {100, 20}});
      }},
+    {"AlphaAtATip",
+     [](CGContextRef c) {
+       CGContextSetAlpha(c, .5F);
+       CGContextSetLineWidth(c, 8);
+       CGContextMoveToPoint(c, 35, 10);
+       CGContextAddLineToPoint(c, 50, 70);
+       CGContextAddLineToPoint(c, 65, 10);
+       CGContextDrawPath(c, kCGPathStroke);
+     }},
 };
 
 const DrawnMark kClips[] = {
@@ -229,6 +238,12 @@ const DrawnMark kTexts[] = {
     {"Upright", [](CGContextRef c) { Text(c, 0); }},
     {"Turned", [](CGContextRef c) { Text(c, 30); }},
     {"SetApart", [](CGContextRef c) { DrawUnits(c, u"AVA", 25, {.size = 20, .x = 5, .y = 40}); }},
+    {"AlphaEnlarged",
+     [](CGContextRef c) {
+       CGContextSetAlpha(c, .5F);
+       CGContextConcatCTM(c, {6, 0, 0, 6, 0, 0});
+       DrawText(c, u"Tj", {.size = 9, .x = 3, .y = 4});
+     }},
     {"Outlined",
      [](CGContextRef c) {
        CGContextSetTextDrawingMode(c, kCGTextFillStroke);

@@ -1,10 +1,11 @@
 // Includes point one way. A folder may include itself and what stands below it:
 //
-//     frontends > players > gdiplus > gdi
-//     frontends > classic > atsui > fonts > quartz > corefoundation > base
-//     frontends > pdf, trace > quartz
-//     frontends/inspection > metafile
-//     gdi > metafile, fonts
+//     frontends > players > gdiplus > gdi > fonts > quartz > corefoundation > base
+//     frontends > classic > atsui > fonts
+//     frontends > pdf, svg, raster > quartz
+//     frontends/inspection > metafile > base
+//     players/picture > players/emf, players/wmf > players > metafile
+//     gdi > metafile
 //     gdiplus > metafile/emfplus
 //
 // and within the classic conversion

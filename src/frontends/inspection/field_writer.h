@@ -37,8 +37,7 @@ ArrayView<Unit> UpToNul(const ArrayView<Unit>& units) {
 ///     a structure     (1,2)
 ///     a list          2:(1,2),(3,4)    how many, and each of them
 ///     bytes           9:0a0b0c         how many, and the first of them
-///     text            "a\"b\n"         UTF-8; what does not print as \u{1f}, a byte of 8 bits as
-///     \xe9
+///     text            "a\"b\n"         UTF-8; what does not print as \u{1f}, a byte as \xe9
 ///
 class FieldWriter {
  public:
@@ -133,10 +132,8 @@ class FieldWriter {
   /// A text with room for so many units.
   template <std::size_t count>
   void Write(const std::array<char16_t, count>& units) {
-    text_.Append("\"");
-    for (std::size_t i = 0; i < count && units[i] != u'\0';)
-      i += AppendEscaped(text_, units[i], i + 1 < count ? units[i + 1] : u'\0');
-    text_.Append("\"");
+    const std::u16string_view room(units.data(), count);
+    Write(room.substr(0, room.find(u'\0')));
   }
 
   /// @param shown  makes of an element what is written of it.

@@ -7,7 +7,6 @@
 #include <limits>
 #include <stdexcept>
 #include <system_error>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -5,7 +5,6 @@
 #include <memory>
 #include <span>
 #include <system_error>
-#include <utility>
 
 #include <sys/stat.h>
 

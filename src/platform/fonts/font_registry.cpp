@@ -93,8 +93,8 @@ void FontRegistry::SeeChanges() {
   nextCheck_ = now + kCheckInterval;
 }
 
-// Numbers, styles and faces may be in use: they stay as they are, and only nobody is given a style
-// or a stand-in any more that was chosen among other fonts.
+// Numbers, styles and faces may be in use, so they stay as they are; but a style or a stand-in that
+// was chosen among other fonts is not given to anybody any more.
 void FontRegistry::Forget() noexcept {
   fullNames_.clear();
   families_.clear();

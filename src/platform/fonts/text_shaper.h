@@ -31,8 +31,8 @@ struct LineSetting {
 
 /// Sets a line of text from left to right: puts it in visual order, takes each character from
 /// `style` or from a stand-in, and shapes it. A character that no face has becomes the box for
-/// missing ones. Control characters, unpaired surrogates and
-/// characters that only steer the setting make no glyphs.
+/// missing ones. Control characters, unpaired surrogates and characters that only steer the setting
+/// make no glyphs.
 /// @param text  borrowed; must outlive the runs.
 /// @param pen   where the line starts, in ems; becomes where it ends.
 std::vector<ShapedRun> ShapeLine(std::u16string_view text, const FontStyle& style,

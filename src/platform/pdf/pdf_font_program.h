@@ -18,8 +18,7 @@ namespace kelvane {
 std::optional<CGFontSubset> SubsetProgram(const CGFont& font, const std::set<CGGlyph>& glyphs);
 
 /// @return the identifiers by which a document shows the glyphs of a CFF face, by glyph; empty when
-/// the face has
-///         none, and its glyphs' own numbers are used.
+///         the face has none, and its glyphs' own numbers are used.
 std::vector<std::uint16_t> CharacterIdentifiers(const CGFont& font);
 
 }  // namespace kelvane

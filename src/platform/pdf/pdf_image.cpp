@@ -3,9 +3,10 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include <qpdf/Buffer.hh>
+
+#include "platform/quartz/cg_image_rows.h"
 
 namespace kelvane {
 namespace {
@@ -72,13 +73,9 @@ QPDFObjectHandle PdfImages::StoreData(const CGImage& image, const QPDFObjectHand
     if (file->bytes.View().empty()) return QPDFObjectHandle::newNull();
     return writer_.AddEncodedStream(dictionary, "/DCTDecode", {file, &file->buffer});
   }
-  const CGProvidedBytes provided = image.provider->Provide();
-  const std::size_t rowSize = image.RowSize();
-  if (image.bytesPerRow == rowSize && provided.View().size() / rowSize >= image.height) {
-    return writer_.AddSharedStream(dictionary, provided.View().first(rowSize * image.height));
-  }
-  const auto packed = PackRows(provided.View(), rowSize, image.height, image.bytesPerRow);
-  return packed ? writer_.AddSharedStream(dictionary, *packed) : QPDFObjectHandle::newNull();
+  CGImageRows rows(image);
+  if (!rows.AreWhole()) return QPDFObjectHandle::newNull();
+  return writer_.AddSharedStream(dictionary, rows.Packed());
 }
 
 QPDFObjectHandle PdfImages::ColorSpaceOf(const CGImage& image) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,8 +26,8 @@ class PdfTextLine {
   void Start(const PdfTextStyle& style, CGPoint origin);
 
   /// @return how far the pen has to move for a glyph in thousandths of an em, as it will be
-  /// written; nothing when
-  ///         the glyph does not continue the line.
+  /// written;
+  ///         nothing when the glyph does not continue the line.
   [[nodiscard]] std::optional<CGFloat> Gap(const PdfTextStyle& style, CGPoint origin) const;
 
   /// Moves the pen over a gap and a glyph. @param gap  what Gap gave, or 0 for the first.

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 #include "platform/quartz/cg_blend_mode.h"
 #include "platform/quartz/cg_color_space.h"

@@ -25,9 +25,8 @@ class CGGround {
   /// Something is marked within a box, page space.
   void Disturb(const CGBox& box);
 
-  /// @param box  page space. @return the colour that it has throughout; nullopt when it has
-  /// several,
-  ///             or they are not known.
+  /// @param box  page space.
+  /// @return the colour that it has throughout; nullopt when it has several, or they are not known.
   [[nodiscard]] std::optional<CGColor> ColorOf(const CGBox& box) const;
 
  private:

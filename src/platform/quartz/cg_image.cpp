@@ -4,15 +4,10 @@
 #include <limits>
 #include <utility>
 
+#include "platform/quartz/cg_image_rows.h"
+
 namespace kelvane {
 namespace {
-
-// True when `rows` rows, `bytesPerRow` apart and the last only `width` bytes long, lie within
-// `size` bytes. Divides instead of multiplying, so no size can wrap.
-bool RowsFit(std::size_t size, std::size_t width, std::size_t rows, std::size_t bytesPerRow) {
-  if (width == 0 || rows == 0 || bytesPerRow < width || size < width) return false;
-  return (size - width) / bytesPerRow >= rows - 1;
-}
 
 std::uint64_t NextSerial() {
   static std::atomic<std::uint64_t> last{0};
@@ -106,19 +101,6 @@ CGImageRef CGImageCreateWithJPEG(std::size_t width, std::size_t height, std::siz
                       .interpolate = shouldInterpolate,
                       .encoding = CGImage::Encoding::kJpeg,
                       .provider = CFShare(provider)});
-}
-
-std::optional<std::vector<unsigned char>> PackRows(std::span<const unsigned char> pixels,
-                                                   std::size_t width, std::size_t height,
-                                                   std::size_t bytesPerRow) {
-  if (!RowsFit(pixels.size(), width, height, bytesPerRow)) return std::nullopt;
-  std::vector<unsigned char> packed;
-  packed.reserve(width * height);
-  for (std::size_t row = 0; row < height; ++row) {
-    const auto bytes = pixels.subspan(row * bytesPerRow, width);
-    packed.insert(packed.end(), bytes.begin(), bytes.end());
-  }
-  return packed;
 }
 
 }  // namespace kelvane

@@ -2,9 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
-#include <span>
-#include <vector>
 
 #include "platform/corefoundation/cf_base.h"
 #include "platform/quartz/cg_color_space.h"
@@ -97,16 +94,5 @@ CGImageRef CGImageCreateWithMask(CGImageRef image, CGImageRef mask);
 ///         null provider. Throws std::bad_alloc.
 CGImageRef CGImageCreateWithJPEG(std::size_t width, std::size_t height, std::size_t components,
                                  CGDataProviderRef provider, bool shouldInterpolate);
-
-/// Copies an image's rows without their padding, as documents store them.
-/// @param pixels       borrowed for the call; rows top first, `bytesPerRow` bytes apart.
-/// @param width        bytes used in each row, at least 1.
-/// @param height       rows, at least 1.
-/// @param bytesPerRow  at least `width`; the last row may end after `width` bytes.
-/// @return width * height bytes owned by the caller; nullopt if `pixels` is too short. Throws only
-///         std::bad_alloc.
-[[nodiscard]] std::optional<std::vector<unsigned char>> PackRows(
-    std::span<const unsigned char> pixels, std::size_t width, std::size_t height,
-    std::size_t bytesPerRow);
 
 }  // namespace kelvane

@@ -19,8 +19,8 @@ struct CGPatternShape {
   CGColor color;
 };
 
-/// A cell that is repeated over the plane; or a shading; a colour that fills with it. It never
-/// changes once it is in use, so states share it.
+/// What fills an area instead of a colour: a cell that is repeated over the plane, or a shading. It
+/// never changes once it is in use, so states share it.
 struct CGPattern {
   CGSize cell;               // pattern space; the cell lies at its origin
   CGAffineTransform matrix;  // pattern space to page space, whatever the CTM

@@ -1,6 +1,5 @@
 #include "platform/raster/cg_bitmap_context.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -9,7 +8,6 @@
 #include <optional>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 #include "platform/quartz/cg_extent.h"
 #include "platform/raster/cairo_library.h"

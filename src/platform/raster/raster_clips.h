@@ -7,7 +7,7 @@
 
 #include "platform/quartz/cg_clip_writer.h"
 #include "platform/raster/cairo_library.h"
-#include "platform/raster/raster_mesh.h"
+#include "platform/raster/raster_geometry.h"
 
 namespace kelvane {
 

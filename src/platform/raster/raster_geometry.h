@@ -6,6 +6,12 @@
 
 namespace kelvane {
 
+/// How large a picture is.
+struct PixelCount {
+  int width = 0;
+  int height = 0;
+};
+
 inline cairo_matrix_t MatrixOf(const CGAffineTransform& t) {
   return {t.a, t.b, t.c, t.d, t.tx, t.ty};
 }

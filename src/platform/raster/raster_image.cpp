@@ -4,9 +4,9 @@
 #include <new>
 #include <optional>
 #include <span>
-#include <vector>
 
 #include "platform/quartz/cg_image_pixel.h"
+#include "platform/quartz/cg_image_rows.h"
 #include "platform/raster/cg_bitmap_context.h"
 #include "platform/raster/raster_pixel.h"
 
@@ -18,25 +18,6 @@ using Bytes = std::span<const unsigned char>;
 struct PictureSize {
   std::size_t width;
   std::size_t height;
-};
-
-/// The bytes of an image while they are looked at.
-class SourceRows {
- public:
-  explicit SourceRows(const CGImage& image) : image_(image), provided_(image.provider->Provide()) {}
-
-  [[nodiscard]] bool AreWhole() const {
-    const std::size_t size = provided_.View().size();
-    const std::size_t rowSize = image_.RowSize();
-    return size >= rowSize && (size - rowSize) / image_.bytesPerRow >= image_.height - 1;
-  }
-  [[nodiscard]] Bytes Row(std::size_t y) const {
-    return provided_.View().subspan(y * image_.bytesPerRow, image_.RowSize());
-  }
-
- private:
-  const CGImage& image_;
-  CGProvidedBytes provided_;
 };
 
 /// One of the parts of a picture, looked up by the picture's pixels: image and mask may differ in
@@ -76,7 +57,7 @@ class PicturePart {
   [[nodiscard]] std::size_t ColumnAt(std::size_t x) const { return x * image_.width / size_.width; }
 
   const CGImage& image_;
-  SourceRows rows_;
+  CGImageRows rows_;
   PictureSize size_;
 };
 

@@ -8,7 +8,6 @@
 #include <limits>
 #include <new>
 #include <span>
-#include <utility>
 
 #include "platform/raster/raster_pixel.h"
 

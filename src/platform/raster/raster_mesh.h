@@ -2,14 +2,9 @@
 
 #include "platform/quartz/cg_shading.h"
 #include "platform/raster/cairo_library.h"
+#include "platform/raster/raster_geometry.h"
 
 namespace kelvane {
-
-/// How large a picture is.
-struct PixelCount {
-  int width = 0;
-  int height = 0;
-};
 
 /// @param mesh  in pixels. @param page  nothing is painted beyond it.
 /// @return the triangles as pixels, each of the colour in its middle, clear beside them. It takes

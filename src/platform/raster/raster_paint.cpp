@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <new>
-#include <utility>
 #include <variant>
 
 #include "platform/raster/raster_geometry.h"

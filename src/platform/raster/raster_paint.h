@@ -8,8 +8,8 @@
 #include "platform/quartz/cg_pattern.h"
 #include "platform/quartz/cg_shading.h"
 #include "platform/raster/cairo_library.h"
+#include "platform/raster/raster_geometry.h"
 #include "platform/raster/raster_image.h"
-#include "platform/raster/raster_mesh.h"
 
 namespace kelvane {
 

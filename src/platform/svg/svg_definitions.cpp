@@ -5,8 +5,6 @@
 namespace kelvane {
 namespace {
 
-/// A text that is equal only where the element is, too: elements differ in what their text is made
-/// of.
 char LetterOf(std::string_view element) {
   return element == "mask" ? 'k' : element.front();
 }

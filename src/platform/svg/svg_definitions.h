@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -44,7 +43,7 @@ class SvgDefinitions {
   };
   using Definitions = std::unordered_map<std::string, Name>;
 
-  Definitions definitions_;  // by their text
+  Definitions definitions_;  // by their text, in which elements differ
   std::vector<const Definitions::value_type*> order_;
   std::unordered_map<char, std::size_t> counts_;  // by the first letter of names
 };

@@ -8,6 +8,7 @@
 
 #include "base/base64.h"
 #include "platform/quartz/cg_image_pixel.h"
+#include "platform/quartz/cg_image_rows.h"
 #include "platform/svg/svg_color.h"
 #include "platform/svg/svg_number.h"
 
@@ -19,40 +20,19 @@ using Bytes = std::span<const unsigned char>;
 constexpr CGColor kWhite = {1, 1, 1, 1};
 constexpr CGColor kBlack = {0, 0, 0, 1};
 
-/// The rows of an image without padding: where they are, or a copy.
-class ImageRows {
- public:
-  /// Throws as the provider does.
-  explicit ImageRows(const CGImage& image) : provided_(image.provider->Provide()) {
-    const std::size_t rowSize = image.RowSize();
-    if (image.bytesPerRow == rowSize && provided_.View().size() / rowSize >= image.height) {
-      rows_ = provided_.View().first(rowSize * image.height);
-    } else if ((packed_ = PackRows(provided_.View(), rowSize, image.height, image.bytesPerRow))) {
-      rows_ = *packed_;
-    }
-  }
-
-  /// @return none when there are too few.
-  [[nodiscard]] Bytes View() const { return rows_; }
-
- private:
-  CGProvidedBytes provided_;
-  std::optional<std::vector<unsigned char>> packed_;
-  Bytes rows_;
-};
-
 bool IsPixels(const CGImage& image) {
   return image.encoding == CGImage::Encoding::kPixels;
 }
 
 /// An image and its mask, which is as large, in one.
-std::vector<unsigned char> MaskedPixels(const CGImage& image, Bytes rows, Bytes maskRows) {
+std::vector<unsigned char> MaskedPixels(const CGImage& image, const CGImageRows& rows,
+                                        const CGImageRows& maskRows) {
   const CGImage& mask = *image.mask;
   std::vector<unsigned char> pixels;
   pixels.reserve(image.width * image.height * 4);
   for (std::size_t y = 0; y < image.height; ++y) {
-    const Bytes row = rows.subspan(y * image.RowSize(), image.RowSize());
-    const Bytes maskRow = maskRows.subspan(y * mask.RowSize(), mask.RowSize());
+    const Bytes row = rows.Row(y);
+    const Bytes maskRow = maskRows.Row(y);
     for (std::size_t x = 0; x < image.width; ++x) {
       const auto [red, green, blue] = ColorInRow(image, row, x);
       pixels.insert(pixels.end(), {red, green, blue, AlphaInRow(mask, maskRow, x)});
@@ -154,8 +134,8 @@ std::string SvgImages::StoreBare(const CGImage& image, const Look& look) {
     return Define(image.width, image.height, "jpeg",
                   {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   }
-  const ImageRows rows(image);
-  return StorePixels(image, rows.View(), look);
+  CGImageRows rows(image);
+  return StorePixels(image, rows.Packed(), look);
 }
 
 std::string SvgImages::StorePixels(const CGImage& image, Bytes rows, const Look& look) {
@@ -190,10 +170,10 @@ std::string SvgImages::DefinePicture(const CGImage& image, PngPicture picture, P
 std::string SvgImages::StoreMasked(const CGImage& image, const Look& look) {
   const CGImage& mask = *image.mask;
   if (IsOnePicture(image)) {
-    const ImageRows rows(image);
-    const ImageRows maskRows(mask);
-    if (rows.View().empty() || maskRows.View().empty()) return {};
-    const auto pixels = MaskedPixels(image, rows.View(), maskRows.View());
+    const CGImageRows rows(image);
+    const CGImageRows maskRows(mask);
+    if (!rows.AreWhole() || !maskRows.AreWhole()) return {};
+    const auto pixels = MaskedPixels(image, rows, maskRows);
     return DefinePicture(image, {image.width, image.height, PngColor::kRgba, 8, pixels},
                          look.pixels);
   }

@@ -71,8 +71,7 @@ Triangle ByColor(const Triangle& triangle) {
 }
 
 /// @return a line on which a value lies that is 0 at the first corner, 1 at the second and `third`
-/// at the
-///         third; nullopt where the corners lie on one line.
+///         at the third; nullopt where the corners lie on one line.
 std::optional<std::pair<CGPoint, CGPoint>> LineOf(const Triangle& triangle, double third) {
   const auto& [a, b, c] = triangle;
   const double bx = static_cast<double>(b.point.x) - a.point.x;

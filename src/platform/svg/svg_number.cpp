@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <string_view>
 
 namespace kelvane {
 namespace {

@@ -49,7 +49,7 @@ class SvgPaints {
 };
 
 /// @param scale  points a unit of that page.
-/// @return whether Windows shows the pixels of the image, which is drawn that large.
+/// @return whether the image is drawn so large that Windows shows its pixels.
 bool SvgIsSharp(const CGImage& image, const CGAffineTransform& toPage, double scale);
 
 }  // namespace kelvane

@@ -1,6 +1,5 @@
 #include "platform/svg/svg_text.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>

@@ -4,7 +4,8 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <vector>
+
+#include "platform/quartz/cg_image_rows.h"
 
 namespace kelvane {
 namespace {
@@ -53,16 +54,16 @@ std::string Rows(std::span<const unsigned char> bytes, std::size_t rowSize) {
 
 /// @return what the bytes are, after a word for it; nullopt when there are too few of them.
 std::optional<std::string> BytesLine(std::string_view words, const CGImage& image) {
-  const CGProvidedBytes provided = image.provider->Provide();
   std::string line(words);
   if (image.encoding == CGImage::Encoding::kJpeg) {
+    const CGProvidedBytes provided = image.provider->Provide();
     if (provided.View().empty()) return std::nullopt;
     line += Hash(provided.View());
   } else {
-    const auto pixels = PackRows(provided.View(), image.RowSize(), image.height, image.bytesPerRow);
-    if (!pixels) return std::nullopt;
+    CGImageRows rows(image);
+    if (!rows.AreWhole()) return std::nullopt;
     const bool isSmall = image.width <= kMostPixelsShown / image.height;
-    line += isSmall ? Rows(*pixels, image.RowSize()) : Hash(*pixels);
+    line += isSmall ? Rows(rows.Packed(), image.RowSize()) : Hash(rows.Packed());
   }
   return line + '\n';
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/quartz/cg_image_rows.h"
 #include "support/images.h"
 #include "support/surface.h"
 
