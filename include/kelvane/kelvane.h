@@ -46,9 +46,10 @@ typedef struct KelvaneData* CFMutableDataRef;
 
 /* How something ended. The tool kelvane exits with the same numbers. */
 typedef enum kelvane_status {
-  KELVANE_DONE = 0,       /* there is a document, or the option is set */
-  KELVANE_REFUSED = 1,    /* there is no such option, or it cannot have such a value */
-  KELVANE_NO_PICTURE = 2, /* the input is no metafile, is damaged at its beginning, or is too large */
+  KELVANE_DONE = 0,    /* there is a document, or the option is set */
+  KELVANE_REFUSED = 1, /* there is no such option, or it cannot have such a value */
+  KELVANE_NO_PICTURE =
+      2, /* the input is no metafile, is damaged at its beginning, or is too large */
   KELVANE_INCOMPLETE = 3, /* the option "strict" is set, and the document lacks something */
   KELVANE_NO_DOCUMENT = 4 /* the document cannot be made: memory has run out, for example */
 } kelvane_status;

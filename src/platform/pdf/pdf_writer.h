@@ -103,8 +103,8 @@ class PdfWriter {
   std::size_t storedBytes_ = 0;                                 // of all streams
   std::unordered_multimap<std::size_t, StoredStream> streams_;  // shared; by a hash of all of it
   std::set<std::string> layouts_;  // of streams: dictionaries without the data's entries, filters
-  std::map<std::string, QPDFObjectHandle> objects_;             // shared; as they are written
-  std::map<std::string, QPDFObjectHandle> entries_;             // the same, of dictionaries
+  std::map<std::string, QPDFObjectHandle> objects_;  // shared; as they are written
+  std::map<std::string, QPDFObjectHandle> entries_;  // the same, of dictionaries
   std::map<DocumentPage, QPDFObjectHandle> forms_;
   std::map<CGCompositing, QPDFObjectHandle> graphicsStates_;
   std::map<CGFontRef, std::size_t> fontIndexes_;
