@@ -1,6 +1,7 @@
 #include <csignal>
 #include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -126,28 +127,56 @@ TEST_F(AllocationFailure, OfOurOwnGivesTheWholeDocumentOrNoneAndLosesNothingFrom
   WalkLosingNothing([this](std::uint64_t count) { return FailFromFile(Request::kOwnNew, count); });
 }
 
-/// Converts as the tool kelvane does. @return the status as the classic calls have it.
-int ConvertPicture(const File& picture) {
-  kelvane_options* const options = kelvane_options_new();
-  int status = -1;
-  if (options != nullptr && kelvane_options_set(options, "page", "bounds") == KELVANE_DONE) {
-    kelvane_result* const result = kelvane_convert(picture.data(), picture.size(), options);
-    std::size_t length = 0;
-    const bool isDone = result != nullptr && kelvane_result_status(result) == KELVANE_DONE;
-    EXPECT_EQ(isDone, result != nullptr && kelvane_result_data(result, &length) != nullptr);
-    status = isDone ? 0 : -1;
-    kelvane_result_free(result);
-  }
-  kelvane_options_free(options);
-  return status;
+struct ResultFreer {
+  void operator()(kelvane_options* options) const { kelvane_options_free(options); }
+  void operator()(kelvane_result* result) const { kelvane_result_free(result); }
+};
+
+/// Converts as the tool kelvane does. @return the document; empty when there is none.
+std::string DocumentOf(const File& picture, const char* format) {
+  const std::unique_ptr<kelvane_options, ResultFreer> options(kelvane_options_new());
+  if (!options || kelvane_options_set(options.get(), "format", format) != KELVANE_DONE) return {};
+  const std::unique_ptr<kelvane_result, ResultFreer> result(
+      kelvane_convert(picture.data(), picture.size(), options.get()));
+  if (!result) return {};
+  std::size_t length = 0;
+  const auto* const data = static_cast<const char*>(kelvane_result_data(result.get(), &length));
+  EXPECT_EQ(kelvane_result_status(result.get()) == KELVANE_DONE, data != nullptr);
+  return data != nullptr ? std::string(data, length) : std::string();
 }
 
-TEST_F(AllocationFailure, OfOurOwnGivesAWholeResultOrNoneAndLosesNothing) {
-  Use(Picture());
-  WalkLosingNothing([this](std::uint64_t count) {
-    return Fail(Request::kOwnNew, count, [this] { return ConvertPicture(picture_); });
-  });
+class AllocationFailureAsWindowsShowsIt : public AllocationFailure,
+                                          public testing::WithParamInterface<const char*> {
+ protected:
+  void UsePicture(const Metafile& metafile) {
+    Use(metafile);
+    whole_ = DocumentOf(picture_, GetParam());
+    ASSERT_NE(whole_, "");
+  }
+
+  Ending FailAsWindowsShowsIt(Request kind, std::uint64_t count) {
+    bool isWhole = false;
+    const Ending ending = Fail(kind, count, [&] {
+      const std::string document = DocumentOf(picture_, GetParam());
+      isWhole = document == whole_;
+      return document.empty() ? -1 : 0;
+    });
+    EXPECT_EQ(isWhole, ending.status == 0);
+    return ending;
+  }
+
+ private:
+  std::string whole_;
+};
+
+TEST_P(AllocationFailureAsWindowsShowsIt, OfOurOwnGivesTheWholeDocumentOrNoneAndLosesNothing) {
+  UsePicture(PictureWithText());
+  WalkLosingNothing(
+      [this](std::uint64_t count) { return FailAsWindowsShowsIt(Request::kOwnNew, count); });
 }
+
+INSTANTIATE_TEST_SUITE_P(, AllocationFailureAsWindowsShowsIt, testing::Values("pdf", "svg", "png"),
+                         [](const auto& row) { return std::string(row.param); });
 
 // The font libraries do not survive it everywhere, so without text; and others lose a little.
 TEST_F(AllocationFailure, OfMallocGivesTheWholeDocumentOrNone) {

@@ -1,30 +1,48 @@
 #include "platform/fonts/glyph_outline.h"
 
+#include <exception>
+#include <utility>
+
 namespace kelvane {
 namespace {
 
-CGPath& PathIn(void* drawing) {
-  return *static_cast<CGPath*>(drawing);
+/// What the functions draw on.
+struct Drawing {
+  CGPath path;
+  std::exception_ptr failure;
+};
+
+/// Takes a step of an outline, unless one before it failed. Nothing may be thrown through the
+/// library.
+template <class Step>
+void Draw(void* data, const Step& step) {
+  auto& drawing = *static_cast<Drawing*>(data);
+  if (drawing.failure) return;
+  try {
+    step(drawing.path);
+  } catch (...) {
+    drawing.failure = std::current_exception();
+  }
 }
 
-void Move(hb_draw_funcs_t* /*functions*/, void* path, hb_draw_state_t* /*state*/, float x, float y,
-          void* /*userData*/) {
-  PathIn(path).MoveTo({x, y});
+void Move(hb_draw_funcs_t* /*functions*/, void* drawing, hb_draw_state_t* /*state*/, float x,
+          float y, void* /*userData*/) {
+  Draw(drawing, [=](CGPath& path) { path.MoveTo({x, y}); });
 }
 
-void Line(hb_draw_funcs_t* /*functions*/, void* path, hb_draw_state_t* /*state*/, float x, float y,
-          void* /*userData*/) {
-  PathIn(path).LineTo({x, y});
+void Line(hb_draw_funcs_t* /*functions*/, void* drawing, hb_draw_state_t* /*state*/, float x,
+          float y, void* /*userData*/) {
+  Draw(drawing, [=](CGPath& path) { path.LineTo({x, y}); });
 }
 
-void Curve(hb_draw_funcs_t* /*functions*/, void* path, hb_draw_state_t* /*state*/, float x1,
+void Curve(hb_draw_funcs_t* /*functions*/, void* drawing, hb_draw_state_t* /*state*/, float x1,
            float y1, float x2, float y2, float x, float y, void* /*userData*/) {
-  PathIn(path).CurveTo({x1, y1}, {x2, y2}, {x, y});
+  Draw(drawing, [=](CGPath& path) { path.CurveTo({x1, y1}, {x2, y2}, {x, y}); });
 }
 
-void Close(hb_draw_funcs_t* /*functions*/, void* path, hb_draw_state_t* /*state*/,
+void Close(hb_draw_funcs_t* /*functions*/, void* drawing, hb_draw_state_t* /*state*/,
            void* /*userData*/) {
-  PathIn(path).Close();
+  Draw(drawing, [](CGPath& path) { path.Close(); });
 }
 
 // Quadratic curves, which have no function here, come as cubic ones.
@@ -42,9 +60,10 @@ hb_draw_funcs_t* PathFunctions() {
 
 CGPath GlyphOutline(hb_font_t* font, hb_codepoint_t glyph) {
   static hb_draw_funcs_t* const kFunctions = PathFunctions();  // threads may outlive static objects
-  CGPath outline;
-  hb_font_get_glyph_shape(font, glyph, kFunctions, &outline);
-  return outline;
+  Drawing drawing;
+  hb_font_get_glyph_shape(font, glyph, kFunctions, &drawing);
+  if (drawing.failure) std::rethrow_exception(drawing.failure);
+  return std::move(drawing.path);
 }
 
 }  // namespace kelvane

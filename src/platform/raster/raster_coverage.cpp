@@ -46,7 +46,7 @@ void RasterCoverage::Fill(bool isEvenOdd) {
     float winding = 0;
     for (std::uint8_t& pixel : pixels.Bytes(y)) {
       winding += *step++;
-      pixel = static_cast<std::uint8_t>(Covered(winding, isEvenOdd) * 255 + 0.5F);
+      pixel = static_cast<std::uint8_t>(std::lround(Covered(winding, isEvenOdd) * 255));
     }
   }
 }
