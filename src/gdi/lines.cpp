@@ -36,15 +36,18 @@ void AddCurves(FigurePath& figures, ArrayView<Point> points) {
   }
 }
 
-/// Calls `visit(points)` for each figure.
+/// Calls `visit(points)` for each figure. @return whether each has all its points.
 template <class Count, class Point, class Visitor>
-void ForEachFigure(ArrayView<Count> counts, ArrayView<Point> points, Visitor visit) {
+bool ForEachFigure(ArrayView<Count> counts, ArrayView<Point> points, Visitor visit) {
+  bool areWhole = true;
   std::size_t start = 0;
   for (const Count count : counts) {
     const std::size_t size = std::min<std::size_t>(count, points.size() - start);
     visit(points.Part(start, size));
     start += size;
+    areWhole = areWhole && size == count;
   }
+  return areWhole;
 }
 
 /// Whether a line that goes on where another ends looks as both of them do: corners as round as
@@ -176,17 +179,23 @@ void Polygon(DeviceContext& device, ArrayView<Point> points) {
 }
 
 template <class Point>
-void PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points) {
+bool PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points) {
+  bool areWhole = true;
   DrawFigures(device, PaintKind::kStroke, [&](FigurePath& figures) {
-    ForEachFigure(counts, points, [&](ArrayView<Point> line) { AddLine(figures, line); });
+    areWhole =
+        ForEachFigure(counts, points, [&](ArrayView<Point> line) { AddLine(figures, line); });
   });
+  return areWhole;
 }
 
 template <class Count, class Point>
-void PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points) {
+bool PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points) {
+  bool areWhole = true;
   DrawFigures(device, PaintKind::kFillAndStroke, [&](FigurePath& figures) {
-    ForEachFigure(counts, points, [&](ArrayView<Point> polygon) { AddPolygon(figures, polygon); });
+    areWhole = ForEachFigure(counts, points,
+                             [&](ArrayView<Point> polygon) { AddPolygon(figures, polygon); });
   });
+  return areWhole;
 }
 
 template <class Point>
@@ -210,11 +219,11 @@ template void PolyBezierTo(DeviceContext&, ArrayView<PointL>);
 template void PolyBezierTo(DeviceContext&, ArrayView<Point16>);
 template void Polygon(DeviceContext&, ArrayView<PointL>);
 template void Polygon(DeviceContext&, ArrayView<Point16>);
-template void PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<PointL>);
-template void PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
-template void PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<PointL>);
-template void PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
-template void PolyPolygon(DeviceContext&, ArrayView<std::uint16_t>, ArrayView<Point16>);
+template bool PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<PointL>);
+template bool PolyPolyline(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
+template bool PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<PointL>);
+template bool PolyPolygon(DeviceContext&, ArrayView<std::uint32_t>, ArrayView<Point16>);
+template bool PolyPolygon(DeviceContext&, ArrayView<std::uint16_t>, ArrayView<Point16>);
 template bool PolyDraw(DeviceContext&, ArrayView<PointL>, ArrayView<PointType>);
 template bool PolyDraw(DeviceContext&, ArrayView<Point16>, ArrayView<PointType>);
 

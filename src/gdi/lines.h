@@ -31,12 +31,13 @@ template <class Point>
 void Polygon(DeviceContext& device, ArrayView<Point> points);
 
 /// @param counts  points of each line; those that the points do not reach are cut short.
+/// @return whether none is.
 template <class Point>
-void PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points);
+bool PolyPolyline(DeviceContext& device, ArrayView<std::uint32_t> counts, ArrayView<Point> points);
 
-/// Filled as one, so that polygons are holes in one another.
+/// Filled as one, so that polygons are holes in one another. Counts and result are as above.
 template <class Count, class Point>
-void PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points);
+bool PolyPolygon(DeviceContext& device, ArrayView<Count> counts, ArrayView<Point> points);
 
 /// @param types  of the points, as many.
 /// @return false, and draws what comes before, at a type that is none.

@@ -17,7 +17,7 @@ namespace kelvane {
 enum class Omission : std::uint8_t {
   kLeftOut,     // it left no mark and should have
   kOnlyNearly,  // its mark is only near
-  kDamaged,     // it could not be read whole, and was skipped
+  kDamaged,     // it could not be read whole, and was skipped, or drawn as far as it goes
 };
 
 /// Records of one kind that came out alike.

@@ -14,6 +14,7 @@ constexpr std::uint32_t kCreatePalette = 49;
 constexpr std::uint32_t kPolyTextOut = 97;
 
 constexpr const char* kEndsEarly = "it is too short for its fields";
+constexpr const char* kTooFewRectangles = "its region has fewer rectangles than it counts";
 
 /// A record, and the square.
 File Of(std::uint32_t type, const Bytes& body) {
@@ -61,16 +62,18 @@ std::vector<Attack> Counts() {
       {"figures_whose_points_wrap",
        [] {
          return Of(EMR_POLYPOLYGON16, FiguresPromised(3, 3, {0xFFFFFFFF, 2, 2}));
-       }},
+       },
+       "it has fewer points than its figures count"},
       {"windows_figures_of_more_points_than_there_are",
        [] {
          const Bytes counts = Bytes().U16(4).U16(0xFFFF).U16(0xFFFF).U16(0xFFFF).U16(3);
          return Followed(HundredUnits().Record(0x0538, Bytes(counts).Point(1, 1).Point(9, 9)));
        },
        kEndsEarly},
-      {"a_region_whose_size_wraps", [] { return ClipPromised(0x10000001); }},
+      {"a_region_whose_size_wraps", [] { return ClipPromised(0x10000001); }, kTooFewRectangles},
       {"a_painted_region_whose_size_wraps",
-       [=] { return Of(kFillRgn, Bytes(fill).Append(RegionPromised(0x10000001).Data())); }},
+       [=] { return Of(kFillRgn, Bytes(fill).Append(RegionPromised(0x10000001).Data())); },
+       kTooFewRectangles},
       {"a_palette_of_more_than_it_has",
        [] { return Of(kCreatePalette, Bytes().U32(1).U16(0x300).U16(0xFFFF).U32(0)); }, kEndsEarly},
       {"texts_whose_size_wraps",

@@ -12,6 +12,7 @@ inline namespace metafile {
 struct RegionData {
   RectangleL bounds;
   ArrayView<RectangleL> rectangles;
+  bool isWhole = true;  // whether there are as many as are counted
 };
 
 /// @param size  the bytes of the region as its record has them.
@@ -24,7 +25,8 @@ inline RegionData DecodeRegionData(ByteView& bytes, std::uint32_t size) {
   data.Skip(sizeof(std::uint32_t));  // the bytes of the rectangles, which may be wrong
   const auto bounds = data.Read<RectangleL>();
   if (data.IsShort()) bytes.Fail();
-  return {bounds, data.ArrayUpTo<RectangleL>(count)};
+  const auto rectangles = data.ArrayUpTo<RectangleL>(count);
+  return {bounds, rectangles, rectangles.size() == count};
 }
 
 }  // namespace metafile

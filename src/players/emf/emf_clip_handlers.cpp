@@ -1,6 +1,7 @@
 #include "gdi/clipping.h"
 #include "metafile/emf/emf_clip_records.h"
 #include "players/emf/emf_handler.h"
+#include "players/emf/emf_regions.h"
 
 namespace kelvane {
 namespace {
@@ -16,8 +17,7 @@ constexpr EmfHandler kClipHandlers[] = {
        OffsetClipRgn(p.device, r.offset);
      })},
     {EMR_EXTSELECTCLIPRGN, Playing<DecodeExtSelectClipRgn>([](EmfPlayback& p, const auto& r) {
-       const auto region =
-           r.hasRegion ? std::optional<ArrayView<RectangleL>>(r.region.rectangles) : std::nullopt;
+       const auto region = r.hasRegion ? std::optional(RectanglesOf(p, r.region)) : std::nullopt;
        ExtSelectClipRgn(p.device, region, r.mode);
      })},
     {EMR_SETMETARGN, Calling([](DeviceContext& device) { SetMetaRgn(device); })},

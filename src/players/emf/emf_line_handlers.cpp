@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "gdi/lines.h"
 #include "metafile/emf/emf_line_records.h"
 #include "players/emf/emf_handler.h"
@@ -18,11 +20,12 @@ constexpr auto kPolyBezierTo = [](EmfPlayback& p, const auto& r) {
   PolyBezierTo(p.device, r.points);
 };
 constexpr auto kPolygon = [](EmfPlayback& p, const auto& r) { Polygon(p.device, r.points); };
+constexpr std::string_view kTooFewPoints = "it has fewer points than its figures count";
 constexpr auto kPolyPolyline = [](EmfPlayback& p, const auto& r) {
-  PolyPolyline(p.device, r.counts, r.points);
+  if (!PolyPolyline(p.device, r.counts, r.points)) p.Damaged(kTooFewPoints);
 };
 constexpr auto kPolyPolygon = [](EmfPlayback& p, const auto& r) {
-  PolyPolygon(p.device, r.counts, r.points);
+  if (!PolyPolygon(p.device, r.counts, r.points)) p.Damaged(kTooFewPoints);
 };
 constexpr auto kPolyDraw = [](EmfPlayback& p, const auto& r) {
   if (!PolyDraw(p.device, r.points, r.types)) p.Damaged("it has a point of an unknown kind");

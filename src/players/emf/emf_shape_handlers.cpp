@@ -3,6 +3,7 @@
 #include "metafile/emf/emf_region_records.h"
 #include "metafile/emf/emf_shape_records.h"
 #include "players/emf/emf_handler.h"
+#include "players/emf/emf_regions.h"
 
 namespace kelvane {
 namespace {
@@ -34,16 +35,16 @@ constexpr EmfHandler kShapeHandlers[] = {
        p.LeftOut("a flood fill needs the pixels of the page");
      })},
     {EMR_FILLRGN, Playing<DecodeFillRgn>([](EmfPlayback& p, const auto& r) {
-       FillRgn(p.device, r.region.rectangles, r.ihBrush);
+       FillRgn(p.device, RectanglesOf(p, r.region), r.ihBrush);
      })},
     {EMR_FRAMERGN, Playing<DecodeFrameRgn>([](EmfPlayback& p, const auto& r) {
-       FrameRgn(p.device, r.region.rectangles, r.ihBrush, r.frame);
+       FrameRgn(p.device, RectanglesOf(p, r.region), r.ihBrush, r.frame);
      })},
     {EMR_PAINTRGN, Playing<DecodePaintRgn>([](EmfPlayback& p, const auto& r) {
-       PaintRgn(p.device, r.region.rectangles);
+       PaintRgn(p.device, RectanglesOf(p, r.region));
      })},
     {EMR_INVERTRGN, Playing<DecodePaintRgn>([](EmfPlayback& p, const auto& r) {
-       InvertRgn(p.device, r.region.rectangles);
+       InvertRgn(p.device, RectanglesOf(p, r.region));
      })},
 };
 
