@@ -1,6 +1,5 @@
 #include "platform/pdf/cg_pdf_context.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,7 +10,7 @@
 #include "platform/pdf/pdf_font_choice.h"
 #include "platform/pdf/pdf_group.h"
 #include "platform/pdf/pdf_image.h"
-#include "platform/pdf/pdf_pattern.h"
+#include "platform/pdf/pdf_page_patterns.h"
 #include "platform/pdf/pdf_resources.h"
 #include "platform/pdf/pdf_shading.h"
 #include "platform/pdf/pdf_stencil.h"
@@ -87,7 +86,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     mediaBox_ = IsUsable(mediaBox) ? mediaBox : documentBox_;
     page_ = writer_.AddPage(mediaBox_);
     resources_ = PdfResources(page_.getKey("/Resources"));
-    patterns_ = {};
+    patterns_.Begin(mediaBox_);
     font_ = {};
     isBlended_ = false;
     clips_ = {};
@@ -111,7 +110,8 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
 
   void PathPainted(const CGPath& path, CGPathDrawingMode mode) override {
     const CGSharedPattern& pattern = Fills(mode) ? State().fillPattern : State().strokePattern;
-    if (Fills(mode) && Strokes(mode) && (IsVeiled(pattern) || IsVeiled(State().strokePattern))) {
+    if (Fills(mode) && Strokes(mode) &&
+        (patterns_.IsVeiled(pattern) || patterns_.IsVeiled(State().strokePattern))) {
       PathPainted(path, mode == kCGPathEOFillStroke ? kCGPathEOFill : kCGPathFill);
       PathPainted(path, kCGPathStroke);
       return;
@@ -120,7 +120,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     BeginVeil(pattern);
     if (IsMixedMesh(pattern)) {
       DrawInGroup([&](PdfContent& content, PdfResources& resources) {
-        const auto& name = resources.NameOf(UseOf(pattern).object, kPdfPattern);
+        const auto& name = resources.NameOf(patterns_.UseOf(pattern).object, kPdfPattern);
         Fills(mode) ? content.FillPattern(name) : content.StrokePattern(name);
         WritePath(content, path, mode);
       });
@@ -159,7 +159,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     BeginMark({}, State());
     const bool isVeiled = !IsOpaque(shading);
     if (isVeiled) content_.Save();
-    if (isVeiled) content_.GraphicsState(VeilOf({shading, {}, mediaBox_}));
+    if (isVeiled) content_.GraphicsState(patterns_.VeilOf(shading, {}));
     if ((isVeiled || IsMixed()) && std::holds_alternative<CGTriangleMesh>(shading)) {
       content_.DrawXObject(GroupOf({shading, {}, mediaBox_}));
     } else {
@@ -171,12 +171,6 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   /// Whether the state mixes marks with what lies below them.
   [[nodiscard]] bool IsMixed() const {
     return State().alpha != 1 || State().blendMode != kCGBlendModeNormal;
-  }
-
-  /// @return the name of the state that lets marks through by a shading's alpha.
-  const std::string& VeilOf(const PdfPlacedShading& placed) {
-    const auto group = AddShadingGroup(writer_, placed, PdfChannels::kAlpha);
-    return resources_.NameOf(AddMaskState(writer_, group), kPdfGraphicsState);
   }
 
   const std::string& GroupOf(const PdfPlacedShading& placed) {
@@ -194,7 +188,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
     BeginVeil(pattern);
     if (IsMixedMesh(pattern)) {
       DrawInGroup([&](PdfContent& content, PdfResources& resources) {
-        content.FillPattern(resources.NameOf(UseOf(pattern).object, kPdfPattern));
+        content.FillPattern(resources.NameOf(patterns_.UseOf(pattern).object, kPdfPattern));
         ShowRun(content, resources.NameOf(font_.font->Dictionary(), kPdfFont), run);
       });
     } else {
@@ -284,10 +278,10 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   void FillColor(const CGColor& color) override { content_.FillColor(color); }
   void StrokeColor(const CGColor& color) override { content_.StrokeColor(color); }
   void FillPattern(const CGSharedPattern& pattern) override {
-    content_.FillPattern(*UseOf(pattern).name);
+    content_.FillPattern(*patterns_.UseOf(pattern).name);
   }
   void StrokePattern(const CGSharedPattern& pattern) override {
-    content_.StrokePattern(*UseOf(pattern).name);
+    content_.StrokePattern(*patterns_.UseOf(pattern).name);
   }
   void LineWidth(CGFloat width) override { content_.LineWidth(width); }
   void LineCap(CGLineCap cap) override { content_.LineCap(cap); }
@@ -301,46 +295,21 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
         resources_.NameOf(writer_.AddGraphicsState(compositing), kPdfGraphicsState));
   }
 
-  /// A pattern as the page knows it. Names stay until the page ends.
-  struct PagePattern {
-    QPDFObjectHandle object;
-    const std::string* name = nullptr;
-    const std::string* veil = nullptr;  // the state of its alpha; null where it is opaque
-  };
-
-  /// Kept with its names, so that no other pattern can come to lie where it was.
-  PagePattern& UseOf(const CGSharedPattern& pattern) {
-    const auto [entry, isNew] = patterns_.try_emplace(pattern);
-    PagePattern& use = entry->second;
-    if (isNew) {
-      use.object = AddPattern(writer_, *pattern, images_);
-      use.name = &resources_.NameOf(use.object, kPdfPattern);
-      if (pattern->shading && !IsOpaque(*pattern->shading)) {
-        use.veil = &VeilOf({*pattern->shading, pattern->matrix, mediaBox_});
-      }
-    }
-    return use;
-  }
-
-  /// @param pattern  may be null, as in the next three.
-  bool IsVeiled(const CGSharedPattern& pattern) {
-    return pattern != nullptr && pattern->shading && UseOf(pattern).veil != nullptr;
-  }
-
+  /// @param pattern  may be null, as in the next two.
   void BeginVeil(const CGSharedPattern& pattern) {
-    if (!IsVeiled(pattern)) return;
+    if (!patterns_.IsVeiled(pattern)) return;
     content_.Save();
-    content_.GraphicsState(*UseOf(pattern).veil);
+    content_.GraphicsState(*patterns_.UseOf(pattern).veil);
   }
   void EndVeil(const CGSharedPattern& pattern) {
-    if (IsVeiled(pattern)) content_.Restore();
+    if (patterns_.IsVeiled(pattern)) content_.Restore();
   }
 
   /// Readers mix the parts of a mesh with each other, or forget the mask, unless it has a group.
   bool IsMixedMesh(const CGSharedPattern& pattern) {
     return pattern != nullptr && pattern->shading &&
            std::holds_alternative<CGTriangleMesh>(*pattern->shading) &&
-           (IsMixed() || IsVeiled(pattern));
+           (IsMixed() || patterns_.IsVeiled(pattern));
   }
 
   /// Widths, dashes and the mode of text are those of the state that the group is drawn in.
@@ -384,7 +353,7 @@ class CGPDFContext final : public CGContext, private CGClipOperators, private CG
   CGClipWriter clips_;      // of the content
   CGValueWriter values_;    // of the content
   PdfResources resources_;  // of the page
-  std::map<CGSharedPattern, PagePattern> patterns_;
+  PdfPagePatterns patterns_{writer_, images_, resources_};
   PageFont font_;           // of the last glyphs
   bool isBlended_ = false;  // a mark on the page is mixed with what lies below it
   std::optional<PendingPage> pending_;
