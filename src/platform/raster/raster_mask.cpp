@@ -8,10 +8,13 @@ namespace kelvane {
 
 RasterMask::RasterMask(cairo_t* drawing, const RasterBox& box) {
   const RasterBox seen = SeenBox(drawing);
-  left_ = static_cast<int>(std::floor(std::max(box.left, seen.left)));
-  top_ = static_cast<int>(std::floor(std::max(box.top, seen.top)));
-  width_ = std::max(static_cast<int>(std::ceil(std::min(box.right, seen.right))) - left_, 0);
-  height_ = std::max(static_cast<int>(std::ceil(std::min(box.bottom, seen.bottom))) - top_, 0);
+  // A box may lie off the page, farther than numbers of pixels reach.
+  left_ = static_cast<int>(std::floor(std::clamp(box.left, seen.left, seen.right)));
+  top_ = static_cast<int>(std::floor(std::clamp(box.top, seen.top, seen.bottom)));
+  const double right = std::ceil(std::clamp(box.right, seen.left, seen.right));
+  const double bottom = std::ceil(std::clamp(box.bottom, seen.top, seen.bottom));
+  width_ = std::max(static_cast<int>(right) - left_, 0);
+  height_ = std::max(static_cast<int>(bottom) - top_, 0);
   pixels_.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, width_, height_));
   if (cairo_surface_status(pixels_.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc();
 }

@@ -128,6 +128,23 @@ const Way kWays[] = {
 INSTANTIATE_TEST_SUITE_P(Every, PathOfManyLines, testing::ValuesIn(kWays),
                          [](const auto& row) { return row.param.name; });
 
+TEST(APathOfManyLines, LeavesThePageAloneHoweverFarAwayItLies) {
+  constexpr CGFloat kFar = 1e12F;
+  for (const CGPoint away : {CGPoint{-kFar, 0}, {kFar, 0}, {0, -kFar}, {0, kFar}}) {
+    const Raster picture = BitmapOf([away](CGContextRef c) {
+      std::vector<CGPoint> corners = Star();
+      for (CGPoint& corner : corners)
+        corner = {1000 * corner.x + away.x, 1000 * corner.y + away.y};
+      AddFigure(c, corners, 200, true);
+      CGContextDrawPath(c, kCGPathFillStroke);
+      CGContextAddRect(c, {{0, 0}, {50, 100}});
+      CGContextDrawPath(c, kCGPathFill);
+    });
+    EXPECT_EQ(picture.At(25, 50), (Raster::Color{0, 0, 0}));
+    EXPECT_EQ(picture.At(75, 50), kWhitePixel);
+  }
+}
+
 /// Lines across the page, each of which crosses most others.
 void AddTangle(CGContextRef c, int lines) {
   CGContextMoveToPoint(c, 0, 0);
