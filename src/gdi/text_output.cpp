@@ -44,11 +44,10 @@ Side SideOf(const DeviceState& state) {
   }
 }
 
-/// @return how far the baseline lies above the reference point, logical units. Fonts are measured
-/// in
-///         whole ones, or in pixels of the device where those are smaller, unless the height of
-///         their cell was asked for. Viewers put glyphs on whole rows, so the baseline is kept on
-///         the lower side of the edge of one.
+/// Fonts are measured in whole logical units, or in pixels of the device where those are smaller,
+/// unless the height of their cell was asked for. Viewers put glyphs on whole rows, so the baseline
+/// is kept on the lower side of the edge of one.
+/// @return how far the baseline lies above the reference point, logical units.
 double Lift(const DeviceState& state, const TextFont& font, const TextFrame& frame) {
   constexpr double kHair = 1.0 / 16;  // device units
   const auto alignment = static_cast<TextAlign>(state.textAlign & TA_VERTICALMASK);

@@ -306,12 +306,13 @@ Metafile GradientUnderWorld(const XForm& world) {
 }
 
 Metafile ManyTriangles() {
+  constexpr std::uint32_t kTriangleCount = 50'000;
   std::vector<std::uint32_t> indexes;
-  for (std::uint32_t i = 0; i < 100000; ++i) {
+  for (std::uint32_t i = 0; i < kTriangleCount; ++i) {
     for (const std::uint32_t index : {i % 4, (i + 1) % 4, (i + 2) % 4})
       indexes.push_back(index);
   }
-  return Gradient(kTriangles, 100000, {{0, 0}, {90, 0}, {90, 90}, {0, 90}}, indexes);
+  return Gradient(kTriangles, kTriangleCount, {{0, 0}, {90, 0}, {90, 90}, {0, 90}}, indexes);
 }
 
 Metafile ManyRectangles() {
