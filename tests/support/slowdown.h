@@ -7,7 +7,7 @@ namespace kelvane::test {
 /// How much longer a program may take that an instrumented build watches at every access. What is
 /// promised in seconds holds for the plain one.
 #ifdef KELVANE_SANITIZED
-inline constexpr int kSlowdown = 5;
+inline constexpr int kSlowdown = 8;
 #else
 inline constexpr int kSlowdown = 1;
 #endif
