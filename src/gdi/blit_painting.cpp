@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gdi/blit_images.h"
-#include "gdi/exactly.h"
+#include "gdi/figures.h"
 #include "gdi/image_marks.h"
 #include "gdi/marks.h"
 #include "gdi/page_color.h"
@@ -16,10 +16,7 @@ namespace {
 
 CGPath Quadrilateral(const std::array<PointD, 4>& corners) {
   CGPath path;
-  path.MoveTo(Rounded(corners[0]));
-  for (std::size_t i = 1; i < corners.size(); ++i)
-    path.LineTo(Rounded(corners[i]));
-  path.Close();
+  AddQuadrilateral(path, corners);
   return path;
 }
 

@@ -140,4 +140,11 @@ std::optional<EllipticArc> ArcAround(PointD center, double radius, double startA
                      -std::clamp(sweepAngle, -360.0, 360.0) * kRadiansPerDegree};
 }
 
+void AddQuadrilateral(CGPath& path, const std::array<PointD, 4>& corners) {
+  path.MoveTo(Rounded(corners[0]));
+  for (std::size_t i = 1; i < corners.size(); ++i)
+    path.LineTo(Rounded(corners[i]));
+  path.Close();
+}
+
 }  // namespace kelvane

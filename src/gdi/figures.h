@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <optional>
 
+#include "gdi/exactly.h"
 #include "gdi/geometry.h"
 #include "metafile/gdi_enumerations.h"
 #include "platform/quartz/cg_path.h"
@@ -81,13 +83,13 @@ class FigurePath {
   void AddArc(const EllipticArc& arc);
 
  private:
-  [[nodiscard]] CGPoint Mapped(PointD point) const {
-    const PointD device = toDevice_.Map(point);
-    return {static_cast<CGFloat>(device.x), static_cast<CGFloat>(device.y)};
-  }
+  [[nodiscard]] CGPoint Mapped(PointD point) const { return Rounded(toDevice_.Map(point)); }
 
   CGPath& path_;
   TransformD toDevice_;
 };
+
+/// Adds a closed figure. @param corners  device units, in its order.
+void AddQuadrilateral(CGPath& path, const std::array<PointD, 4>& corners);
 
 }  // namespace kelvane

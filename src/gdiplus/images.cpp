@@ -5,7 +5,7 @@
 #include <variant>
 
 #include "gdi/blit.h"
-#include "gdi/exactly.h"
+#include "gdi/figures.h"
 #include "gdi/image_marks.h"
 #include "gdiplus/image_pixels.h"
 #include "gdiplus/painting.h"
@@ -96,14 +96,6 @@ Source SourceOf(const CGImage& image, const RectF& source) {
           Snapped({source.y, source.height}, height)};
 }
 
-void AddParallelogram(CGPath& path, const TransformD& unitToDevice) {
-  const std::array<PointD, 4> corners = CornersOf(unitToDevice);
-  path.MoveTo(Rounded(corners[0]));
-  for (std::size_t i = 1; i < corners.size(); ++i)
-    path.LineTo(Rounded(corners[i]));
-  path.Close();
-}
-
 void DrawPixels(Graphics& graphics, const CGImage& image, const Source& source,
                 const TransformD& unitToDevice) {
   if (!source.IsSeen()) return;
@@ -113,7 +105,7 @@ void DrawPixels(Graphics& graphics, const CGImage& image, const Source& source,
   Canvas& canvas = *graphics.canvas;
   if (source.IsAll()) return DrawImage(canvas, image, imageToDevice, {});
   CGPath part;
-  AddParallelogram(part, unitToDevice);
+  AddQuadrilateral(part, CornersOf(unitToDevice));
   canvas.Surface().SaveGState();
   if (canvas.ClipTo(part)) DrawImage(canvas, image, imageToDevice, {});
   canvas.Surface().RestoreGState();
@@ -123,12 +115,12 @@ void DrawPixels(Graphics& graphics, const CGImage& image, const Source& source,
 void PaintAround(Graphics& graphics, const Source& source, const TransformD& unitToDevice,
                  Argb color) {
   CGPath around;
-  AddParallelogram(around, unitToDevice);
+  AddQuadrilateral(around, CornersOf(unitToDevice));
   if (source.IsSeen()) {
     const SourceSide x = source.x.Within(source.width);
     const SourceSide y = source.y.Within(source.height);
     const TransformD seen = TransformD{x.length, 0, 0, y.length, x.from, y.from};
-    AddParallelogram(around, seen.Then(source.PixelsToUnit()).Then(unitToDevice));
+    AddQuadrilateral(around, CornersOf(seen.Then(source.PixelsToUnit()).Then(unitToDevice)));
   }
   PaintFill(graphics, around, ALTERNATE, color);
 }
@@ -141,7 +133,7 @@ void PaintRepeated(Graphics& graphics, const EmfPlusImage& image, const Source& 
   brush.wrap = wrap;
   brush.transform = Stored(source.PixelsToUnit().Then(UnitTo(corners)));
   CGPath part;
-  AddParallelogram(part, UnitTo(corners).Then(WorldToDevice(graphics)));
+  AddQuadrilateral(part, CornersOf(UnitTo(corners).Then(WorldToDevice(graphics))));
   PaintFill(graphics, part, ALTERNATE, brush);
 }
 
